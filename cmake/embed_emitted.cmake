@@ -1,0 +1,13 @@
+# Writes a header that holds each emitted file as a string constant:
+#   cmake -DOUTPUT=header -DFILES="a.cpp;b.cpp" -P embed_emitted.cmake
+# The constant is named after the file. A raw string may be of any length for g++ and clang++.
+set(text "// Made from src/emitted by the build. Never edited.\n#pragma once\n\n#include <string_view>\n\nnamespace emitted {\n")
+foreach(file IN LISTS FILES)
+    get_filename_component(name "${file}" NAME_WE)
+    file(READ "${file}" content)
+    string(APPEND text "\ninline constexpr std::string_view ${name} = R\"EMITTED(${content})EMITTED\";\n")
+endforeach()
+string(APPEND text "\n}  // namespace emitted\n")
+file(WRITE "${OUTPUT}.new" "${text}")
+file(COPY_FILE "${OUTPUT}.new" "${OUTPUT}" ONLY_IF_DIFFERENT)
+file(REMOVE "${OUTPUT}.new")

@@ -1,0 +1,32 @@
+// What the driver prints: its texts are part of the interface, to the blank.
+#pragma once
+
+#include <string>
+
+constexpr const char* kRed = "\033[1;31m";
+constexpr const char* kGreen = "\033[1;32m";
+constexpr const char* kYellow = "\033[1;33m";
+constexpr const char* kBlue = "\033[1;34m";
+constexpr const char* kCyan = "\033[1;36m";
+constexpr const char* kWhite = "\033[1;37m";
+constexpr const char* kReset = "\033[0m";
+
+/// What a first build shows on standard error for an exception of each phase. The exception's own
+/// text is dropped: a diagnostic never comes this way.
+extern const char* const kScanFailure;
+extern const char* const kParseFailure;
+extern const char* const kGenerateFailure;
+
+void printVersionScreen();
+
+/// Opens the web road. Its last line stays open: the next print closes it.
+void printWebOpening();
+
+void printCompileBanner();
+
+/// Prints the title of a build letter by letter. It goes by bytes, 20 milliseconds each: the
+/// pause is part of the tool's manner.
+void animateCompilation(std::string filename);
+
+/// Says goodbye and ends the process with status 0. The web road's handler of SIGINT.
+void signal_handler(int signal);

@@ -1,0 +1,14 @@
+// The console road's build: g++ over the generated text, and the run of what comes out.
+#pragma once
+
+#include <string>
+
+struct NativeBuild {
+    std::string appDirectory;
+    std::string generatedPath;
+    std::string cacheDirectory;
+};
+
+/// Builds the program with g++ and runs it to its end in the same terminal; its status is
+/// dropped. A failed build leaves the last good executable in place and returns false.
+bool buildNativeProgram(const NativeBuild& build);

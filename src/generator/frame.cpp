@@ -1,0 +1,167 @@
+// The generated file from top to bottom: the table of its sections, and the sections that depend
+// on the program.
+#include "generator/generator.h"
+
+#include "emitted_text.h"
+#include "generator/static_error.h"
+
+namespace {
+
+/// Guards the wrappers of statements at file scope. It is only ever cleared, so they are never
+/// written. Meant.
+bool g_isGlobalScope = false;
+
+}  // namespace
+
+// Each section needs only what stands before it. An empty one keeps the place of text to come.
+const Generator::Section Generator::kSections[] = {
+    {"includes", emitted::includes, nullptr},
+    {"first web block", emitted::web_headers, nullptr},
+    {"globals", emitted::globals, nullptr},
+    {"navigation", emitted::navigation, nullptr},
+    {"input state", emitted::input_state, nullptr},
+    {"web entry points", "", nullptr},
+    {"base structures and diagnostics headers", emitted::base_structures, nullptr},
+    {"run-time failures", "", nullptr},
+    {"dynamic values", emitted::any_to_string, nullptr},
+    {"animation engine", "", nullptr},
+    {"library: files and text", "", nullptr},
+    {"library: time", emitted::time_text, nullptr},
+    {"library: input, lists, rounding", "", nullptr},
+    {"scroll state", "", nullptr},
+    {"second web block", emitted::web_boilerplate, nullptr},
+    {"structures", "", &Generator::writeStructures},
+    {"functions", "", &Generator::writeFunctions},
+    {"init_globals", "", &Generator::writeInitGlobals},
+    {"main", "", &Generator::writeMain},
+};
+
+std::string Generator::generate() {
+    out.imbue(std::locale::classic());  // a decimal point in every locale
+    for (const Section& section : kSections) {
+        if (section.write == nullptr) {
+            writeText(section.text);
+        } else {
+            (this->*section.write)();
+        }
+    }
+    return out.str();
+}
+
+/// Runtime text with its placeholders filled in, and a blank line behind it.
+void Generator::writeText(std::string_view text) {
+    if (text.empty()) return;
+    struct Placeholder {
+        std::string_view name;
+        std::string value;
+    };
+    const Placeholder placeholders[] = {
+        {"POZHIL_SOURCE_FILE", quoted(filename)},
+        {"POZHIL_INITIAL_PAGE", quoted(initialPage())},
+    };
+    std::string filled(text);
+    for (const Placeholder& placeholder : placeholders) {
+        std::size_t at = filled.find(placeholder.name);
+        while (at != std::string::npos) {
+            filled.replace(at, placeholder.name.size(), placeholder.value);
+            at = filled.find(placeholder.name, at + placeholder.value.size());
+        }
+    }
+    out << filled << "\n";
+}
+
+/// The page shown first: the first application's page, or the one marked as the start.
+std::string Generator::initialPage() const {
+    std::string page;
+    for (const auto& statement : program.statements) {
+        const auto* app = dynamic_cast<const WebAppNode*>(statement.get());
+        if (app == nullptr) continue;
+        const auto* header = dynamic_cast<const WidgetNode*>(app->header.get());
+        if (header == nullptr) continue;
+
+        const auto named = header->properties.find("பக்கம்");
+        if (named == header->properties.end()) continue;
+        const auto* name = dynamic_cast<const StringLiteral*>(named->second.get());
+        if (name == nullptr) continue;
+        if (page.empty()) page = name->value;
+
+        const auto marked = header->properties.find("ஆரம்ப_பக்கம்");
+        if (marked == header->properties.end()) continue;
+        const auto* mark = dynamic_cast<const BooleanLiteral*>(marked->second.get());
+        if (mark != nullptr && mark->value == "மெய்") page = name->value;
+    }
+    return page.empty() ? "home" : page;
+}
+
+bool Generator::holdsWebApp() const {
+    for (const auto& statement : program.statements) {
+        if (dynamic_cast<const WebAppNode*>(statement.get()) != nullptr) return true;
+    }
+    return false;
+}
+
+void Generator::writeStructures() {
+    for (const auto& statement : program.statements) {
+        if (const auto* node = dynamic_cast<const StructDefinitionStatement*>(statement.get())) {
+            visitStructDefinitionStatement(node);
+        }
+    }
+}
+
+/// In source order, without prototypes: a function can call what stands before it, and itself.
+void Generator::writeFunctions() {
+    for (const auto& statement : program.statements) {
+        if (const auto* node = dynamic_cast<const FunctionDefinitionStatement*>(statement.get())) {
+            visitFunctionDefinitionStatement(node);
+        }
+    }
+}
+
+void Generator::writeInitGlobals() {
+    out << "void init_globals() {\n";
+    indentLevel++;
+    g_isGlobalScope = false;
+    for (const auto& statement : program.statements) {
+        if (const auto* app = dynamic_cast<const WebAppNode*>(statement.get())) {
+            generateLogic(app->logic.get());
+        }
+    }
+    indentLevel--;
+    out << "}\n\n";
+}
+
+void Generator::writeMain() {
+    if (holdsWebApp()) throw_static_error("பொழில்-399", "Unknown statement type in generator");
+    writeConsoleMain();
+}
+
+/// It doesn't call init_globals. Meant: a console program has nothing there.
+void Generator::writeConsoleMain() {
+    out << "int main() {\n";
+    indentLevel++;
+    for (const auto& statement : program.statements) {
+        const Statement* node = statement.get();
+        if (node == nullptr || dynamic_cast<const StructDefinitionStatement*>(node) != nullptr ||
+            dynamic_cast<const FunctionDefinitionStatement*>(node) != nullptr ||
+            dynamic_cast<const AbstractStructDefinitionStatement*>(node) != nullptr) {
+            continue;
+        }
+        visitStatement(node);
+    }
+    indentLevel--;
+    indent();
+    out << "return 0;\n}\n";
+}
+
+void Generator::generateLogic(const Statement* statement) {
+    if (const auto* logic = dynamic_cast<const LogicBlockNode*>(statement)) {
+        visitLogicBlockNode(logic);
+    }
+}
+
+void Generator::visitLogicBlockNode(const LogicBlockNode* logic) {
+    if (logic->body == nullptr) return;
+    for (const auto& statement : logic->body->statements) {
+        if (statement != nullptr) visitStatement(statement.get());
+    }
+}

@@ -1,0 +1,238 @@
+// The scanner's frame: lines, indentation, comments, strings and the order in which the kinds of
+// token are tried. Numbers and words stand in files of their own.
+#include "lexer/lexer.h"
+
+#include "error_codes.h"
+#include "error_handler.h"
+#include "lexer/utf8.h"
+#include "lexer/word_tables.h"
+
+namespace {
+
+const char* const kCommentMark = "ஃ";        // three bytes
+const char* const kBlockCommentMark = "ஃஃ";  // opens and closes a block comment
+constexpr int kBlockMarkLength = 6;
+
+/// Symbols that are a token by themselves.
+struct SymbolRow {
+    int byte;
+    TokenType kind;
+};
+
+const SymbolRow kSymbols[] = {
+    {'(', TokenType::LEFT_PAREN},    {')', TokenType::RIGHT_PAREN},  {':', TokenType::COLON},
+    {'?', TokenType::QUESTION},      {';', TokenType::NEWLINE},      {',', TokenType::COMMA},
+    {'.', TokenType::DOT},           {'[', TokenType::LEFT_BRACKET}, {']', TokenType::RIGHT_BRACKET},
+    {'{', TokenType::LEFT_BRACE},    {'}', TokenType::RIGHT_BRACE},  {'*', TokenType::STAR},
+};
+
+}  // namespace
+
+Lexer::Lexer(const std::string& source, const std::string& filename)
+    : source(source), filename(filename) {}
+
+std::vector<Token> Lexer::tokenize() {
+    std::vector<Token> tokens;
+    while (peek() != 0) {
+        if (atLineStart && !startLine(tokens)) continue;
+
+        Token token = getNextToken();
+        if (token.type == TokenType::UNKNOWN) continue;
+        if (token.type == TokenType::NEWLINE) atLineStart = true;
+        tokens.push_back(std::move(token));
+    }
+
+    while (indentStack.back() > 0) {
+        indentStack.pop_back();
+        tokens.push_back(make(TokenType::DEDENT, "0"));
+    }
+    tokens.push_back(make(TokenType::END_OF_FILE, ""));
+    return tokens;
+}
+
+/// Measures a logical line. False if the main loop must look again before it takes a token: the
+/// line is blank, holds only a comment, or opens with a block comment.
+bool Lexer::startLine(std::vector<Token>& tokens) {
+    lineStart = position;
+    const auto start = static_cast<std::size_t>(position);
+    const std::size_t end = source.find('\n', start);
+    currentLine = source.substr(start, end == std::string::npos ? end : end - start);
+    checkMixedIndentation();
+
+    // The width and not the byte count: each leading tab jumps three bytes further into the line.
+    // Meant: sources are indented with blanks.
+    const int indent = getCurrentIndent();
+    position = lineStart + indent;
+
+    if (peek() == '\n') {
+        lineNumber++;
+        advance();
+        return false;
+    }
+    if (startsWith(kBlockCommentMark)) {
+        atLineStart = false;  // getNextToken skips it; this line counts no indentation
+        return false;
+    }
+    if (startsWith(kCommentMark)) {
+        while (peek() != 0 && peek() != '\n') advance();
+        return false;
+    }
+    atLineStart = false;
+    emitIndentation(indent, tokens);
+    return true;
+}
+
+void Lexer::emitIndentation(int indent, std::vector<Token>& tokens) {
+    if (indent > indentStack.back()) {
+        indentStack.push_back(indent);
+        tokens.push_back(make(TokenType::INDENT, std::to_string(indent)));
+        return;
+    }
+    if (indent == indentStack.back()) return;
+    while (indentStack.back() > indent) {
+        indentStack.pop_back();
+        tokens.push_back(make(TokenType::DEDENT, std::to_string(indentStack.back())));
+    }
+    checkIndentationMatches(indent);
+}
+
+Token Lexer::getNextToken() {
+    do {
+        skipWhitespace();
+        if (peek() == '\n') return scanLineEnd();
+    } while (skipComment());
+
+    const int byte = peek();
+    if (byte == '"') return scanString();
+    if (byte == '\'') return scanCharacter();
+    if (byte >= '0' && byte <= '9') return scanWesternNumber();
+    if (atTamilDigit()) return scanTamilNumber();
+    if (byte == '=') return scanEquals();
+    for (const SymbolRow& symbol : kSymbols) {
+        if (byte == symbol.byte) return scanSymbol(symbol.kind);
+    }
+    return scanWord();
+}
+
+Token Lexer::scanLineEnd() {
+    lineNumber++;
+    advance();
+    Token token = make(TokenType::NEWLINE, "\\n");
+    token.line = lineNumber - 1;
+    return token;
+}
+
+/// Passes one comment at the cursor, if one stands there. Block comments don't nest.
+bool Lexer::skipComment() {
+    if (peek() != 0xE0 || !startsWith(kCommentMark)) return false;
+    if (!startsWith(kBlockCommentMark)) {
+        while (peek() != 0 && peek() != '\n') advance();
+        return true;
+    }
+
+    position += kBlockMarkLength;
+    const auto from = static_cast<std::size_t>(position);
+    const std::size_t end = source.find(kBlockCommentMark, from);
+    const std::string_view body = std::string_view(source).substr(from, end - from);
+    if (end == std::string::npos || body.find('\0') != std::string_view::npos) {
+        refuseOpenComment();
+        position = static_cast<int>(source.size());
+        return true;
+    }
+    for (; position < static_cast<int>(end); position++) {
+        if (peek() == '\n') lineNumber++;
+    }
+    position += kBlockMarkLength;
+    return true;
+}
+
+/// A string has no escapes here: a backslash stays in the text, and a double quote can't be put
+/// in. A line end inside is kept and not counted, so later reports run short by a line. Meant.
+Token Lexer::scanString() {
+    advance();
+    std::string text;
+    while (peek() != '"') {
+        if (peek() == 0) பிழை("பொழில்-102");
+        text += takeCharacter();
+    }
+    advance();
+    return make(TokenType::STRING, std::move(text));
+}
+
+/// Any number of characters may stand between single quotes, but not none.
+Token Lexer::scanCharacter() {
+    advance();
+    if (peek() == '\'') பிழை("பொழில்-105");
+    std::string text;
+    while (peek() != '\'') {
+        if (peek() == 0 || peek() == '\n') பிழை("பொழில்-103");
+        text += takeCharacter();
+    }
+    advance();
+    return make(TokenType::CHARACTER, std::move(text));
+}
+
+Token Lexer::scanSymbol(TokenType kind) { return make(kind, std::string(takeCharacter())); }
+
+Token Lexer::scanEquals() {
+    advance();
+    if (peek() != '>') return make(TokenType::EQUALS, "=");
+    advance();
+    return make(TokenType::OPERATOR, "=>");
+}
+
+TokenType Lexer::lookupKeyword(const std::string& word) { return lookUpWord(word); }
+
+int Lexer::peek() { return byteAt(position); }
+
+int Lexer::advance() {
+    const int byte = peek();
+    if (position >= static_cast<int>(source.size())) return 0;
+    position += getUTF8SequenceLength(source[static_cast<std::size_t>(position)]);
+    return byte;
+}
+
+int Lexer::getCurrentIndent() {
+    int width = 0;
+    for (int at = lineStart;; at++) {
+        if (byteAt(at) == ' ') {
+            width++;
+        } else if (byteAt(at) == '\t') {
+            width = (width / 4 + 1) * 4;
+        } else {
+            return width;
+        }
+    }
+}
+
+void Lexer::skipWhitespace() {
+    while (peek() == ' ' || peek() == '\t' || peek() == '\r') advance();
+}
+
+void Lexer::பிழை(const std::string& code) {
+    const பிழைதகவல்& entry = பிழை_அகராதி.at(code);
+    ErrorHandler::அறிக்கை(LEXICAL_ERROR, code, entry.விளக்கம், filename, lineNumber, currentLine,
+                         entry.தீர்வு);
+}
+
+/// Throws std::out_of_range if the cursor stands past the end of the text.
+bool Lexer::startsWith(const char* text) {
+    const std::string_view expected = text;
+    return source.compare(static_cast<std::size_t>(position), expected.size(), expected) == 0;
+}
+
+int Lexer::byteAt(int offset) const {
+    if (offset < 0 || offset >= static_cast<int>(source.size())) return 0;
+    return static_cast<unsigned char>(source[static_cast<std::size_t>(offset)]);
+}
+
+/// Moves past one character and returns its bytes, which stay in the source.
+std::string_view Lexer::takeCharacter() {
+    const auto start = static_cast<std::size_t>(position);
+    advance();
+    return std::string_view(source).substr(start, static_cast<std::size_t>(position) - start);
+}
+
+Token Lexer::make(TokenType kind, std::string text) const {
+    return Token{kind, std::move(text), lineNumber};
+}

@@ -1,0 +1,87 @@
+// The scanner: source text in, tokens out, one pass, before parsing begins. Indentation comes out
+// as INDENT and DEDENT. Besides tokenising it checks the text as Tamil, at the hooks below.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "lexer/token.h"
+
+/// Scans one source text. Every refusal ends in a report and does not return.
+class Lexer {
+public:
+    /// `source` is UTF-8 text; `filename` is shown in reports as it stands. Both are copied.
+    Lexer(const std::string& source, const std::string& filename);
+
+    /// The whole text as tokens, ending with END_OF_FILE. Called once.
+    /// Throws std::out_of_range for a text that ends in a tab at the start of a line.
+    std::vector<Token> tokenize();
+
+    /// Scans one token; passes over blanks and comments before it.
+    Token getNextToken();
+
+    /// Kind of a word, by the word tables in their order.
+    TokenType lookupKeyword(const std::string& word);
+
+    /// The byte at the cursor, 0 to 255; 0 at or past the end. So a NUL byte ends the text.
+    int peek();
+
+    /// Moves past one character (not one byte) and returns its first byte; at the end 0, no move.
+    int advance();
+
+    /// Width of the line's leading blanks and tabs; a tab goes to the next multiple of 4.
+    int getCurrentIndent();
+
+    /// Passes blanks, tabs and carriage returns, never a line end.
+    void skipWhitespace();
+
+    /// Reports `code` at the current line and ends the process. Throws std::out_of_range for a
+    /// code that the catalogue lacks.
+    [[noreturn]] void பிழை(const std::string& code);
+
+    std::string source;
+    std::string filename;
+    int position = 0;  ///< Byte offset of the cursor.
+    int lineNumber = 1;
+    std::string currentLine;            ///< The logical line's text, for reports.
+    std::vector<int> indentStack = {0};  ///< Widths of the open blocks.
+    int lineStart = 0;                  ///< Byte offset where the logical line began.
+    bool atLineStart = true;
+
+private:
+    // tokenize
+    bool startLine(std::vector<Token>& tokens);
+    void emitIndentation(int indent, std::vector<Token>& tokens);
+
+    // getNextToken
+    bool skipComment();
+    Token scanLineEnd();
+    Token scanString();
+    Token scanCharacter();
+    Token scanWesternNumber();
+    Token scanTamilNumber();
+    Token scanSymbol(TokenType kind);
+    Token scanEquals();
+    Token scanWord();
+    std::string collectWord();
+    void appendCompoundTail(std::string& word);
+
+    // Script and spelling checks; each refuses or returns.
+    void checkMixedIndentation();
+    void checkIndentationMatches(int indent);
+    void refuseGluedToWesternNumber();
+    void refuseGluedToTamilNumber();
+    void checkInvisibleMark();
+    void checkLetter(const std::string& word, std::string_view letter);
+    void checkKeywordSpacing(const std::string& word);
+    void checkKeywordTypo(const std::string& word);
+    void refuseOpenComment();
+
+    // Looking at the text
+    bool startsWith(const char* text);
+    bool atTamilDigit();
+    int byteAt(int offset) const;
+    std::string_view takeCharacter();
+    Token make(TokenType kind, std::string text) const;
+};

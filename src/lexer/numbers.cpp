@@ -1,0 +1,35 @@
+// Numbers and percentages, in western and in Tamil digits. The text keeps the digits as written:
+// nothing is converted here, and a sign is no part of a number.
+#include "lexer/characters.h"
+#include "lexer/lexer.h"
+
+/// Digits with at most one dot; a dot at the end stays part of the number ("1.").
+Token Lexer::scanWesternNumber() {
+    std::string digits;
+    bool hasDot = false;
+    while (isAsciiDigit(peek()) || peek() == '.') {
+        if (peek() == '.') {
+            if (hasDot) பிழை("பொழில்-104");
+            hasDot = true;
+        }
+        digits += takeCharacter();
+    }
+    if (peek() == '%') return make(TokenType::PERCENTAGE, digits.append(takeCharacter()));
+    if (!endsNumber(peek())) refuseGluedToWesternNumber();
+    return make(TokenType::NUMBER, std::move(digits));
+}
+
+/// Tamil digits know no decimal point: a dot behind them is a token of its own.
+Token Lexer::scanTamilNumber() {
+    std::string digits;
+    while (atTamilDigit()) digits += takeCharacter();
+    if (peek() == '%') return make(TokenType::PERCENTAGE, digits.append(takeCharacter()));
+    if (!endsNumber(peek())) refuseGluedToTamilNumber();
+    return make(TokenType::NUMBER, std::move(digits));
+}
+
+/// ௦ to ௯: the bytes E0 AF A6 to E0 AF AF.
+bool Lexer::atTamilDigit() {
+    return byteAt(position) == 0xE0 && byteAt(position + 1) == 0xAF &&
+           byteAt(position + 2) >= 0xA6 && byteAt(position + 2) <= 0xAF;
+}

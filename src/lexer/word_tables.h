@@ -1,0 +1,17 @@
+// The words of the language that have a kind of their own, and the order in which they are tried.
+#pragma once
+
+#include <string>
+#include <unordered_map>
+
+#include "lexer/token.h"
+
+extern const std::unordered_map<std::string, TokenType> IF_KEYWORDS;
+extern const std::unordered_map<std::string, TokenType> WEB_KEYWORDS;
+extern const std::unordered_map<std::string, TokenType> ANIMATION_KEYWORDS;
+extern const std::unordered_map<std::string, TokenType> OPERATOR_KEYWORDS;
+extern const std::unordered_map<std::string, TokenType> ASSIGN_KEYWORDS;
+extern const std::unordered_map<std::string, TokenType> INC_DEC_KEYWORDS;
+
+/// Kind of `word`; IDENTIFIER for a word that no table holds.
+TokenType lookUpWord(const std::string& word);

@@ -1,0 +1,97 @@
+// The process: arguments, the three phases, and the two roads that a program can take.
+#include <clocale>
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <locale>
+#include <stdexcept>
+
+#include "driver/command_line.h"
+#include "driver/console_texts.h"
+#include "driver/native_build.h"
+#include "driver/paths.h"
+#include "driver/phases.h"
+#include "driver/watch.h"
+#include "driver/web_road.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void setUpProcess() {
+    std::setlocale(LC_ALL, "");
+    try {
+        std::locale::global(std::locale(""));
+    } catch (const std::runtime_error&) {
+        std::locale::global(std::locale::classic());
+    }
+    std::ios_base::sync_with_stdio(false);
+    std::srand(static_cast<unsigned>(std::time(nullptr)));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    setUpProcess();
+    const std::string appDirectory = getAppDirectory();
+    injectEmscriptenEnvironment(appDirectory);
+
+    RunState run;
+    if (auto status = readCommandLine({argv + 1, argv + argc}, run)) return *status;
+    std::string sourceText;
+    if (!readFile(run.sourcePath, sourceText)) {
+        std::cerr << "பிழை: '" << run.sourcePath << "' என்ற கோப்பை திறக்க முடியவில்லை!" << std::endl;
+        return 1;
+    }
+
+    if (run.webMode) printWebOpening();
+    std::vector<Token> tokens;
+    const auto scan = [&] { tokens = Lexer(sourceText, run.sourcePath).tokenize(); };
+    if (!runPhase(scan, kScanFailure)) return 1;
+
+    Program program;
+    Parser parser(tokens, sourceText, run.sourcePath);
+    if (!runPhase([&] { program = parser.parse(); }, kParseFailure)) return 1;
+
+    if (holdsWebApp(program) && !run.webMode) {
+        run.webMode = true;
+        printWebOpening();
+    }
+    if (run.webMode) {
+        std::cout << std::flush << "முடிந்தது\n"
+                  << "🎨 பயனர் இடைமுகம் மற்றும் அசைவூட்டங்கள் செதுக்கப்படுகிறது... " << std::flush;
+    }
+
+    const std::string cacheDirectory = prepareCacheDirectory();
+    const NativeBuild build{appDirectory, cacheDirectory + "/generated.cpp", cacheDirectory};
+    std::string code;
+    const auto generate = [&] {
+        Generator generator(program, parser.functionParameters, parser.structDefinitions,
+                            parser.abstractStructDefinitions, sourceText, run.sourcePath);
+        code = generator.generate();
+    };
+    if (!runPhase(generate, kGenerateFailure)) return 1;
+    if (run.webMode) {
+        std::cout << "முடிந்தது\n";
+        fs::create_directory(fs::u8path("வெளியீடு"));
+    }
+
+    std::ofstream generated(fs::u8path(build.generatedPath));
+    if (!generated.is_open()) {
+        // Two languages in one line. Meant.
+        std::cerr << "Error: " << build.generatedPath << " என்ற கோப்பை உருவாக்க முடியவில்லை!"
+                  << std::endl;
+        return 1;
+    }
+    if (run.webMode) return refuseWebRoad();
+
+    generated << code;
+    generated.close();
+    printCompileBanner();
+    animateCompilation(run.sourcePath);
+    if (run.watchMode) watchConsoleProgram(run.sourcePath, build);
+    buildNativeProgram(build);
+    return 0;  // whatever g++ said and the program returned. Meant.
+}

@@ -1,0 +1,103 @@
+// The parser's frame: cursor, top-level loop and its guard, refusals.
+#include "parser/parser.h"
+
+#include <algorithm>
+#include <iterator>
+#include <sstream>
+
+#include "error_codes.h"
+#include "error_handler.h"
+
+namespace {
+
+/// Rounds of the top-level loop, one a statement, before a grammar that stopped advancing is
+/// suspected.
+constexpr int kMaxRounds = 100000;
+
+}  // namespace
+
+Parser::Parser(const std::vector<Token>& tokens, const std::string& source,
+               const std::string& filename)
+    : tokens(tokens), source(source), filename(filename) {}
+
+Program Parser::parse() {
+    Program program;
+    skipNewlines();
+    int guardCount = 0;
+    while (!is_at_end()) {
+        // Tested before it grows: 100001 rounds run.
+        if (guardCount > kMaxRounds) பிழை("பொழில்-291", peek().line);
+        guardCount++;
+
+        if (auto statement = parseStatement(false)) {
+            program.statements.push_back(std::move(statement));
+        } else {
+            advance();  // a stray token at top level is dropped without a word
+        }
+        skipNewlines();
+    }
+
+    auto& hoisted = hoistedStatements;
+    program.statements.insert(program.statements.begin(),
+                              std::make_move_iterator(hoisted.begin()),
+                              std::make_move_iterator(hoisted.end()));
+    hoisted.clear();
+    return program;
+}
+
+const Token& Parser::peek() { return tokens[static_cast<std::size_t>(current)]; }
+
+const Token& Parser::advance() {
+    if (!is_at_end()) current++;
+    return tokens[static_cast<std::size_t>(std::max(current - 1, 0))];
+}
+
+bool Parser::is_at_end() { return peek().type == TokenType::END_OF_FILE; }
+
+bool Parser::check(TokenType kind) { return !is_at_end() && peek().type == kind; }
+
+bool Parser::checkKeyword(const std::string& word) {
+    return check(TokenType::KEYWORD) && peek().text == word;
+}
+
+bool Parser::match(const std::vector<std::string>& words) {
+    if (!check(TokenType::OPERATOR)) return false;
+    if (std::find(words.begin(), words.end(), peek().text) == words.end()) return false;
+    advance();
+    return true;
+}
+
+Token Parser::consume(TokenType kind, const std::string& code, int line) {
+    if (!check(kind)) பிழை(code, line == -1 ? peek().line : line);
+    return advance();
+}
+
+bool Parser::handleIndentation(int& depth) {
+    while (check(TokenType::INDENT) || check(TokenType::DEDENT)) {
+        depth += check(TokenType::INDENT) ? 1 : -1;
+        // The bracket was left open on the line before, as a rule; there is no line 0.
+        if (depth < 0) பிழை("பொழில்-204", peek().line >= 2 ? peek().line - 1 : peek().line);
+        advance();
+    }
+    return true;
+}
+
+void Parser::skipNewlines() {
+    while (check(TokenType::NEWLINE)) advance();
+}
+
+std::string Parser::getLineText(int line) {
+    if (source.empty()) return "(சோர்ஸ் கோடு கிடைக்கவில்லை)";
+    std::istringstream lines(source);
+    std::string text;
+    for (int number = 1; std::getline(lines, text); number++) {
+        if (number == line) return text;
+    }
+    return "";
+}
+
+void Parser::பிழை(const std::string& code, int line) {
+    const பிழைதகவல்& entry = பிழை_அகராதி.at(code);
+    ErrorHandler::அறிக்கை(SYNTAX_ERROR, code, entry.விளக்கம், filename, line, getLineText(line),
+                         entry.தீர்வு);
+}

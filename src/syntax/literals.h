@@ -1,0 +1,31 @@
+// Literals. Each holds the token's text as scanned; nothing is converted before generation.
+#pragma once
+
+#include <string>
+
+#include "syntax/node.h"
+
+struct NumberLiteral : Expression {
+    explicit NumberLiteral(std::string value) : value(std::move(value)) {}
+    std::string value;  ///< Digits, western or Tamil.
+};
+
+struct DoubleLiteral : Expression {
+    explicit DoubleLiteral(std::string value) : value(std::move(value)) {}
+    std::string value;  ///< Digits with one dot.
+};
+
+struct StringLiteral : Expression {
+    explicit StringLiteral(std::string value) : value(std::move(value)) {}
+    std::string value;
+};
+
+struct CharLiteral : Expression {
+    explicit CharLiteral(std::string value) : value(std::move(value)) {}
+    std::string value;
+};
+
+struct BooleanLiteral : Expression {
+    explicit BooleanLiteral(std::string value) : value(std::move(value)) {}
+    std::string value;  ///< `மெய்` or `பொய்`.
+};

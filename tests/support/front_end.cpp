@@ -1,0 +1,45 @@
+#include "support/front_end.h"
+
+#include "support/token_names.h"
+
+std::vector<Token> scan(const std::string& source) { return Lexer(source, "test.பொழில்").tokenize(); }
+
+Parsed parse(const std::string& source, const std::string& filename) {
+    Parsed parsed;
+    const std::vector<Token> tokens = Lexer(source, filename).tokenize();
+    parsed.parser = std::make_unique<Parser>(tokens, source, filename);
+    parsed.program = parsed.parser->parse();
+    return parsed;
+}
+
+std::string generate(const std::string& source, const std::string& filename) {
+    const Parsed parsed = parse(source, filename);
+    const Parser& parser = *parsed.parser;
+    return Generator(parsed.program, parser.functionParameters, parser.structDefinitions,
+                     parser.abstractStructDefinitions, source, filename)
+        .generate();
+}
+
+testing::AssertionResult refused(const std::string& source, const std::string& code, int line) {
+    return refuses(code, line, [&] { parse(source); });
+}
+
+testing::AssertionResult accepted(const std::string& source) {
+    try {
+        parse(source);
+        return testing::AssertionSuccess();
+    } catch (const Refusal& refusal) {
+        return testing::AssertionFailure()
+               << "refused with " << refusal.code << " at line " << refusal.line;
+    }
+}
+
+std::string describe(const std::vector<Token>& tokens) {
+    std::string text;
+    for (const Token& token : tokens) {
+        if (!text.empty()) text += " ";
+        text += kTokenNames[static_cast<int>(token.type)];
+        if (!token.text.empty()) text += ":" + token.text;
+    }
+    return text;
+}
