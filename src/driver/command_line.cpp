@@ -12,9 +12,7 @@ namespace {
 const char* const kDefaultSource = "முதன்மை.பொழில்";
 const char* const kExtension = ".பொழில்";
 
-bool defaultSourceOpens() {
-    return std::ifstream(std::filesystem::u8path(kDefaultSource)).good();
-}
+bool defaultSourceOpens() { return std::ifstream(std::filesystem::u8path(kDefaultSource)).good(); }
 
 bool isVersionArgument(const std::string& argument) {
     return argument == "--பதிப்பு" || argument == "--version" || argument == "-v";
@@ -51,6 +49,7 @@ std::optional<int> readCommandLine(const std::vector<std::string>& arguments, Ru
         return 1;
     }
     run.sourcePath = kDefaultSource;
-    std::cout << "ℹ️ கோப்புப் பெயர் தரப்படவில்லை. தானாகவே 'முதன்மை.பொழில்' எடுக்கப்படுகிறது...\n";
+    std::cout << "ℹ️ கோப்புப் பெயர் தரப்படவில்லை. தானாகவே 'முதன்மை.பொழில்' "
+                 "எடுக்கப்படுகிறது...\n";
     return std::nullopt;
 }

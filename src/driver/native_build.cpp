@@ -17,7 +17,8 @@ std::string inQuotes(const std::string& path) { return "\"" + path + "\""; }
 void buildReportObject(const std::string& appDirectory, const std::string& object,
                        const std::string& includeDirectory) {
     if (fileExists(object)) return;
-    std::cout << "⚙️ சிஸ்டம் ஆப்ஜெக்ட் ஃபைல் புதிதாக உருவாக்கப்படுகிறது...\n";
+    std::cout << "⚙️ சிஸ்டம் ஆப்ஜெக்ட் ஃபைல் புதிதாக "
+                 "உருவாக்கப்படுகிறது...\n";
     run_command("g++ -c " + inQuotes(appDirectory + "/src/error_handler.cpp") + " -o " +
                 inQuotes(object) + " -std=c++17 -I" + inQuotes(includeDirectory));
 }
@@ -34,11 +35,11 @@ bool buildNativeProgram(const NativeBuild& build) {
 
     buildReportObject(build.appDirectory, object, includeDirectory);
 
-    const int status = run_command("g++ " + inQuotes(source) + " " + inQuotes(object) + " -o " +
-                                   inQuotes(freshExecutable) + " -std=c++17 -I" +
-                                   inQuotes(includeDirectory) + " -I" +
-                                   inQuotes(includeDirectory + "/nanovg") +
-                                   " -static -static-libstdc++ -static-libgcc -lm -lpthread");
+    const int status =
+        run_command("g++ " + inQuotes(source) + " " + inQuotes(object) + " -o " +
+                    inQuotes(freshExecutable) + " -std=c++17 -I" + inQuotes(includeDirectory) +
+                    " -I" + inQuotes(includeDirectory + "/nanovg") +
+                    " -static -static-libstdc++ -static-libgcc -lm -lpthread");
     if (status != 0) {
         std::cerr << kRed << "பிழை: தொகுப்பதில் சிக்கல்! உன்னோட கோடை ஒருவாட்டி பாரு மச்சி." << kReset
                   << std::endl;

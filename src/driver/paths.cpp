@@ -22,7 +22,7 @@ std::string getSafeMinGWPath(const std::string& path) { return path; }
 void injectEmscriptenEnvironment(const std::string&) {}
 
 std::string prepareCacheDirectory() {
-    const std::string directory =
+    std::string directory =
         getSafeMinGWPath((fs::temp_directory_path() / "Pozhil_Cache").u8string());
     fs::create_directories(fs::u8path(directory));
     return directory;

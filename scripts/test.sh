@@ -1,0 +1,93 @@
+#!/usr/bin/env bash
+# test.sh [fast]: installs what the tests need and runs all of them; with `fast` the fast lane
+# alone. A step that fails is remembered and the others run on. The last line counts all tests and
+# checks; the status tells whether all of them passed.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+# shellcheck source=scripts/messages.sh
+. scripts/messages.sh
+
+passed=0 failed=0 skipped=0
+failures=()
+
+# check NAME COMMAND...: a step that counts as one check.
+check() {
+    local name=$1
+    shift
+    say "▶ $name"
+    if "$@"; then
+        passed=$((passed + 1))
+    else
+        failed=$((failed + 1))
+        failures+=("$name")
+    fi
+}
+
+build() {
+    cmake --preset "$1" >/dev/null && cmake --build "build/$1" -j "$(nproc)"
+}
+
+# The value of a count in the head of a report in JUnit's form.
+count() { grep -o "\b$2=\"[0-9]*\"" "$1" | head -n 1 | tr -dc 0-9; }
+
+# run_tests NAME PRESET [CTEST OPTION...]: counts every test that ctest ran. None is a failure.
+run_tests() {
+    local name=$1 report=$PWD/build/$2/tests.xml status=0 total=0 bad=0 unrun=0
+    say "▶ $name"
+    rm -f "$report"
+    ctest --test-dir "build/$2" -j "$(nproc)" --output-on-failure --no-tests=error \
+        --output-junit "$report" "${@:3}" || status=$?
+    if [ -f "$report" ]; then
+        total=$(count "$report" tests)
+        bad=$(count "$report" failures)
+        unrun=$(($(count "$report" skipped) + $(count "$report" disabled)))
+    fi
+    passed=$((passed + total - bad - unrun))
+    skipped=$((skipped + unrun))
+    if [ "$status" -ne 0 ] || [ "$total" -eq 0 ]; then
+        failures+=("$name")
+        [ "$bad" -gt 0 ] || bad=1 # what failed was no test
+    fi
+    failed=$((failed + bad))
+}
+
+# Another version of the tools formats and warns differently: that would say nothing of the code.
+check_looks() {
+    if clang-tidy --version | grep -q 'version 14\.' && clang-format --version | grep -q ' 14\.'; then
+        check "வடிவம் (clang-format)" scripts/format.sh --check
+        check "குறை தேடல் (clang-tidy)" scripts/lint.sh
+    else
+        say "▷ clang-format, clang-tidy: பதிப்பு 14 இல்லை, தவிர்க்கப்பட்டது"
+        skipped=$((skipped + 2))
+    fi
+    check "நிரல் துணுக்குகள் (shellcheck)" shellcheck -x scripts/*.sh .ci/run
+}
+
+summary() {
+    [ ${#failures[@]} -eq 0 ] || printf '✗ %s\n' "${failures[@]}"
+    echo "$passed passed, $failed failed$([ "$skipped" -eq 0 ] || echo ", $skipped skipped")"
+    [ "$failed" -eq 0 ] && [ "$passed" -gt 0 ]
+}
+
+case "${1:-all}" in
+    fast)
+        scripts/install_packages.sh g++ cmake ninja-build libgtest-dev
+        check "கட்டுதல்" build tests
+        run_tests "விரைவுச் சோதனைகள்" tests -L fast
+        ;;
+    all)
+        scripts/install_packages.sh g++ cmake ninja-build libgtest-dev clang clang-format \
+            clang-tidy libclang-rt-dev shellcheck util-linux
+        check "கட்டுதல்" build tests
+        check "துணைக் கோப்புகள்" scripts/prepare_objects.sh
+        check_looks
+        run_tests "எல்லாச் சோதனைகளும்" tests
+        check "கட்டுதல் (sanitizers)" build sanitize
+        run_tests "விரைவுச் சோதனைகள் (sanitizers)" sanitize -L fast
+        if [ -f tests/fuzz/CMakeLists.txt ]; then
+            check "தாறுமாறான உள்ளீடு (fuzz)" scripts/fuzz.sh 30
+        fi
+        ;;
+    *) refuse "பயன்பாடு: scripts/test.sh [fast]" ;;
+esac
+summary
