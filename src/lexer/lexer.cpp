@@ -2,6 +2,8 @@
 // token are tried. Numbers and words stand in files of their own.
 #include "lexer/lexer.h"
 
+#include <cstring>
+
 #include "error_codes.h"
 #include "error_handler.h"
 #include "lexer/utf8.h"
@@ -215,8 +217,8 @@ void Lexer::பிழை(const std::string& code) {
 
 /// Throws std::out_of_range if the cursor stands past the end of the text.
 bool Lexer::startsWith(const char* text) {
-    const std::string_view expected = text;
-    return source.compare(static_cast<std::size_t>(position), expected.size(), expected) == 0;
+    // Not with a string_view: that overload is noexcept in libstdc++, and would end the process.
+    return source.compare(static_cast<std::size_t>(position), std::strlen(text), text) == 0;
 }
 
 int Lexer::byteAt(int offset) const {
