@@ -20,9 +20,7 @@ TEST(LineComment, AloneYieldsNothing) {
     EXPECT_EQ(kindNames(scan("ஃ விளக்கம்\nஃ விளக்கம்")), "END_OF_FILE");
 }
 
-TEST(LineComment, StillCountsItsLine) {
-    EXPECT_EQ(scan("ஃ விளக்கம்\n  ஃ விளக்கம்\na")[0].line, 3);
-}
+TEST(LineComment, StillCountsItsLine) { EXPECT_EQ(scan("ஃ விளக்கம்\n  ஃ விளக்கம்\na")[0].line, 3); }
 
 TEST(LineComment, WithASecondMarkFurtherOnIsNoBlock) {
     EXPECT_EQ(kindNames(scan("a ஃ b ஃஃ c\nd ஃஃ e ஃஃ\n")),
@@ -30,8 +28,7 @@ TEST(LineComment, WithASecondMarkFurtherOnIsNoBlock) {
 }
 
 TEST(LineComment, GluedToAWordIsALetterOfIt) {
-    EXPECT_EQ(describe(scan("எஃகு aஃ\n")),
-              "IDENTIFIER:எஃகு IDENTIFIER:aஃ NEWLINE:\\n END_OF_FILE");
+    EXPECT_EQ(describe(scan("எஃகு aஃ\n")), "IDENTIFIER:எஃகு IDENTIFIER:aஃ NEWLINE:\\n END_OF_FILE");
 }
 
 TEST(BlockComment, IsPassedInsideALine) {
@@ -43,16 +40,14 @@ TEST(BlockComment, MayBeEmpty) { EXPECT_EQ(describe(scan("ஃஃஃஃa")), "IDE
 
 TEST(BlockComment, CountsItsLines) {
     const auto tokens = scan("a ஃஃ ஒன்று\nஇரண்டு\n\n ஃஃ b\nc");
-    EXPECT_EQ(describe(tokens),
-              "IDENTIFIER:a IDENTIFIER:b NEWLINE:\\n IDENTIFIER:c END_OF_FILE");
+    EXPECT_EQ(describe(tokens), "IDENTIFIER:a IDENTIFIER:b NEWLINE:\\n IDENTIFIER:c END_OF_FILE");
     EXPECT_EQ(tokens[1].line, 4);
     EXPECT_EQ(tokens[2].line, 4);
     EXPECT_EQ(tokens[3].line, 5);
 }
 
 TEST(BlockComment, DoesNotNest) {
-    EXPECT_EQ(describe(scan("ஃஃ ஒன்று ஃஃ a ஃஃ இரண்டு ஃஃ\n")),
-              "IDENTIFIER:a NEWLINE:\\n END_OF_FILE");
+    EXPECT_EQ(describe(scan("ஃஃ ஒன்று ஃஃ a ஃஃ இரண்டு ஃஃ\n")), "IDENTIFIER:a NEWLINE:\\n END_OF_FILE");
 }
 
 TEST(BlockComment, LeavesTheLineEndBehindIt) {

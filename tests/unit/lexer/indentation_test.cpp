@@ -83,9 +83,10 @@ TEST(Indentation, BlanksAtTheEndOfTextAreALine) {
 
 TEST(Indentation, CarriageReturnAloneIsALineOfWidthZero) {
     const auto tokens = scan("a\n    b\n\r\n    c\n");
-    EXPECT_EQ(kindNames(tokens),
-              "IDENTIFIER NEWLINE INDENT IDENTIFIER NEWLINE DEDENT NEWLINE INDENT IDENTIFIER NEWLINE "
-              "DEDENT END_OF_FILE");
+    EXPECT_EQ(
+        kindNames(tokens),
+        "IDENTIFIER NEWLINE INDENT IDENTIFIER NEWLINE DEDENT NEWLINE INDENT IDENTIFIER NEWLINE "
+        "DEDENT END_OF_FILE");
     EXPECT_EQ(linesOf(tokens), (Lines{1, 1, 2, 2, 2, 3, 3, 4, 4, 4, 5, 5}));
 }
 
@@ -125,8 +126,7 @@ TEST(Indentation, TabBehindCodeAtTheEndOfTextIsPassed) {
 
 TEST(Semicolon, IsANewlineWithItsOwnText) {
     const auto tokens = scan("a;b\n");
-    EXPECT_EQ(describe(tokens),
-              "IDENTIFIER:a NEWLINE:; IDENTIFIER:b NEWLINE:\\n END_OF_FILE");
+    EXPECT_EQ(describe(tokens), "IDENTIFIER:a NEWLINE:; IDENTIFIER:b NEWLINE:\\n END_OF_FILE");
     EXPECT_EQ(linesOf(tokens), (Lines{1, 1, 1, 1, 2}));
 }
 

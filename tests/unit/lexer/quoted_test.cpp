@@ -55,8 +55,7 @@ TEST(String, LeftOpenIsReportedWithTheLineItBegan) {
         EXPECT_EQ(refusal.file, "test.பொழில்");
         EXPECT_EQ(refusal.line, 2);
         EXPECT_EQ(refusal.lineText, "  b \"அ");
-        EXPECT_EQ(refusal.fix,
-                  "வரியின் இறுதியில் ஒரு இரட்டை மேற்கோள் குறியைச் சேர்த்துச் சரி செய்!");
+        EXPECT_EQ(refusal.fix, "வரியின் இறுதியில் ஒரு இரட்டை மேற்கோள் குறியைச் சேர்த்துச் சரி செய்!");
     }
 }
 

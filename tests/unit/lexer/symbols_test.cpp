@@ -21,8 +21,9 @@ TEST(Symbols, TheDotHasNoAlternate) {
 
 TEST(Arrow, IsAnOperator) {
     EXPECT_EQ(describe(scan("=>")), "OPERATOR:=> END_OF_FILE");
-    EXPECT_EQ(describe(scan("a=>b==>c")),
-              "IDENTIFIER:a OPERATOR:=> IDENTIFIER:b EQUALS:= OPERATOR:=> IDENTIFIER:c END_OF_FILE");
+    EXPECT_EQ(
+        describe(scan("a=>b==>c")),
+        "IDENTIFIER:a OPERATOR:=> IDENTIFIER:b EQUALS:= OPERATOR:=> IDENTIFIER:c END_OF_FILE");
 }
 
 TEST(Arrow, MayNotBeBroken) {

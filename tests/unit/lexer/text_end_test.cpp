@@ -32,15 +32,15 @@ TEST(TextEnd, OfBlanksAloneIsAnIndentedLine) {
     EXPECT_EQ(kindNames(scan("  ")), "INDENT END_OF_FILE DEDENT END_OF_FILE");
 }
 
-TEST(TextEnd, OfBlankLinesIsOneToken) {
-    EXPECT_EQ(kindNames(scan("\n \n  \n")), "END_OF_FILE");
-}
+TEST(TextEnd, OfBlankLinesIsOneToken) { EXPECT_EQ(kindNames(scan("\n \n  \n")), "END_OF_FILE"); }
 
 TEST(NulByte, EndsTheText) {
     EXPECT_EQ(kindNames(scan("a\0b"s)), "IDENTIFIER END_OF_FILE");
     EXPECT_EQ(kindNames(scan("\0a"s)), "END_OF_FILE");
     EXPECT_EQ(kindNames(scan("a \0b"s)), "IDENTIFIER END_OF_FILE END_OF_FILE");
-    EXPECT_EQ(kindNames(scan("1\0"s "2")), "NUMBER END_OF_FILE");
+    EXPECT_EQ(kindNames(scan("1\0"s
+                             "2")),
+              "NUMBER END_OF_FILE");
     EXPECT_EQ(kindNames(scan("a\n  \0b\n"s)),
               "IDENTIFIER NEWLINE INDENT END_OF_FILE DEDENT END_OF_FILE");
 }

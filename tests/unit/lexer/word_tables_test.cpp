@@ -1,11 +1,12 @@
 // Every word's kind, and the order of the tables that decides it.
+#include "lexer/word_tables.h"
+
 #include <gtest/gtest.h>
 
 #include <iterator>
 #include <string>
 #include <unordered_map>
 
-#include "lexer/word_tables.h"
 #include "support/front_end.h"
 #include "unit/lexer/word_rows.h"
 

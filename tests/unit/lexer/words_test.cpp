@@ -62,19 +62,16 @@ TEST(DatabaseWords, TailGoesUnchecked) {
 TEST(DatabaseWords, TailEndsAtATerminator) {
     EXPECT_EQ(describe(scan("நிகழ்நேர.தரவுபடி.a")),
               "RTDB_READ:நிகழ்நேர.தரவுபடி DOT:. IDENTIFIER:a END_OF_FILE");
-    EXPECT_EQ(describe(scan("நிகழ்நேர..a")),
-              "IDENTIFIER:நிகழ்நேர. DOT:. IDENTIFIER:a END_OF_FILE");
+    EXPECT_EQ(describe(scan("நிகழ்நேர..a")), "IDENTIFIER:நிகழ்நேர. DOT:. IDENTIFIER:a END_OF_FILE");
 }
 
 TEST(DatabaseWords, FirstHalfAloneIsAName) {
     EXPECT_EQ(describe(scan("நிகழ்நேர")), "IDENTIFIER:நிகழ்நேர END_OF_FILE");
-    EXPECT_EQ(describe(scan("நிகழ்நேர .a")),
-              "IDENTIFIER:நிகழ்நேர DOT:. IDENTIFIER:a END_OF_FILE");
+    EXPECT_EQ(describe(scan("நிகழ்நேர .a")), "IDENTIFIER:நிகழ்நேர DOT:. IDENTIFIER:a END_OF_FILE");
 }
 
 TEST(DatabaseWords, FirstHalfMustBeTheWholeWord) {
-    EXPECT_EQ(describe(scan("xநிகழ்நேர.a")),
-              "IDENTIFIER:xநிகழ்நேர DOT:. IDENTIFIER:a END_OF_FILE");
+    EXPECT_EQ(describe(scan("xநிகழ்நேர.a")), "IDENTIFIER:xநிகழ்நேர DOT:. IDENTIFIER:a END_OF_FILE");
 }
 
 }  // namespace
