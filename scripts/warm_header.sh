@@ -28,7 +28,7 @@ work=$(mktemp -d "$warmed.XXXXXX")
 trap 'rm -rf "$work"' EXIT
 rm -f "$warmed" "$stamp"  # a stale one must not outlive a failure here
 # The flags that decide whether the header fits: those of the compiler's own g++ command.
-g++ -x c++-header "$headers" -o "$work/header" -std=c++17 -MD -MF "$work/read"
+g++ -x c++-header "$headers" -o "$work/header" -std=c++17 -MD -MF "$work/read" -MT header
 {
     printf '%s\n' "$identity"
     tr ' ' '\n' <"$work/read" | grep '^/.*[^:]$' | sort -u
