@@ -1,8 +1,7 @@
 // The generated file from top to bottom: the table of its sections, and the sections that depend
 // on the program.
-#include "generator/generator.h"
-
 #include "emitted_text.h"
+#include "generator/generator.h"
 #include "generator/static_error.h"
 
 namespace {
@@ -48,7 +47,8 @@ std::string Generator::generate() {
     return out.str();
 }
 
-/// Runtime text with its placeholders filled in, and a blank line behind it.
+/// Runtime text with its placeholders filled in, and a blank line behind it. What is filled in
+/// isn't looked at again: a file may be named like a placeholder.
 void Generator::writeText(std::string_view text) {
     if (text.empty()) return;
     struct Placeholder {
@@ -57,20 +57,26 @@ void Generator::writeText(std::string_view text) {
     };
     const Placeholder placeholders[] = {
         {"POZHIL_SOURCE_FILE", quoted(filename)},
-        {"POZHIL_INITIAL_PAGE", quoted(initialPage())},
+        // As the source writes it, escapes included: so it equals the name in its page block.
+        {"POZHIL_INITIAL_PAGE", "\"" + initialPage() + "\""},
     };
-    std::string filled(text);
-    for (const Placeholder& placeholder : placeholders) {
-        std::size_t at = filled.find(placeholder.name);
-        while (at != std::string::npos) {
-            filled.replace(at, placeholder.name.size(), placeholder.value);
-            at = filled.find(placeholder.name, at + placeholder.value.size());
+    while (true) {
+        const Placeholder* next = nullptr;
+        std::size_t at = std::string_view::npos;
+        for (const Placeholder& placeholder : placeholders) {
+            const std::size_t found = text.find(placeholder.name);
+            if (found >= at) continue;
+            next = &placeholder;
+            at = found;
         }
+        out << text.substr(0, at);
+        if (next == nullptr) break;
+        out << next->value;
+        text.remove_prefix(at + next->name.size());
     }
-    out << filled << "\n";
+    out << "\n";
 }
 
-/// The page shown first: the first application's page, or the one marked as the start.
 std::string Generator::initialPage() const {
     std::string page;
     for (const auto& statement : program.statements) {

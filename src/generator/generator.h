@@ -56,6 +56,10 @@ public:
     void visitCharLiteral(const CharLiteral* literal);
     void visitBooleanLiteral(const BooleanLiteral* literal);
 
+    /// The page shown first: the first application's page, or the last one marked as the start.
+    /// "home" if no application names a page.
+    std::string initialPage() const;
+
     // Kept empty: a widget lays out, styles and listens where it is drawn.
     void calculateLayout(const WidgetNode*) {}
     void applyStyles(const WidgetNode*) {}
@@ -92,7 +96,6 @@ private:
     void writeMain();
     void writeConsoleMain();
 
-    std::string initialPage() const;
     bool holdsWebApp() const;
 };
 

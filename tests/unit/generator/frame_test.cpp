@@ -1,0 +1,148 @@
+// The generated file from top to bottom.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/front_end.h"
+
+namespace {
+
+std::string generateProgram(const Program& program) {
+    return Generator(program, {}, {}, {}, "", "test.பொழில்").generate();
+}
+
+bool endsWith(const std::string& text, const std::string& ending) {
+    return text.size() >= ending.size() &&
+           text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
+}
+
+const char* const kEmptyMain = "void init_globals() {\n}\n\nint main() {\nreturn 0;\n}\n";
+
+TEST(GeneratedFile, BeginsWithTheIncludes) {
+    const std::string includes =
+        "#include <iostream>\n#include <string>\n#include <iomanip>\n#include <cmath>\n"
+        "#include <thread>\n#include <chrono>\n#include <ctime>\n#include <any>\n"
+        "#include <vector>\n#include <map>\n#include <set>\n#include <memory>\n"
+        "#include <functional>\n#include <algorithm>\n#include <sstream>\n#include <fstream>\n"
+        "#include <cstdio>\n#include <cstdlib>\n\n#ifdef __EMSCRIPTEN__\n";
+    EXPECT_EQ(generate("").substr(0, includes.size()), includes);
+}
+
+TEST(GeneratedFile, HoldsItsSectionsInOrder) {
+    const char* const marks[] = {
+        "#include <cstdlib>\n",
+        "#ifdef __EMSCRIPTEN__\n",
+        "#include <emscripten.h>\n",
+        "#include <emscripten/html5.h>\n",
+        "#include <emscripten/val.h>\n",
+        "#include <emscripten/bind.h>\n",
+        "#include <cstring>\n",
+        "#include \"nanovg.h\"\n",
+        "#define NANOSVG_IMPLEMENTATION\n",
+        "#include \"nanosvg.h\"\n",
+        "#define NANOSVGRAST_IMPLEMENTATION\n",
+        "#include \"nanosvgrast.h\"\n",
+        "#endif\n",
+        "std::map<std::string, std::any> global_vars;\n",
+        " g_inputErrors;\n",
+        " g_kaatchi_nilai;\n",
+        " g_alert_names;\n",
+        " g_block_background_clicks",
+        " g_inside_overlay",
+        " fn_return_value",
+        " g_overlays;\n",
+        "void pozhil_runtime_error(",
+        "int g_call_depth",
+        "int g_current_call_line",
+        "MAX_CALL_DEPTH",
+        "struct CallTracker {",
+        "float திரை_அகலம் = 1280.0f;\n",
+        "float திரை_உயரம் = 720.0f;\n",
+        "std::string g_currentPage = \"home\";\n",
+        "void செல்க(std::string pageName)",
+        " g_inputValues;\n",
+        " g_inputCursorPos;\n",
+        " g_focusedInput",
+        " g_inputSelected;\n",
+        "struct _PozhilChar {",
+        "struct _StructBase {",
+        "#include \"error_codes.h\"\n",
+        "#include \"error_handler.h\"\n",
+        "std::string fn_முழுவதும்(std::tm* ",
+        "std::string fn_any_to_string(const std::any& val) {\n",
+        "std::string fn_நேரம்_உருவாக்கு(std::tm* ",
+        "std::string fn_முழுவதும்(std::tm* ",
+        "// --- Web Boilerplate ---\n",
+        "#ifdef __EMSCRIPTEN__\n",
+        "#include <GL/glew.h>\n",
+        "#include <GLFW/glfw3.h>\n",
+        "#include <emscripten.h>\n",
+        "#define NANOVG_GLES2_IMPLEMENTATION\n",
+        "#include \"nanovg_gl.h\"\n",
+        "#endif\n",
+        "void init_globals() {\n",
+        "int main() {\n",
+    };
+    const std::string text = generate("");
+    std::size_t from = 0;
+    for (const char* mark : marks) {
+        const std::size_t at = text.find(mark, from);
+        ASSERT_NE(at, std::string::npos) << "missing, or not in its place: " << mark;
+        from = at + 1;
+    }
+}
+
+TEST(GeneratedFile, OfAnEmptyProgramReturnsZero) {
+    EXPECT_TRUE(endsWith(generate(""), kEmptyMain));
+}
+
+TEST(GeneratedFile, HoldsTheStatementsInMain) {
+    EXPECT_TRUE(endsWith(generate("அச்சிடு(1)\nஅச்சிடு()\n"),
+                         "void init_globals() {\n}\n\nint main() {\n"
+                         "    std::cout << fn_any_to_string(1LL) << std::endl;\n"
+                         "    std::cout << std::endl;\n"
+                         "return 0;\n}\n"));
+}
+
+TEST(GeneratedFile, PassesOverWhatIsAbsentOrAbstract) {
+    Program program;
+    program.statements.push_back(nullptr);
+    program.statements.push_back(std::make_unique<AbstractStructDefinitionStatement>(
+        Token{TokenType::IDENTIFIER, "அ", 1}, std::vector<AbstractMethod>{}));
+    EXPECT_EQ(generateProgram(program), generateProgram(Program{}));
+}
+
+TEST(GeneratedFile, LeavesNoPlaceholder) {
+    EXPECT_EQ(generate("அச்சிடு(1)").find("POZHIL_"), std::string::npos);
+}
+
+TEST(GeneratedFile, IsTheSameForTheSameInput) {
+    const std::string source = "அச்சிடு(1, 2.5, \"அ\", 'ஆ', மெய்)\n";
+    EXPECT_EQ(generate(source), generate(source));
+}
+
+/// The text with the quoted path taken out.
+std::string withoutPath(std::string text, const std::string& path) {
+    for (std::size_t at = text.find(path); at != std::string::npos; at = text.find(path, at)) {
+        text.erase(at, path.size());
+    }
+    return text;
+}
+
+TEST(GeneratedFile, DependsOnThePathOnlyWhereItIsQuoted) {
+    const std::string first = generate("அச்சிடு(1)", "one/அ.பொழில்");
+    const std::string second = generate("அச்சிடு(1)", "another/place/ஆ.பொழில்");
+    EXPECT_EQ(withoutPath(first, "\"one/அ.பொழில்\""),
+              withoutPath(second, "\"another/place/ஆ.பொழில்\""));
+}
+
+TEST(GeneratedFile, MayComeFromAFileNamedLikeAPlaceholder) {
+    const std::string name = "POZHIL_INITIAL_PAGE";
+    const std::string text = generate("", name);
+    EXPECT_EQ(text.find(name + "\"\""), std::string::npos);
+    EXPECT_NE(text.find("g_currentPage = \"home\";"), std::string::npos);
+    EXPECT_EQ(withoutPath(text, "\"" + name + "\""),
+              withoutPath(generate("", "other"), "\"other\""));
+}
+
+}  // namespace
