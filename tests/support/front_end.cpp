@@ -43,3 +43,16 @@ std::string describe(const std::vector<Token>& tokens) {
     }
     return text;
 }
+
+std::string kindNames(const std::vector<Token>& tokens) {
+    std::string text;
+    for (const Token& token : tokens) {
+        if (!text.empty()) text += " ";
+        text += kTokenNames[static_cast<int>(token.type)];
+    }
+    return text;
+}
+
+testing::AssertionResult scanRefused(const std::string& source, const std::string& code, int line) {
+    return refuses(code, line, [&] { scan(source); });
+}

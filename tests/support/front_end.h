@@ -18,6 +18,12 @@ std::vector<Token> scan(const std::string& source);
 /// Tokens as one readable line: kind names with the text behind those that vary.
 std::string describe(const std::vector<Token>& tokens);
 
+/// The kind names alone.
+std::string kindNames(const std::vector<Token>& tokens);
+
+/// Passes if the scanner refuses `source`.
+testing::AssertionResult scanRefused(const std::string& source, const std::string& code, int line);
+
 /// A parsed source with the parser that parsed it, whose tables stay readable.
 struct Parsed {
     std::unique_ptr<Parser> parser;

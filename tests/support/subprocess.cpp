@@ -28,6 +28,11 @@ void enterChild(const Pipe& input, const Pipe& out, const Pipe& err, const Proce
     dup2(input.read, STDIN_FILENO);
     dup2(out.write, STDOUT_FILENO);
     dup2(err.write, STDERR_FILENO);
+    // A body that runs on without exec would otherwise hold its own input open for ever.
+    for (const Pipe& ends : {input, out, err}) {
+        close(ends.read);
+        close(ends.write);
+    }
     setpgid(0, 0);
     if (!options.directory.empty() && chdir(options.directory.c_str()) != 0) _exit(126);
     for (const std::string& setting : options.environment) {
@@ -105,7 +110,7 @@ ProcessResult runForked(const std::function<int()>& body, const ProcessOptions& 
 
 ProcessResult runCommand(const std::vector<std::string>& arguments, const ProcessOptions& options) {
     return runForked(
-        [&] {
+        [&]() -> int {
             std::vector<char*> argv;
             for (const std::string& argument : arguments) {
                 argv.push_back(const_cast<char*>(argument.c_str()));
