@@ -49,7 +49,7 @@ std::optional<int> readCommandLine(const std::vector<std::string>& arguments, Ru
         return 1;
     }
     run.sourcePath = kDefaultSource;
-    std::cout << "ℹ️ கோப்புப் பெயர் தரப்படவில்லை. தானாகவே 'முதன்மை.பொழில்' "
-                 "எடுக்கப்படுகிறது...\n";
+    std::cout << "ℹ️ "
+                 "கோப்புப் பெயர் தரப்படவில்லை. தானாகவே 'முதன்மை.பொழில்' எடுக்கப்படுகிறது...\n";
     return std::nullopt;
 }

@@ -17,8 +17,8 @@ std::string inQuotes(const std::string& path) { return "\"" + path + "\""; }
 void buildReportObject(const std::string& appDirectory, const std::string& object,
                        const std::string& includeDirectory) {
     if (fileExists(object)) return;
-    std::cout << "⚙️ சிஸ்டம் ஆப்ஜெக்ட் ஃபைல் புதிதாக "
-                 "உருவாக்கப்படுகிறது...\n";
+    std::cout << "⚙️ "
+                 "சிஸ்டம் ஆப்ஜெக்ட் ஃபைல் புதிதாக உருவாக்கப்படுகிறது...\n";
     run_command("g++ -c " + inQuotes(appDirectory + "/src/error_handler.cpp") + " -o " +
                 inQuotes(object) + " -std=c++17 -I" + inQuotes(includeDirectory));
 }

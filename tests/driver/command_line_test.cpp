@@ -21,8 +21,8 @@ const std::string kVersionScreen =
     "     இனி தொழில்நுட்ப உலகையும் நம் தமிழால் ஆள்வோம்!\033[0m\n\n";
 
 const std::string kInformation =
-    "ℹ️ கோப்புப் பெயர் தரப்படவில்லை. தானாகவே 'முதன்மை.பொழில்' "
-    "எடுக்கப்படுகிறது...\n";
+    "ℹ️ "
+    "கோப்புப் பெயர் தரப்படவில்லை. தானாகவே 'முதன்மை.பொழில்' எடுக்கப்படுகிறது...\n";
 const std::string kNoSource = "பிழை: செல்லாத கோப்பு அல்லது கோப்பு இல்லை! ❌\n";
 
 // A source that ends in a tab stops in the scanner: enough to see which file was taken.
