@@ -1,4 +1,7 @@
 // The texts of the web road, as far as it goes.
+#include <csignal>
+
+#include "driver/console_texts.h"
 #include "driver/workplace.h"
 
 namespace fs = std::filesystem;
@@ -48,6 +51,15 @@ TEST_F(WebRoad, MissingSourceOpensNothing) {
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(run.err, "பிழை: 'a.பொழில்' என்ற கோப்பை திறக்க முடியவில்லை!\n");
     EXPECT_EQ(run.exitCode, 1);
+}
+
+TEST(Farewell, EndsWithStatusZero) {
+    const ProcessResult run = runForked([] {
+        signal_handler(SIGINT);
+        return 7;
+    });
+    EXPECT_EQ(run.out, "\n👋 சேவையகம் நிறுத்தப்பட்டது \n");
+    EXPECT_EQ(run.exitCode, 0);
 }
 
 }  // namespace
