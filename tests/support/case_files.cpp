@@ -26,9 +26,8 @@ private:
 };
 
 bool insideModules(const fs::path& path) {
-    return std::any_of(path.begin(), path.end(), [](const fs::path& part) {
-        return part == "modules";
-    });
+    return std::any_of(path.begin(), path.end(),
+                       [](const fs::path& part) { return part == "modules"; });
 }
 
 std::string testName(const fs::path& relative) {
@@ -63,10 +62,10 @@ void registerCases(const std::string& lane, const std::string& extension,
                               [=]() -> testing::Test* { return new FileCase(file, run); });
     }
     const std::size_t count = cases.size();
-    testing::RegisterTest("Case", "finds_cases", nullptr, nullptr, __FILE__, __LINE__,
-                          [=]() -> testing::Test* {
-                              return new FileCase({}, [=](const CaseFile&) { EXPECT_GT(count, 0U); });
-                          });
+    testing::RegisterTest(
+        "Case", "finds_cases", nullptr, nullptr, __FILE__, __LINE__, [=]() -> testing::Test* {
+            return new FileCase({}, [=](const CaseFile&) { EXPECT_GT(count, 0U); });
+        });
 }
 
 std::string readText(const std::string& path) {

@@ -2,7 +2,9 @@
 
 #include "support/token_names.h"
 
-std::vector<Token> scan(const std::string& source) { return Lexer(source, "test.பொழில்").tokenize(); }
+std::vector<Token> scan(const std::string& source) {
+    return Lexer(source, "test.பொழில்").tokenize();
+}
 
 Parsed parse(const std::string& source, const std::string& filename) {
     Parsed parsed;

@@ -24,14 +24,15 @@ struct Pipe {
     }
 };
 
-void enterChild(const Pipe& input, const Pipe& out, const Pipe& err, const ProcessOptions& options) {
+void enterChild(const Pipe& input, const Pipe& out, const Pipe& err,
+                const ProcessOptions& options) {
     dup2(input.read, STDIN_FILENO);
     dup2(out.write, STDOUT_FILENO);
     dup2(err.write, STDERR_FILENO);
     // A body that runs on without exec would otherwise hold its own input open for ever.
     for (const Pipe& ends : {input, out, err}) {
-        close(ends.read);
-        close(ends.write);
+        if (ends.read > STDERR_FILENO) close(ends.read);
+        if (ends.write > STDERR_FILENO) close(ends.write);
     }
     setpgid(0, 0);
     if (!options.directory.empty() && chdir(options.directory.c_str()) != 0) _exit(126);

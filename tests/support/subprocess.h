@@ -14,9 +14,9 @@ struct ProcessResult {
 };
 
 struct ProcessOptions {
-    std::string directory;                   ///< Working directory; the caller's if empty.
-    std::vector<std::string> environment;    ///< NAME=value, added to the caller's.
-    std::string input;                       ///< Standard input.
+    std::string directory;                 ///< Working directory; the caller's if empty.
+    std::vector<std::string> environment;  ///< NAME=value, added to the caller's.
+    std::string input;                     ///< Standard input.
     double timeoutSeconds = 60;
 };
 
