@@ -132,6 +132,16 @@ TEST(Primary, WidgetKnownByTextAloneIsACall) {
     EXPECT_EQ(treeOf("மடிப்பு"), "name மடிப்பு @1\n");
 }
 
+TEST(Primary, PlainWordComesBeforeTheWidgetWords) {
+    for (const char* word : {"உரை", "பெட்டி", "அட்டை", "தேடுபொறி", "உள்_இவெ", "மடிப்பு"}) {
+        const auto tokens = row({{TokenType::IDENTIFIER, word},
+                                 {TokenType::LEFT_PAREN, "("},
+                                 {TokenType::RIGHT_PAREN, ")"}});
+        ASSERT_TRUE(isWidgetToken(tokens[0])) << word;
+        EXPECT_EQ(shapeOf(tokens), std::string(word) + "()");
+    }
+}
+
 TEST(Primary, GroupTakesTheLineOfItsParenthesis) {
     EXPECT_EQ(treeOf("((a))"), "group @1\n  group @2\n    name a @3\n");
     EXPECT_EQ(shapeOf("(a = 1)"), "group((a = 1))");
