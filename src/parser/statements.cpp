@@ -203,14 +203,17 @@ std::unique_ptr<Statement> Parser::parseIncrementStatement(std::unique_ptr<Expre
 /// block = NEWLINE INDENT { statement } DEDENT
 /// No line end is demanded between two statements: one that ended in an inner block has used up
 /// the line's. So அ() ஆ() on one line are two.
+/// Raises 291 where a structure's `பொது` would be looked at for ever.
 std::unique_ptr<BlockStatement> Parser::parseBlockStatement(bool inStruct) {
     openBody();
     auto block = std::make_unique<BlockStatement>();
     while (!check(TokenType::DEDENT) && !is_at_end()) {
+        const int before = current;
         if (auto statement = parseStatement(inStruct)) {
             block->statements.push_back(std::move(statement));
         }
         if (!check(TokenType::DEDENT)) skipNewlines();
+        if (current == before) பிழை("பொழில்-291", peek().line);
     }
     closeBody();
     return block;
