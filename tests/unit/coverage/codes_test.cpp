@@ -26,15 +26,9 @@ struct Waiting {
 /// Codes of the scanner and the parser that nothing can raise yet. A code leaves this table
 /// together with the case that raises it.
 const Waiting kWaiting[] = {
-    {"பொழில்-241", "applications"},
-    {"பொழில்-242", "applications"},
-    {"பொழில்-243", "applications"},
-    {"பொழில்-244", "applications"},
-    {"பொழில்-252", "widgets"},
-    {"பொழில்-262", "animations"},
-    {"பொழில்-303", "applications"},
-    {"பொழில்-362", "applications"},
-    {"பொழில்-401", "applications"},
+    {"பொழில்-241", "applications"}, {"பொழில்-242", "applications"}, {"பொழில்-243", "applications"},
+    {"பொழில்-244", "applications"}, {"பொழில்-252", "widgets"},      {"பொழில்-262", "animations"},
+    {"பொழில்-303", "applications"}, {"பொழில்-362", "applications"}, {"பொழில்-401", "applications"},
     {"பொழில்-402", "applications"},
 };
 
