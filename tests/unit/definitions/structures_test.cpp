@@ -75,6 +75,48 @@ TEST(Structure, LeavesItsMethodsOutOfTheFunctions) {
                     .parser->functionParameters.empty());
 }
 
+/// "private", "public", or what else became of the only member of a structure of `lines`.
+std::string visibilityOf(const std::string& lines) {
+    const Parsed parsed = parse("கட்டமைப்பு அ:\n" + lines);
+    const auto& structure = structureAt(parsed, 0);
+    if (structure.fields.size() + structure.methods.size() != 1) return "not one member";
+    const bool isPrivate =
+        structure.fields.empty() ? structure.methods[0]->isPrivate : structure.fields[0]->isPrivate;
+    return isPrivate ? "private" : "public";
+}
+
+TEST(Structure, ShowsItsMembersByWordsAndGroups) {
+    struct Row {
+        const char* words;
+        const char* alone;  ///< Visibility of a member behind the words,
+        const char* group;  ///< and of one in a group behind them; null if there is no group.
+    };
+    const Row rows[] = {
+        {"", "public", nullptr},
+        {"ரகசிய ", "private", "private"},
+        {"ரகசியம் ", "private", "private"},
+        {"பொது ", "public", "public"},
+        {"ரகசிய பொது ", "private", "public"},
+        {"ரகசியம் பொது ", "private", "public"},
+    };
+    for (const Row& row : rows) {
+        const std::string words = row.words;
+        const std::string method = "செயல் ஆ(தான்):\n            விடு\n";
+        EXPECT_EQ(visibilityOf("    " + words + "ஆ = 1\n"), row.alone) << words;
+        EXPECT_EQ(visibilityOf("    " + words + method), row.alone) << words;
+        if (row.group == nullptr) continue;
+        EXPECT_EQ(visibilityOf("    " + words + "(ஆ = 1)\n"), row.group) << words;
+        EXPECT_EQ(visibilityOf("    " + words + "(\n        ஆ = 1\n    )\n"), row.group) << words;
+        EXPECT_EQ(visibilityOf("    " + words + "(\n        " + method + "    )\n"), row.group)
+            << words;
+    }
+}
+
+TEST(Structure, TakesPrivateOnlyBeforePublic) {
+    EXPECT_TRUE(refused("கட்டமைப்பு அ:\n    பொது ரகசிய ஆ = 1\n", "பொழில்-201", 2));
+    EXPECT_TRUE(refused("கட்டமைப்பு அ:\n    ரகசிய ரகசிய ஆ = 1\n", "பொழில்-201", 2));
+}
+
 TEST(Structure, LowersTheDepthBehindEachMethod) {
     EXPECT_TRUE(refused("கட்டமைப்பு அ:\n    செயல் ஆ(தான்):\n        திரும்பு 1\n    திரும்பு 2\n",
                         "பொழில்-233", 4));
