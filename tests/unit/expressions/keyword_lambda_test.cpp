@@ -29,6 +29,7 @@ TEST(KeywordLambda, ParametersMaySpanLines) {
     EXPECT_EQ(shapeOf("வினை (a,\nb\nc): a"), "(a, b, c => a)");
     EXPECT_EQ(shapeOf("வினை (\na\n): a"), "(a => a)");
     EXPECT_EQ(shapeOf("வினை\na: a"), "(a => a)");
+    EXPECT_EQ(shapeOf("வினை (\n, a): a"), "(a => a)");
 }
 
 TEST(KeywordLambda, NamesMayBeOfManyKinds) {
