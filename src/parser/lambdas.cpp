@@ -4,6 +4,15 @@
 #include "parser/parser.h"
 #include "parser/token_predicates.h"
 
+namespace {
+
+bool endsParameterLook(TokenType kind) {
+    return kind == TokenType::RIGHT_PAREN || kind == TokenType::NEWLINE ||
+           kind == TokenType::END_OF_FILE;
+}
+
+}  // namespace
+
 /// `=>`, or `=` with `பெரிது` (or a `>` that the scanner never makes) behind it. So x = பெரிது y is
 /// read as a lambda and not as an assignment. Meant.
 bool Parser::isArrowAt(int index) const {
@@ -18,11 +27,12 @@ bool Parser::isArrowAt(int index) const {
 bool Parser::startsArrowLambda() {
     if (isValidVariableName(peek()) && isArrowAt(current + 1)) return true;
     if (!check(TokenType::LEFT_PAREN)) return false;
-    for (int at = current + 1;; at++) {
-        const TokenType kind = tokenAt(at).type;
-        if (kind == TokenType::RIGHT_PAREN) return isArrowAt(at + 1);
-        if (kind == TokenType::NEWLINE || kind == TokenType::END_OF_FILE) return false;
+    // One look serves all parentheses that open before the same end.
+    if (current < closeScan.start || current >= closeScan.end) {
+        closeScan = {current, current + 1};
+        while (!endsParameterLook(tokenAt(closeScan.end).type)) closeScan.end++;
     }
+    return tokenAt(closeScan.end).type == TokenType::RIGHT_PAREN && isArrowAt(closeScan.end + 1);
 }
 
 /// arrow-lambda = ( name | "(" [ name { "," name } ] ")" ) arrow expression

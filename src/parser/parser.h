@@ -217,4 +217,10 @@ private:
     };
     LineScan lambdaScan;   ///< `வினை` with a colon behind it.
     LineScan bracketScan;  ///< `]`
+
+    /// Where the look for a lambda's closing parenthesis stopped, for all that open before it.
+    struct CloseScan {
+        int start = 0;
+        int end = 0;
+    } closeScan;
 };
