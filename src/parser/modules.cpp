@@ -77,5 +77,6 @@ void Parser::mergeModule(Parser& module, Program program) {
     mergeAbsent(abstractStructDefinitions, module.abstractStructDefinitions);
     mergeAbsent(enumerations, module.enumerations);
     for (auto& statement : program.statements) hoistedStatements.push_back(std::move(statement));
+    for (auto& dropped : module.droppedMembers) droppedMembers.push_back(std::move(dropped));
     importedFiles = std::move(module.importedFiles);
 }

@@ -205,6 +205,9 @@ private:
     std::string readModule(const std::string& path, int line);
     void mergeModule(Parser& module, Program program);
 
+    /// Statements that structures dropped: the tables may point at definitions inside them.
+    std::vector<std::unique_ptr<Statement>> droppedMembers;
+
     int nesting = 0;          ///< Statements and expressions around the cursor.
     int expressionDepth = 0;  ///< Depth of the expression tree that was parsed last.
     StackBounds stack;

@@ -81,6 +81,7 @@ void Parser::parseField(StructBody& body, bool isPrivate) {
 void Parser::parseOtherMember(StructBody& body, bool isPrivate) {
     auto member = parseStatement(true);
     const bool dropped = member != nullptr && !storeMember(body, member, isPrivate);
+    if (dropped) droppedMembers.push_back(std::move(member));
     if (check(TokenType::DEDENT)) return;
     if (dropped) expectNewline();
     skipNewlines();
@@ -95,7 +96,9 @@ void Parser::parseStructGroup(StructBody& body, bool isPrivate) {
         skipLayout();
         if (check(TokenType::RIGHT_PAREN)) break;
         auto member = parseStatement(true);
-        if (member != nullptr) storeMember(body, member, isPrivate);
+        if (member != nullptr && !storeMember(body, member, isPrivate)) {
+            droppedMembers.push_back(std::move(member));
+        }
         skipNewlines();
         if (current == before) பிழை("பொழில்-291", peek().line);
     }

@@ -147,6 +147,17 @@ TEST(Structure, RefusesAMethodsParenthesesAtTwoLines) {
                       "பொழில்-204", 3));
 }
 
+TEST(Structure, DropsADefinitionInsideButKnowsIt) {
+    const Parsed parsed = parse(
+        "கட்டமைப்பு அ:\n    பொது(\n        வடிவமைப்பு இ:\n            செயல் ஈ(தான்)\n    )\n"
+        "    கட்டமைப்பு ஊ:\n        எ = 1\n"
+        "கட்டமைப்பு உ(இ):\n    செயல் ஈ(தான்):\n        விடு\nகட்டமைப்பு ஏ(ஊ):\n    ஐ = 1\n");
+    EXPECT_EQ(parsed.program.statements.size(), 3U);
+    EXPECT_EQ(printTables(*parsed.parser),
+              "structure அ: அ\nstructure உ: உ\nstructure ஊ: ஊ\nstructure ஏ: ஏ\n"
+              "abstract structure இ: இ\n");
+}
+
 TEST(Group, RefusesAnOpenParenthesisAtThatLine) {
     const std::vector<Token> member = {name("ஆ", 5), kEquals, number("1", 5)};
     for (const Token& visibility : {mark(TokenType::PRIVATE, 3), word("பொது", 3)}) {
