@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr int kUncaught = 125;
+
 struct Pipe {
     int read = -1;
     int write = -1;
@@ -90,7 +92,11 @@ ProcessResult runForked(const std::function<int()>& body, const ProcessOptions& 
     const pid_t child = fork();
     if (child == 0) {
         enterChild(input, out, err, options);
-        std::exit(body());
+        try {
+            std::exit(body());
+        } catch (...) {
+            _exit(kUncaught);  // or the child would go on with the parent's other tests
+        }
     }
     close(input.read);
     close(out.write);
