@@ -1,43 +1,44 @@
+// A dynamic value as the text that is printed and joined.
+
 std::string fn_முழுவதும்(std::tm* t);
 
 std::string fn_any_to_string(const std::any& val) {
-    if (auto number = std::any_cast<long long>(&val)) return std::to_string(*number);
-    if (auto number = std::any_cast<int>(&val)) return std::to_string(*number);
-    if (auto number = std::any_cast<long double>(&val)) return std::to_string(*number);
-    if (auto text = std::any_cast<std::string>(&val)) return *text;
-    if (auto letter = std::any_cast<_PozhilChar>(&val)) return letter->val;
-    if (auto letter = std::any_cast<char>(&val)) return std::string(1, *letter);
-    if (auto truth = std::any_cast<bool>(&val)) return *truth ? "மெய்" : "பொய்";
-    if (auto time = std::any_cast<std::tm*>(&val)) return fn_முழுவதும்(*time);
-    if (val.type() == typeid(std::vector<std::any>)) {
-        auto list = std::any_cast<std::vector<std::any>>(val);
+    const std::type_info& kind = val.type();
+    if (kind == typeid(long long)) return std::to_string(*std::any_cast<long long>(&val));
+    if (kind == typeid(int)) return std::to_string(*std::any_cast<int>(&val));
+    if (kind == typeid(long double)) return std::to_string(*std::any_cast<long double>(&val));
+    if (kind == typeid(std::string)) return *std::any_cast<std::string>(&val);
+    if (kind == typeid(_PozhilChar)) return std::any_cast<_PozhilChar>(&val)->val;
+    if (kind == typeid(char)) return std::string(1, *std::any_cast<char>(&val));
+    if (kind == typeid(bool)) return *std::any_cast<bool>(&val) ? "மெய்" : "பொய்";
+    if (kind == typeid(std::tm*)) return fn_முழுவதும்(*std::any_cast<std::tm*>(&val));
+    if (kind == typeid(std::vector<std::any>)) {
+        std::vector<std::any> list = *std::any_cast<std::vector<std::any>>(&val);
         std::string text = "[";
         for (size_t i = 0; i < list.size(); i++) {
             if (i > 0) text += ", ";
             text += fn_any_to_string(list[i]);
         }
-        return text + "]";
+        text += ']';
+        return text;
     }
-    if (val.type() == typeid(std::map<std::string, std::any>)) {
-        auto entries = std::any_cast<std::map<std::string, std::any>>(val);
+    if (kind == typeid(std::map<std::string, std::any>)) {
         std::string text = "{";
-        for (auto& entry : entries) {
-            if (text.size() > 1) text += ", ";
-            text += "\"" + entry.first + "\": " + fn_any_to_string(entry.second);
+        for (const auto& entry : *std::any_cast<std::map<std::string, std::any>>(&val)) {
+            text += text.size() > 1 ? ", \"" : "\"";
+            text += entry.first;
+            text += "\": ";
+            text += fn_any_to_string(entry.second);
         }
-        return text + "}";
+        text += '}';
+        return text;
     }
-    std::string kind = val.type().name();
-    if (kind == typeid(std::function<std::any(std::any)>).name() ||
-        kind == typeid(std::function<std::any(std::any, std::any)>).name() ||
-        kind == typeid(std::function<std::any(std::any, std::any, std::any)>).name() ||
-        kind == typeid(std::function<std::any()>).name()) {
+    if (kind == typeid(std::function<std::any(std::any)>) ||
+        kind == typeid(std::function<std::any(std::any, std::any)>) ||
+        kind == typeid(std::function<std::any(std::any, std::any, std::any)>) ||
+        kind == typeid(std::function<std::any()>)) {
         return "[வினை]";
     }
-    try {
-        std::any_cast<std::shared_ptr<_StructBase>>(val);
-        return "[பொருள்]";
-    } catch (const std::bad_any_cast&) {
-        return "[தெரியாத வகை]";
-    }
+    if (kind == typeid(std::shared_ptr<_StructBase>)) return "[பொருள்]";
+    return "[தெரியாத வகை]";
 }

@@ -1,0 +1,17 @@
+// Properties of an object: its fields and methods.
+
+std::any fn_get_property(std::shared_ptr<_StructBase> obj, std::string prop, std::string file,
+                         int line) {
+    auto found = obj->properties.find(prop);
+    if (found == obj->properties.end()) pozhil_runtime_error("பொழில்-324", file, line);
+    return found->second;
+}
+
+std::any fn_set_property(std::any obj, std::string prop, std::any val, std::string file, int line) {
+    try {
+        std::any_cast<std::shared_ptr<_StructBase>&>(obj)->properties[prop] = val;
+    } catch (...) {
+        pozhil_runtime_error("பொழில்-324", file, line);
+    }
+    return val;
+}

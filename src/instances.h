@@ -1,0 +1,73 @@
+// The template instances that every generated program needs. The diagnostics object, which every
+// program links, holds them; the warmed header declares them extern, so that g++ makes none in a
+// program that is compiled with it. POZHIL_INSTANCE is `template` there, `extern template` here.
+// They name parts of libstdc++ that only its own headers show, and are for g++ alone.
+
+namespace pozhil {
+using List = std::vector<std::any>;
+using Dictionary = std::map<std::string, std::any>;
+template <class Value>
+using Entry = std::pair<const std::string, Value>;
+}  // namespace pozhil
+
+POZHIL_INSTANCE class std::vector<std::any>;
+POZHIL_INSTANCE class std::vector<std::function<void()>>;
+POZHIL_INSTANCE class std::set<std::string>;
+POZHIL_INSTANCE class std::_Rb_tree<std::string, std::string, std::_Identity<std::string>,
+                                    std::less<std::string>>;
+POZHIL_INSTANCE class std::unordered_map<std::string, பிழைதகவல்>;
+
+#define POZHIL_MAP_INSTANCE(VALUE)                       \
+    POZHIL_INSTANCE class std::map<std::string, VALUE>; \
+    POZHIL_INSTANCE class std::_Rb_tree<std::string, pozhil::Entry<VALUE>, \
+                                        std::_Select1st<pozhil::Entry<VALUE>>, \
+                                        std::less<std::string>>;
+POZHIL_MAP_INSTANCE(std::any)
+POZHIL_MAP_INSTANCE(std::string)
+POZHIL_MAP_INSTANCE(bool)
+POZHIL_MAP_INSTANCE(int)
+POZHIL_MAP_INSTANCE(float)
+#undef POZHIL_MAP_INSTANCE
+
+POZHIL_INSTANCE class std::function<void()>;
+POZHIL_INSTANCE class std::function<std::any()>;
+POZHIL_INSTANCE class std::function<std::any(std::any)>;
+POZHIL_INSTANCE class std::function<std::any(std::any, std::any)>;
+POZHIL_INSTANCE class std::function<std::any(std::any, std::any, std::any)>;
+
+// A kind of value: how it gets into a std::any and out again.
+#define POZHIL_HELD_INSTANCE(MANAGER, TYPE)                                  \
+    POZHIL_INSTANCE class std::any::MANAGER<TYPE>;                           \
+    POZHIL_INSTANCE std::any::any(TYPE&&);                                   \
+    POZHIL_INSTANCE std::any::any(TYPE&);                                    \
+    POZHIL_INSTANCE std::any& std::any::operator=(TYPE&&);                   \
+    POZHIL_INSTANCE void* std::__any_caster<TYPE>(const std::any*);          \
+    POZHIL_INSTANCE TYPE* std::any_cast<TYPE>(std::any*) noexcept;           \
+    POZHIL_INSTANCE TYPE const* std::any_cast<TYPE>(const std::any*) noexcept; \
+    POZHIL_INSTANCE TYPE std::any_cast<TYPE>(const std::any&);               \
+    POZHIL_INSTANCE TYPE std::any_cast<TYPE>(std::any&);                     \
+    POZHIL_INSTANCE TYPE std::any_cast<TYPE>(std::any&&);                    \
+    POZHIL_INSTANCE TYPE& std::any_cast<TYPE&>(std::any&);
+POZHIL_HELD_INSTANCE(_Manager_internal, long long)
+POZHIL_HELD_INSTANCE(_Manager_internal, int)
+POZHIL_HELD_INSTANCE(_Manager_internal, char)
+POZHIL_HELD_INSTANCE(_Manager_internal, bool)
+POZHIL_HELD_INSTANCE(_Manager_internal, std::tm*)
+POZHIL_HELD_INSTANCE(_Manager_external, long double)
+POZHIL_HELD_INSTANCE(_Manager_external, std::string)
+POZHIL_HELD_INSTANCE(_Manager_external, pozhil::List)
+POZHIL_HELD_INSTANCE(_Manager_external, pozhil::Dictionary)
+#undef POZHIL_HELD_INSTANCE
+
+POZHIL_INSTANCE bool std::operator==(const std::string&, const char*);
+POZHIL_INSTANCE std::string std::operator+(const std::string&, const char*);
+POZHIL_INSTANCE std::string std::operator+(const char*, const std::string&);
+POZHIL_INSTANCE std::string std::operator+(std::string&&, std::string&&);
+POZHIL_INSTANCE std::string std::operator+(const std::string&, const std::string&);
+POZHIL_INSTANCE void std::__detail::__to_chars_10_impl(char*, unsigned, unsigned long long);
+POZHIL_INSTANCE void std::__detail::__to_chars_10_impl(char*, unsigned, unsigned);
+POZHIL_INSTANCE unsigned std::__detail::__to_chars_len(unsigned long long, int);
+POZHIL_INSTANCE unsigned std::__detail::__to_chars_len(unsigned, int);
+POZHIL_INSTANCE class std::_Sp_counted_base<__gnu_cxx::_S_atomic>;
+POZHIL_INSTANCE std::string __gnu_cxx::__to_xstring<std::string, char>(
+    int (*)(char*, std::size_t, const char*, __builtin_va_list), std::size_t, const char*, ...);
