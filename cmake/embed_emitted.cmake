@@ -1,10 +1,16 @@
 # Writes a header that holds each emitted file as a string constant:
 #   cmake -DOUTPUT=header -DFILES="a.cpp;b.cpp" -P embed_emitted.cmake
-# The constant is named after the file. A raw string may be of any length for g++ and clang++.
+# The constant is named after the file. A comment at the head of a file that an empty line closes
+# tells the reader of the file what it is, and isn't emitted; all other comments are.
+# A raw string may be of any length for g++ and clang++.
 set(text "// Made from src/emitted by the build. Never edited.\n#pragma once\n\n#include <string_view>\n\nnamespace emitted {\n")
 foreach(file IN LISTS FILES)
     get_filename_component(name "${file}" NAME_WE)
     file(READ "${file}" content)
+    if(content MATCHES "^(//[^\n]*\n)+\n")
+        string(LENGTH "${CMAKE_MATCH_0}" head_length)
+        string(SUBSTRING "${content}" ${head_length} -1 content)
+    endif()
     string(APPEND text "\ninline constexpr std::string_view ${name} = R\"EMITTED(${content})EMITTED\";\n")
 endforeach()
 string(APPEND text "\n}  // namespace emitted\n")

@@ -1,17 +1,30 @@
 #!/usr/bin/env bash
-# warm_header.sh: precompiles the standard headers of the generated text, so that g++ builds a
-# program in a third of the time. g++ looks for iostream.gch beside each place where it looks for
+# warm_header.sh: precompiles the standard headers of the generated text and the catalogue, so that
+# g++ builds a program in a third of the time. g++ looks for iostream.gch beside each place where it looks for
 # <iostream>, the first header of every generated file, and passes over one that doesn't fit.
-# Remade when g++, the list of headers or one of the headers changes; else it costs milliseconds.
+# It also declares extern the template instances that the diagnostics object holds, if it does.
+# Remade when g++, the object or one of the headers changes; else it costs milliseconds.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
-headers=src/emitted/includes.cpp
+include=உள்ளடக்கம்
+object=திரட்டு/error_handler_native_linux.o
 warmed="$root/உள்ளடக்கம்/iostream.gch"
 stamp="$warmed.stamp"  # line 1: g++ and the list; then every file that was read, one a line
 
+# A program that is compiled with the declarations must be linked with the instances.
+if nm "$object" 2>/dev/null | grep -q pozhil_instances; then
+    headers=src/warmed_header.h
+    own=("$headers" src/instances.h src/emitted/includes.cpp "$include"/error_codes.h)
+else
+    headers=src/emitted/includes.cpp
+    own=("$headers")
+fi
+
 compiler=$(command -v g++)
-identity="$(stat -Lc '%n %s %Y' "$compiler") $(g++ --version | head -n 1) $(cksum <"$headers")"
+identity="$(stat -Lc '%n %s %Y' "$compiler") $(g++ --version | head -n 1) $headers"
+identity+=" $(cat "${own[@]}" | cksum)"
+identity+=" $(stat -c '%s %Y' "$object" 2>/dev/null || true)"
 
 # By the time of the inode: packages carry the time at which they were made, not installed.
 is_fresh() {
@@ -28,7 +41,7 @@ work=$(mktemp -d "$warmed.XXXXXX")
 trap 'rm -rf "$work"' EXIT
 rm -f "$warmed" "$stamp"  # a stale one must not outlive a failure here
 # The flags that decide whether the header fits: those of the compiler's own g++ command.
-g++ -x c++-header "$headers" -o "$work/header" -std=c++17 -MD -MF "$work/read" -MT header
+g++ -x c++-header "$headers" -o "$work/header" -std=c++17 -I"$include" -MD -MF "$work/read" -MT header
 {
     printf '%s\n' "$identity"
     tr ' ' '\n' <"$work/read" | grep '^/.*[^:]$' | sort -u

@@ -1,5 +1,6 @@
 // The boxed report and its sayings. Compiled into the compiler, and by the compiler's own build
-// into the object that every generated program links; so it needs nothing but its header.
+// into the object that every generated program links. For that object's sake it also holds the
+// template instances that those programs share; the report itself needs nothing but its header.
 #include "error_handler.h"
 
 #include <cstdlib>
@@ -146,3 +147,16 @@ int ErrorHandler::visualWidth(std::string text) {
     }
     return width;
 }
+
+#if defined(__GLIBCXX__) && !defined(POZHIL_WITHOUT_INSTANCES)
+#include "emitted/includes.cpp"
+#include "error_codes.h"
+
+#define POZHIL_INSTANCE template
+#include "instances.h"
+#undef POZHIL_INSTANCE
+
+/// Tells scripts/warm_header.sh that this object holds them.
+extern "C" int pozhil_instances;
+int pozhil_instances = 1;
+#endif

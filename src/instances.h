@@ -17,9 +17,9 @@ POZHIL_INSTANCE class std::_Rb_tree<std::string, std::string, std::_Identity<std
                                     std::less<std::string>>;
 POZHIL_INSTANCE class std::unordered_map<std::string, பிழைதகவல்>;
 
-#define POZHIL_MAP_INSTANCE(VALUE)                       \
-    POZHIL_INSTANCE class std::map<std::string, VALUE>; \
-    POZHIL_INSTANCE class std::_Rb_tree<std::string, pozhil::Entry<VALUE>, \
+#define POZHIL_MAP_INSTANCE(VALUE)                                             \
+    POZHIL_INSTANCE class std::map<std::string, VALUE>;                        \
+    POZHIL_INSTANCE class std::_Rb_tree<std::string, pozhil::Entry<VALUE>,     \
                                         std::_Select1st<pozhil::Entry<VALUE>>, \
                                         std::less<std::string>>;
 POZHIL_MAP_INSTANCE(std::any)
@@ -36,17 +36,17 @@ POZHIL_INSTANCE class std::function<std::any(std::any, std::any)>;
 POZHIL_INSTANCE class std::function<std::any(std::any, std::any, std::any)>;
 
 // A kind of value: how it gets into a std::any and out again.
-#define POZHIL_HELD_INSTANCE(MANAGER, TYPE)                                  \
-    POZHIL_INSTANCE class std::any::MANAGER<TYPE>;                           \
-    POZHIL_INSTANCE std::any::any(TYPE&&);                                   \
-    POZHIL_INSTANCE std::any::any(TYPE&);                                    \
-    POZHIL_INSTANCE std::any& std::any::operator=(TYPE&&);                   \
-    POZHIL_INSTANCE void* std::__any_caster<TYPE>(const std::any*);          \
-    POZHIL_INSTANCE TYPE* std::any_cast<TYPE>(std::any*) noexcept;           \
+#define POZHIL_HELD_INSTANCE(MANAGER, TYPE)                                    \
+    POZHIL_INSTANCE class std::any::MANAGER<TYPE>;                             \
+    POZHIL_INSTANCE std::any::any(TYPE&&);                                     \
+    POZHIL_INSTANCE std::any::any(TYPE&);                                      \
+    POZHIL_INSTANCE std::any& std::any::operator=(TYPE&&);                     \
+    POZHIL_INSTANCE void* std::__any_caster<TYPE>(const std::any*);            \
+    POZHIL_INSTANCE TYPE* std::any_cast<TYPE>(std::any*) noexcept;             \
     POZHIL_INSTANCE TYPE const* std::any_cast<TYPE>(const std::any*) noexcept; \
-    POZHIL_INSTANCE TYPE std::any_cast<TYPE>(const std::any&);               \
-    POZHIL_INSTANCE TYPE std::any_cast<TYPE>(std::any&);                     \
-    POZHIL_INSTANCE TYPE std::any_cast<TYPE>(std::any&&);                    \
+    POZHIL_INSTANCE TYPE std::any_cast<TYPE>(const std::any&);                 \
+    POZHIL_INSTANCE TYPE std::any_cast<TYPE>(std::any&);                       \
+    POZHIL_INSTANCE TYPE std::any_cast<TYPE>(std::any &&);                     \
     POZHIL_INSTANCE TYPE& std::any_cast<TYPE&>(std::any&);
 POZHIL_HELD_INSTANCE(_Manager_internal, long long)
 POZHIL_HELD_INSTANCE(_Manager_internal, int)

@@ -1,7 +1,10 @@
 // The catalogue of every diagnostic text, compile time and run time: code -> meaning and fix.
 // Read by the compiler and, by name, by every generated program: whoever raises a diagnostic
 // names a code, and the words stand here alone.
-#pragma once
+//
+// A guard by name, not `#pragma once`: the warmed header holds this file, and passes its guard on.
+#ifndef POZHIL_ERROR_CODES_H
+#define POZHIL_ERROR_CODES_H
 
 #include <string>
 #include <unordered_map>
@@ -310,10 +313,12 @@ inline constexpr பிழைவரிசை kDiagnosticRows[] = {
 inline std::unordered_map<std::string, பிழைதகவல்> buildDiagnosticCatalogue() {
     std::unordered_map<std::string, பிழைதகவல்> catalogue;
     for (const பிழைவரிசை& row : kDiagnosticRows) {
-        catalogue.emplace(row.code, பிழைதகவல்{row.meaning, row.fix});
+        catalogue.insert({row.code, {row.meaning, row.fix}});
     }
     return catalogue;
 }
 
 /// Full code text ("பொழில்-101") -> entry. Built once, constant after that.
 inline const std::unordered_map<std::string, பிழைதகவல்> பிழை_அகராதி = buildDiagnosticCatalogue();
+
+#endif  // POZHIL_ERROR_CODES_H

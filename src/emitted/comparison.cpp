@@ -49,27 +49,31 @@ bool pozhil_text(const std::any& value, std::string& text) {
     return true;
 }
 
-bool fn_compare_any(const std::any& left, const std::any& right, std::string op) {
-    int outcome;
-    long double a, b;
-    std::string s, t;
+// The column of the outcome in the table above, or -1 if the two can't be compared.
+int pozhil_outcome(const std::any& left, const std::any& right) {
     const long long* i = std::any_cast<long long>(&left);
     const long long* j = std::any_cast<long long>(&right);
-    if (i != nullptr && j != nullptr) {
-        outcome = *i < *j ? 0 : *i == *j ? 1 : 2;
-    } else if (pozhil_number(left, a) && pozhil_number(right, b)) {
-        outcome = a < b ? 0 : a == b ? 1 : a > b ? 2 : 3;
-    } else if (pozhil_text(left, s) && pozhil_text(right, t)) {
-        outcome = s == t ? 4 : 5;
-    } else if (left.type() == typeid(bool) && right.type() == typeid(bool)) {
-        outcome = *std::any_cast<bool>(&left) == *std::any_cast<bool>(&right) ? 4 : 5;
-    } else {
-        return false;
+    if (i != nullptr && j != nullptr) return *i < *j ? 0 : *i == *j ? 1 : 2;
+    long double a, b;
+    if (pozhil_number(left, a)) {
+        if (!pozhil_number(right, b)) return -1;
+        return a < b ? 0 : a == b ? 1 : a > b ? 2 : 3;
     }
+    if (left.type() == typeid(bool)) {
+        if (right.type() != typeid(bool)) return -1;
+        return *std::any_cast<bool>(&left) == *std::any_cast<bool>(&right) ? 4 : 5;
+    }
+    std::string s, t;
+    if (pozhil_text(left, s) && pozhil_text(right, t)) return s == t ? 4 : 5;
+    return -1;
+}
+
+bool fn_compare_any(const std::any& left, const std::any& right, std::string op) {
+    const int outcome = pozhil_outcome(left, right);
+    if (outcome < 0) return false;
+    const size_t bytes = op.size();
     for (const auto& comparison : pozhil_comparisons) {
-        if (op.size() == comparison.bytes && op == comparison.text) {
-            return comparison.holds[outcome];
-        }
+        if (comparison.bytes == bytes && op == comparison.text) return comparison.holds[outcome];
     }
     return false;
 }

@@ -7,8 +7,29 @@ set(EMITTED_NAMES
     navigation
     input_state
     base_structures
+    runtime_failure
+    # Dynamic values
     any_to_string
-    time_text
+    any_to_json
+    type_names
+    number_values
+    comparison
+    indices
+    arithmetic
+    module_path
+    conversion
+    # The library
+    files
+    text
+    time
+    input
+    length
+    element_access
+    properties
+    rounding
+    removal
+    # The frame of an application
+    scroll_state
     web_boilerplate)
 list(TRANSFORM EMITTED_NAMES REPLACE "(.+)" "${CMAKE_CURRENT_LIST_DIR}/\\1.cpp"
      OUTPUT_VARIABLE EMITTED_FILES)

@@ -19,8 +19,8 @@ void pozhil_runtime_error(std::string code, std::string file, int line) {
     }
 
     std::cout << "\n" << RED << separator << RESET << std::endl;
-    std::cout << "  🚨 [ " << GOLD << code << RESET << " ] :: " << RED
-              << "பொருள் பிழை (இயக்கநேரம்)" << RESET << std::endl;
+    std::cout << "  🚨 [ " << GOLD << code << RESET << " ] :: " << RED << "பொருள் பிழை (இயக்கநேரம்)"
+              << RESET << std::endl;
     std::cout << RED << separator << RESET << std::endl;
     std::cout << "  " << BLUE << "📂 கோப்பு  " << RESET << ": " << file << std::endl;
     std::cout << "  " << BLUE << "📍 இடம்    " << RESET << ": வரி " << line << std::endl;
@@ -33,7 +33,8 @@ void pozhil_runtime_error(std::string code, std::string file, int line) {
     std::cout << GREEN << "  💡 சரி செய்யும் முறை:" << RESET << std::endl;
     std::cout << "     " << info.தீர்வு << std::endl;
     std::cout << DIM_GREY << "  " << separator << RESET << std::endl << std::endl;
-    std::cout << "  " << GOLD << "✨ \"" << ErrorHandler::பொன்மொழி_பெறு() << "\"" << RESET << std::endl;
+    std::cout << "  " << GOLD << "✨ \"" << ErrorHandler::பொன்மொழி_பெறு() << "\"" << RESET
+              << std::endl;
     std::cout << DIM_GREY << "  " << separator << RESET << std::endl << std::endl;
     exit(1);
 }
