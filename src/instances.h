@@ -40,7 +40,6 @@ POZHIL_INSTANCE class std::function<std::any(std::any, std::any, std::any)>;
     POZHIL_INSTANCE class std::any::MANAGER<TYPE>;                             \
     POZHIL_INSTANCE std::any::any(TYPE&&);                                     \
     POZHIL_INSTANCE std::any::any(TYPE&);                                      \
-    POZHIL_INSTANCE std::any& std::any::operator=(TYPE&&);                     \
     POZHIL_INSTANCE void* std::__any_caster<TYPE>(const std::any*);            \
     POZHIL_INSTANCE TYPE* std::any_cast<TYPE>(std::any*) noexcept;             \
     POZHIL_INSTANCE TYPE const* std::any_cast<TYPE>(const std::any*) noexcept; \

@@ -173,4 +173,52 @@ TEST_F(WarmedHeader, FailureLeavesNothingHalfMade) {
     EXPECT_EQ(filesMade(), std::vector<std::string>{});
 }
 
+class PreparedObjects : public Workplace {
+protected:
+    PreparedObjects() {
+        fs::remove(home / "src");
+        fs::copy(fs::u8path(POZHIL_ROOT) / "src", home / "src", fs::copy_options::recursive);
+        fs::create_directories(home / "scripts");
+        for (const char* script : {"prepare_objects.sh", "warm_header.sh"}) {
+            fs::copy_file(fs::u8path(POZHIL_ROOT) / "scripts" / script, home / "scripts" / script);
+        }
+        write("a.பொழில்", "அச்சிடு(\"விடை \", 42, 2.5, மெய்)\n");
+    }
+
+    int run(const std::string& script) const {
+        return runCommand({"bash", (home / "scripts" / script).u8string()}).exitCode;
+    }
+
+    void expectThatProgramsRun() const {
+        const ProcessResult program = compile({"a.பொழில்"});
+        EXPECT_EQ(program.out, kBanner + titleOf("a.பொழில்") + "விடை 422.500000மெய்\n");
+        EXPECT_EQ(program.err, "");
+    }
+};
+
+// The header declares instances extern that the object holds: the two must fit in every state.
+// One test of many steps, since the preparation takes its seconds.
+TEST_F(PreparedObjects, LinkInEveryState) {
+    ASSERT_EQ(run("prepare_objects.sh"), 0);
+    const fs::path header = home / "உள்ளடக்கம்" / "iostream.gch";
+    ASSERT_TRUE(fs::exists(header));
+    expectThatProgramsRun();
+
+    fs::remove(object);  // the compiler makes it anew
+    EXPECT_NE(compile({"a.பொழில்"}).out.find("விடை 42"), std::string::npos);
+    expectThatProgramsRun();
+
+    fs::remove(header);
+    expectThatProgramsRun();
+
+    const ProcessResult without =
+        runCommand({"g++", "-std=c++17", "-DPOZHIL_WITHOUT_INSTANCES", "-c",
+                    (home / "src" / "error_handler.cpp").u8string(), "-o", object.u8string(),
+                    "-I" + (home / "உள்ளடக்கம்").u8string()});
+    ASSERT_EQ(without.exitCode, 0) << without.err;
+    ASSERT_EQ(run("warm_header.sh"), 0);
+    ASSERT_TRUE(fs::exists(header));
+    expectThatProgramsRun();
+}
+
 }  // namespace
