@@ -1,8 +1,16 @@
-// Expressions: the dispatch over the nodes.
+// Expressions: the dispatch over the nodes, and the text of values: literals with brackets,
+// lambdas, the ternary. An expression's C++ type is whatever its text yields; the caller wraps it
+// in std::any where one is needed.
 #include "generator/generator.h"
 #include "generator/static_error.h"
 
 void Generator::visitExpression(const Expression* expression) {
+    if (visitValue(expression) || visitOperation(expression)) return;
+    throw_static_error("பொழில்-399", "Unknown expression type in generator");
+}
+
+/// Literals, names, members, elements and functions; false if the node is none of them.
+bool Generator::visitValue(const Expression* expression) {
     if (const auto* node = dynamic_cast<const NumberLiteral*>(expression)) {
         visitNumberLiteral(node);
     } else if (const auto* node = dynamic_cast<const DoubleLiteral*>(expression)) {
@@ -11,9 +19,122 @@ void Generator::visitExpression(const Expression* expression) {
         visitStringLiteral(node);
     } else if (const auto* node = dynamic_cast<const CharLiteral*>(expression)) {
         visitCharLiteral(node);
+    } else if (const auto* node = dynamic_cast<const AssignmentExpression*>(expression)) {
+        visitAssignmentExpression(node);
+    } else if (const auto* node = dynamic_cast<const SetMemberExpression*>(expression)) {
+        checkMemberAssignment(*node);
+        visitSetMemberExpression(node);
+    } else if (const auto* node = dynamic_cast<const VariableAccess*>(expression)) {
+        visitVariableAccess(node);
     } else if (const auto* node = dynamic_cast<const BooleanLiteral*>(expression)) {
         visitBooleanLiteral(node);
+    } else if (const auto* node = dynamic_cast<const TernaryExpression*>(expression)) {
+        visitTernaryExpression(node);
+    } else if (const auto* node = dynamic_cast<const GetExpression*>(expression)) {
+        visitGetExpression(node);
+    } else if (const auto* node = dynamic_cast<const ListLiteral*>(expression)) {
+        visitListLiteral(node);
+    } else if (const auto* node = dynamic_cast<const MapLiteral*>(expression)) {
+        visitMapLiteral(node);
+    } else if (const auto* node = dynamic_cast<const IndexExpression*>(expression)) {
+        visitIndexExpression(node);
     } else {
-        throw_static_error("பொழில்-399", "Unknown expression type in generator");
+        return false;
     }
+    return true;
+}
+
+/// Lambdas, calls and operators; false if the node is none of them.
+bool Generator::visitOperation(const Expression* expression) {
+    if (const auto* node = dynamic_cast<const LambdaExpression*>(expression)) {
+        visitLambdaExpression(node);
+    } else if (const auto* node = dynamic_cast<const CallExpression*>(expression)) {
+        visitCallExpression(node);
+    } else if (const auto* node = dynamic_cast<const BinaryExpression*>(expression)) {
+        visitBinaryExpression(node);
+    } else if (const auto* node = dynamic_cast<const LogicalExpression*>(expression)) {
+        visitLogicalExpression(node);
+    } else if (const auto* node = dynamic_cast<const UnaryExpression*>(expression)) {
+        visitUnaryExpression(node);
+    } else if (const auto* node = dynamic_cast<const GroupingExpression*>(expression)) {
+        visitGroupingExpression(node);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void Generator::writeAny(const Expression* expression) {
+    out << "std::any(";
+    visitExpression(expression);
+    out << ")";
+}
+
+void Generator::writeAnyList(const std::vector<std::unique_ptr<Expression>>& arguments) {
+    for (std::size_t i = 0; i < arguments.size(); i++) {
+        if (i > 0) out << ", ";
+        writeAny(arguments[i].get());
+    }
+}
+
+void Generator::writePlace(int line) { out << quoted(filename) << ", " << line; }
+
+std::string Generator::functionType(int parameterCount) {
+    std::string type = "std::function<std::any(";
+    for (int i = 0; i < parameterCount; i++) type += i > 0 ? ", std::any" : "std::any";
+    return type + ")>";
+}
+
+/// (அ)  ->  (global_vars["அ"])
+void Generator::visitGroupingExpression(const GroupingExpression* grouping) {
+    out << "(";
+    visitExpression(grouping->expression.get());
+    out << ")";
+}
+
+/// நி ? அ : ஆ  ->  (நி ? அ : ஆ)
+/// The condition stands as it is, so it compiles only if it is a native truth value.
+void Generator::visitTernaryExpression(const TernaryExpression* ternary) {
+    out << "(";
+    visitExpression(ternary->condition.get());
+    out << " ? ";
+    visitExpression(ternary->thenBranch.get());
+    out << " : ";
+    visitExpression(ternary->elseBranch.get());
+    out << ")";
+}
+
+/// [1, 2]  ->  std::vector<std::any>({std::any(1LL), std::any(2LL)})
+void Generator::visitListLiteral(const ListLiteral* list) {
+    out << "std::vector<std::any>({";
+    writeAnyList(list->elements);
+    out << "})";
+}
+
+/// {"அ": 1}  ->  std::map<std::string, std::any>({{"அ", std::any(1LL)}})
+void Generator::visitMapLiteral(const MapLiteral* map) {
+    out << "std::map<std::string, std::any>({";
+    for (std::size_t i = 0; i < map->entries.size(); i++) {
+        if (i > 0) out << ", ";
+        out << "{\"" << map->entries[i].first << "\", ";
+        writeAny(map->entries[i].second.get());
+        out << "}";
+    }
+    out << "})";
+}
+
+/// x => x  ->  std::function<std::any(std::any)>([=](std::any x) { return std::any(x); })
+/// It sees copies of the locals around it, and the live global_vars.
+void Generator::visitLambdaExpression(const LambdaExpression* lambda) {
+    out << functionType(static_cast<int>(lambda->parameters.size())) << "([=](";
+    const auto enclosing = localVariables;
+    for (std::size_t i = 0; i < lambda->parameters.size(); i++) {
+        const std::string& name = lambda->parameters[i].text;
+        out << (i > 0 ? ", " : "") << "std::any " << name;
+        localVariables[name] = true;
+    }
+    out << ") { return ";
+    writeAny(lambda->body.get());
+    out << "; })";
+    localVariables = enclosing;
 }

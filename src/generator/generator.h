@@ -12,6 +12,7 @@
 
 #include "syntax/application.h"
 #include "syntax/definitions.h"
+#include "syntax/expressions.h"
 #include "syntax/literals.h"
 #include "syntax/node.h"
 #include "syntax/statements.h"
@@ -40,21 +41,62 @@ public:
     /// process. A code that the catalogue lacks is told in one line on standard error.
     [[noreturn]] void பிழை(const std::string& code, int line, const std::string& detail);
 
-    // Statements
+    /// The best estimate of what an expression holds; Dynamic if nothing better is known.
+    /// Raises 325 for the receiver's name outside a structure.
+    VarType inferExpressionType(const Expression* expression);
+    /// C++ token of an operator word. Raises 304 at line 0 for a word that has none.
+    std::string mapOperator(const std::string& word);
+
+    // ---- Statements ----
     void visitStatement(const Statement* statement);
+    void visitBlockStatement(const BlockStatement* block);
     void visitPrintStatement(const PrintStatement* print);
-    void visitStructDefinitionStatement(const StructDefinitionStatement* definition);
-    void visitFunctionDefinitionStatement(const FunctionDefinitionStatement* definition);
+    void visitExpressionStatement(const ExpressionStatement* statement);
+    void visitVarDeclaration(const VarDeclaration* declaration);
+    void visitSetStatement(const SetStatement* statement);
+    void visitCompoundAssignmentStatement(const CompoundAssignmentStatement* statement);
+    void visitIncrementStatement(const IncrementStatement* statement);
+    void visitIfStatement(const IfStatement* statement);
+    void visitWhileStatement(const WhileStatement* loop);
+    void visitForStatement(const ForStatement* loop);
+    void visitSwitchStatement(const SwitchStatement* statement);
+    void visitTryCatchStatement(const TryCatchStatement* statement);
+    void visitWaitStatement(const WaitStatement* statement);
+    void visitBreakStatement(const BreakStatement* statement);
+    void visitContinueStatement(const ContinueStatement* statement);
+    void visitPassStatement(const PassStatement* statement);
+    void visitSetStateStatement(const SetStateStatement* statement);
+    void visitReturnStatement(const ReturnStatement* statement);
     void generateLogic(const Statement* statement);
     void visitLogicBlockNode(const LogicBlockNode* logic);
 
-    // Expressions
+    // ---- Definitions ----
+    void visitFunctionDefinitionStatement(const FunctionDefinitionStatement* definition);
+    void visitStructDefinitionStatement(const StructDefinitionStatement* definition);
+    /// Writes what fills the properties of `objectName`, a new instance of `structName`.
+    void bindPropertiesAndMethods(const std::string& structName, const std::string& objectName);
+
+    // ---- Expressions ----
     void visitExpression(const Expression* expression);
     void visitNumberLiteral(const NumberLiteral* literal);
     void visitDoubleLiteral(const DoubleLiteral* literal);
     void visitStringLiteral(const StringLiteral* literal);
     void visitCharLiteral(const CharLiteral* literal);
     void visitBooleanLiteral(const BooleanLiteral* literal);
+    void visitVariableAccess(const VariableAccess* access);
+    void visitAssignmentExpression(const AssignmentExpression* assignment);
+    void visitGetExpression(const GetExpression* access);
+    void visitSetMemberExpression(const SetMemberExpression* assignment);
+    void visitIndexExpression(const IndexExpression* access);
+    void visitListLiteral(const ListLiteral* list);
+    void visitMapLiteral(const MapLiteral* map);
+    void visitLambdaExpression(const LambdaExpression* lambda);
+    void visitTernaryExpression(const TernaryExpression* ternary);
+    void visitBinaryExpression(const BinaryExpression* binary);
+    void visitLogicalExpression(const LogicalExpression* logical);
+    void visitUnaryExpression(const UnaryExpression* unary);
+    void visitGroupingExpression(const GroupingExpression* grouping);
+    void visitCallExpression(const CallExpression* call);
 
     /// The page shown first: the first application's page, or the last one marked as the start.
     /// "home" if no application names a page.
@@ -67,16 +109,18 @@ public:
 
     const Program& program;
     std::stringstream out;
-    std::map<std::string, VarType> variableTypes;
-    std::map<std::string, bool> structNames;
+    std::map<std::string, VarType> variableTypes;  ///< Kind last assigned, in traversal order.
+    std::map<std::string, bool> structNames;       ///< Structures already emitted.
     std::set<std::string> constants;
     std::map<std::string, StructDefinitionStatement*> structDefinitions;
     std::map<std::string, AbstractStructDefinitionStatement*> abstractStructDefinitions;
-    std::string currentStruct;
+    std::string currentStruct;  ///< Structure whose methods are emitted; empty outside.
     std::map<std::string, std::vector<Param>> functionParameters;
-    std::string currentFunction;
+    std::string currentFunction;  ///< Function being emitted; empty at top level.
     std::string sourceText;
     std::string filename;
+    /// Names that are real C++ variables here: parameters, loop variables, nested functions. Every
+    /// other name lives in global_vars.
     std::map<std::string, bool> localVariables;
     int indentLevel = 0;
 
@@ -97,6 +141,71 @@ private:
     void writeConsoleMain();
 
     bool holdsWebApp() const;
+
+    // ---- Pieces of text that many visitors write ----
+    /// The visitor's text as a value of its own: std::any( ... )
+    void writeAny(const Expression* expression);
+    /// Arguments as std::any values, joined by commas.
+    void writeAnyList(const std::vector<std::unique_ptr<Expression>>& arguments);
+    /// "source path", line
+    void writePlace(int line);
+    /// The std::function type of a language function with that many parameters; a negative count
+    /// is none.
+    static std::string functionType(int parameterCount);
+    void openBrace(const std::string& head);
+    void closeBrace(const std::string& tail = "\n");
+    void writeIndentedBlock(const BlockStatement* block);
+
+    // ---- Statements ----
+    bool visitSimpleStatement(const Statement* statement);
+    bool visitIndentingStatement(const Statement* statement);
+    void writeCountedLoop(const std::string& variable, const CallExpression& range);
+    void writeCollectionLoop(const ForStatement& loop);
+    void writeLoopBody(const std::string& variable, const char* value, const ForStatement& loop);
+    void writeStatementConstructor(const std::string& name, const CallExpression& call);
+    void checkReturnKind(const Expression& value);
+
+    // ---- Kinds ----
+    VarType inferCall(const CallExpression& call);
+    VarType inferVariable(const VariableAccess& access);
+    VarType inferMember(const GetExpression& access);
+    VarType inferBinary(const BinaryExpression& binary);
+
+    // ---- Expressions ----
+    bool visitValue(const Expression* expression);
+    bool visitOperation(const Expression* expression);
+    void writeNativeOperation(const BinaryExpression& binary, VarType left, VarType right);
+    void writeNativeSide(const Expression* side, const std::string& type);
+    void writeTruth(const Expression* side);
+    bool writeInputProperty(const GetExpression& access);
+    void writeTimeField(const GetExpression& access);
+    void checkPrivateField(const Expression* object, const std::string& field, int line);
+    void checkMemberAssignment(const SetMemberExpression& assignment);
+    void writeIndexTarget(const Expression* expression);
+
+    // ---- Calls ----
+    bool writeInputCall(const CallExpression& call, const GetExpression& callee);
+    void writeDirectCall(const CallExpression& call, int parameterCount);
+    void writeMemberCall(const CallExpression& call, const GetExpression& callee);
+    void writeAppend(const CallExpression& call, const GetExpression& callee);
+    void writeNamedCall(const CallExpression& call, const VariableAccess& callee);
+    void writeUserCall(const CallExpression& call, const std::string& name);
+    void writeConstructor(const CallExpression& call, const std::string& structName);
+    void writeIndexStore(const CallExpression& call);
+    bool writeBuiltin(const CallExpression& call, const std::string& name);
+    void writeFilled(std::string_view text, const CallExpression& call);
+    /// A call of a value that may be no function of this arity: reported at run time then.
+    template <typename WriteCallee>
+    void writeGuardedCall(const CallExpression& call, WriteCallee writeCallee);
+
+    // ---- Definitions ----
+    void writeTopLevelFunction(const FunctionDefinitionStatement& definition);
+    void writeNestedFunction(const FunctionDefinitionStatement& definition);
+    void writeMemberComments(const StructDefinitionStatement& definition, bool isPrivate);
+    void writeMethodBinding(const std::string& structName, const std::string& objectName,
+                            const FunctionDefinitionStatement& method);
+
+    int collectionLoops = 0;  ///< List walks around the cursor; each doubles its body's text.
 };
 
 /// A float as text for the emitted program: three decimals and the suffix `f`, in every locale.

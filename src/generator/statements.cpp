@@ -1,15 +1,91 @@
-// Statements: the dispatch over the nodes, and the text of each.
+// Statements: the dispatch over the nodes, and the plain ones. Control flow stands in
+// control_flow.cpp, declarations in declarations.cpp.
 #include "generator/generator.h"
 #include "generator/static_error.h"
 
 void Generator::visitStatement(const Statement* statement) {
-    indent();
-    if (const auto* print = dynamic_cast<const PrintStatement*>(statement)) {
-        visitPrintStatement(print);
-        out << ";\n";
-        return;
-    }
+    if (visitSimpleStatement(statement) || visitIndentingStatement(statement)) return;
     throw_static_error("பொழில்-399", "Unknown statement type in generator");
+}
+
+/// Statements of one line: indented here, and ended with `;`. False if the node is none of them.
+bool Generator::visitSimpleStatement(const Statement* statement) {
+    const auto line = [&](auto visit) {
+        indent();
+        visit();
+        out << ";\n";
+        return true;
+    };
+    if (const auto* node = dynamic_cast<const PrintStatement*>(statement)) {
+        return line([&] { visitPrintStatement(node); });
+    }
+    if (const auto* node = dynamic_cast<const VarDeclaration*>(statement)) {
+        return line([&] { visitVarDeclaration(node); });
+    }
+    if (const auto* node = dynamic_cast<const CompoundAssignmentStatement*>(statement)) {
+        return line([&] { visitCompoundAssignmentStatement(node); });
+    }
+    if (const auto* node = dynamic_cast<const IncrementStatement*>(statement)) {
+        return line([&] { visitIncrementStatement(node); });
+    }
+    if (const auto* node = dynamic_cast<const WaitStatement*>(statement)) {
+        return line([&] { visitWaitStatement(node); });
+    }
+    if (const auto* node = dynamic_cast<const BreakStatement*>(statement)) {
+        return line([&] { visitBreakStatement(node); });
+    }
+    if (const auto* node = dynamic_cast<const ContinueStatement*>(statement)) {
+        return line([&] { visitContinueStatement(node); });
+    }
+    if (const auto* node = dynamic_cast<const SetStatement*>(statement)) {
+        return line([&] { visitSetStatement(node); });
+    }
+    if (const auto* node = dynamic_cast<const ExpressionStatement*>(statement)) {
+        return line([&] { visitExpressionStatement(node); });
+    }
+    if (const auto* node = dynamic_cast<const PassStatement*>(statement)) {
+        return line([&] { visitPassStatement(node); });
+    }
+    if (const auto* node = dynamic_cast<const ReturnStatement*>(statement)) {
+        return line([&] { visitReturnStatement(node); });
+    }
+    return false;
+}
+
+/// Statements that write their own lines. False if the node is none of them.
+bool Generator::visitIndentingStatement(const Statement* statement) {
+    if (const auto* node = dynamic_cast<const IfStatement*>(statement)) {
+        visitIfStatement(node);
+    } else if (const auto* node = dynamic_cast<const TryCatchStatement*>(statement)) {
+        visitTryCatchStatement(node);
+    } else if (const auto* node = dynamic_cast<const WhileStatement*>(statement)) {
+        visitWhileStatement(node);
+    } else if (const auto* node = dynamic_cast<const SwitchStatement*>(statement)) {
+        visitSwitchStatement(node);
+    } else if (const auto* node = dynamic_cast<const ForStatement*>(statement)) {
+        visitForStatement(node);
+    } else if (const auto* node = dynamic_cast<const SetStateStatement*>(statement)) {
+        visitSetStateStatement(node);
+    } else if (dynamic_cast<const AbstractStructDefinitionStatement*>(statement) != nullptr ||
+               dynamic_cast<const StructDefinitionStatement*>(statement) != nullptr) {
+        // Structures were written at file scope; abstract ones write nothing.
+    } else if (const auto* node = dynamic_cast<const FunctionDefinitionStatement*>(statement)) {
+        visitFunctionDefinitionStatement(node);
+    } else if (const auto* node = dynamic_cast<const BlockStatement*>(statement)) {
+        visitBlockStatement(node);
+    } else if (const auto* node = dynamic_cast<const LogicBlockNode*>(statement)) {
+        visitLogicBlockNode(node);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+/// Writes no braces and leaves the indentation alone: the callers do both.
+void Generator::visitBlockStatement(const BlockStatement* block) {
+    for (const auto& statement : block->statements) {
+        if (statement != nullptr) visitStatement(statement.get());
+    }
 }
 
 /// அச்சிடு(1, "அ")  ->  std::cout << fn_any_to_string(1LL) << fn_any_to_string(...) << std::endl
@@ -24,10 +100,27 @@ void Generator::visitPrintStatement(const PrintStatement* print) {
     out << " << std::endl";
 }
 
-void Generator::visitStructDefinitionStatement(const StructDefinitionStatement*) {
-    throw_static_error("பொழில்-399", "Unknown statement type in generator");
+void Generator::visitExpressionStatement(const ExpressionStatement* statement) {
+    visitExpression(statement->expression.get());
 }
 
-void Generator::visitFunctionDefinitionStatement(const FunctionDefinitionStatement*) {
-    throw_static_error("பொழில்-399", "Unknown statement type in generator");
+/// காத்திரு 0.5  ->  a sleep of 500 milliseconds; what is no number waits for 0.
+void Generator::visitWaitStatement(const WaitStatement* statement) {
+    out << "std::this_thread::sleep_for(std::chrono::milliseconds("
+           "static_cast<long long>(fn_get_double(";
+    visitExpression(statement->duration.get());
+    out << ") * 1000)))";
+}
+
+void Generator::visitBreakStatement(const BreakStatement*) { out << "break"; }
+
+void Generator::visitContinueStatement(const ContinueStatement*) { out << "continue"; }
+
+void Generator::visitPassStatement(const PassStatement*) { out << "(void)0"; }
+
+void Generator::visitSetStateStatement(const SetStateStatement*) {
+    indent();
+    out << "// UI-ஐப் புதுப்பித்தல்\n";
+    indent();
+    out << "updateUI();\n";
 }

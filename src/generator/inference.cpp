@@ -1,0 +1,119 @@
+// Static kinds: what an expression holds, as far as its form and the assignments visited so far
+// tell. It is an estimate: Dynamic is accepted everywhere.
+#include <algorithm>
+
+#include "generator/generator.h"
+
+namespace {
+
+struct ResultRow {
+    const char* name;
+    VarType kind;
+};
+
+// Results of the built-in calls whose kind doesn't depend on their arguments.
+const ResultRow kResults[] = {
+    {"உள்ளீடு", VarType::String},       {"நீளம்", VarType::Integer},
+    {"எடு", VarType::Dynamic},          {"வர்க்கமூலம்", VarType::Decimal},
+    {"அடுக்கு", VarType::Decimal},      {"சைன்", VarType::Decimal},
+    {"காஸ்", VarType::Decimal},         {"டேன்", VarType::Decimal},
+    {"மடக்கு", VarType::Decimal},       {"மேல்எண்", VarType::Integer},
+    {"கீழ்எண்", VarType::Integer},      {"இப்போதுநேரம்", VarType::Time},
+    {"வரம்பு", VarType::Dynamic},       {"பிளவு", VarType::List},
+    {"பதில்", VarType::String},         {"பெரியஎ", VarType::String},
+    {"சிறியஎ", VarType::String},        {"கோப்பு_படி", VarType::String},
+    {"கோப்பு_உள்ளதா", VarType::Boolean}, {"கோப்பு_அழி", VarType::Boolean},
+};
+
+const char* const kTruthOperators[] = {
+    "சமம்", "சமமில்லை", "பெரிது", "சிறிது", "பெரிதுசமம்", "சிறிதுசமம்", "மற்றும்", "அல்லது",
+};
+
+const char* const kTimeFields[] = {
+    "ஆண்டு", "மாதம்", "நாள்", "மணி", "நிமிடம்", "வினாடி", "வாரநாள்",
+};
+
+template <typename Table>
+bool holds(const Table& table, const std::string& word) {
+    return std::find(std::begin(table), std::end(table), word) != std::end(table);
+}
+
+}  // namespace
+
+VarType Generator::inferExpressionType(const Expression* expression) {
+    if (dynamic_cast<const NumberLiteral*>(expression) != nullptr) return VarType::Integer;
+    if (dynamic_cast<const DoubleLiteral*>(expression) != nullptr) return VarType::Decimal;
+    if (dynamic_cast<const StringLiteral*>(expression) != nullptr) return VarType::String;
+    if (dynamic_cast<const BooleanLiteral*>(expression) != nullptr) return VarType::Boolean;
+    if (dynamic_cast<const ListLiteral*>(expression) != nullptr) return VarType::List;
+    if (dynamic_cast<const MapLiteral*>(expression) != nullptr) return VarType::Map;
+    if (dynamic_cast<const LambdaExpression*>(expression) != nullptr) return VarType::Object;
+    if (const auto* call = dynamic_cast<const CallExpression*>(expression)) return inferCall(*call);
+    if (const auto* node = dynamic_cast<const VariableAccess*>(expression)) {
+        return inferVariable(*node);
+    }
+    if (const auto* node = dynamic_cast<const GetExpression*>(expression)) {
+        return inferMember(*node);
+    }
+    if (const auto* node = dynamic_cast<const BinaryExpression*>(expression)) {
+        return inferBinary(*node);
+    }
+    if (const auto* node = dynamic_cast<const TernaryExpression*>(expression)) {
+        return inferExpressionType(node->thenBranch.get());  // the second isn't looked at
+    }
+    return VarType::Dynamic;  // a parenthesis hides a kind, and so does an assignment
+}
+
+VarType Generator::inferCall(const CallExpression& call) {
+    if (const auto* callee = dynamic_cast<const VariableAccess*>(call.callee.get())) {
+        const std::string& name = callee->name;
+        if (name == "தனிமதிப்பு") {
+            return call.arguments.empty() ? VarType::Dynamic
+                                          : inferExpressionType(call.arguments[0].get());
+        }
+        for (const ResultRow& row : kResults) {
+            if (name == row.name) return row.kind;
+        }
+        return structNames.count(name) != 0 ? VarType::Object : VarType::Dynamic;
+    }
+    if (const auto* callee = dynamic_cast<const GetExpression*>(call.callee.get())) {
+        const std::string& member = callee->name.text;
+        const auto* object = dynamic_cast<const VariableAccess*>(callee->object.get());
+        if (object != nullptr && object->name == "நேரம்") {
+            if (member == "வினாடிகள்") return VarType::Decimal;
+            if (member == "உருவாக்கு") return VarType::Time;
+        }
+        if (member == "தேதி" || member == "நேரம்" || member == "முழுவதும்") return VarType::String;
+    }
+    return VarType::Dynamic;
+}
+
+VarType Generator::inferVariable(const VariableAccess& access) {
+    if (access.name == "தான்" || access.name == "self") {
+        if (currentStruct.empty()) பிழை("பொழில்-325", access.line, "");
+        return VarType::Object;
+    }
+    if (localVariables.count(access.name) != 0) return VarType::Dynamic;
+    const auto recorded = variableTypes.find(access.name);
+    return recorded == variableTypes.end() ? VarType::Dynamic : recorded->second;
+}
+
+VarType Generator::inferMember(const GetExpression& access) {
+    const auto* object = dynamic_cast<const VariableAccess*>(access.object.get());
+    if (object == nullptr) return VarType::Dynamic;
+    const auto recorded = variableTypes.find(object->name);
+    const bool isTime = recorded != variableTypes.end() && recorded->second == VarType::Time;
+    return isTime && holds(kTimeFields, access.name.text) ? VarType::Integer : VarType::Dynamic;
+}
+
+/// The order is meant: a comparison of two known integers counts as Integer.
+VarType Generator::inferBinary(const BinaryExpression& binary) {
+    const VarType left = inferExpressionType(binary.left.get());
+    const VarType right = inferExpressionType(binary.right.get());
+    const std::string& op = binary.op.text;
+    const bool joins = op == "கூட்டு" || op == "இணை";
+    if (joins && (left == VarType::String || right == VarType::String)) return VarType::String;
+    if (left == VarType::Decimal || right == VarType::Decimal) return VarType::Decimal;
+    if (left == VarType::Integer && right == VarType::Integer) return VarType::Integer;
+    return holds(kTruthOperators, op) ? VarType::Boolean : VarType::Dynamic;
+}

@@ -1,0 +1,127 @@
+// Structures: an empty C++ struct gives std::make_shared a type and inheritance a shape; fields
+// and methods live in each instance's properties.
+#include <algorithm>
+
+#include "generator/generator.h"
+
+void Generator::visitStructDefinitionStatement(const StructDefinitionStatement* definition) {
+    const std::string& name = definition->name.text;
+    structNames[name] = true;
+    std::string base = "_StructBase";
+    if (definition->hasParent) {
+        const std::string& parent = definition->parentName.text;
+        if (abstractStructDefinitions.count(parent) == 0) {
+            if (structDefinitions.count(parent) == 0) {
+                பிழை("பொழில்-323", definition->line, "'" + parent + "'");
+            }
+            base = parent;
+        }
+    }
+    out << "struct " << name << " : public " << base << " {\n";
+    writeMemberComments(*definition, true);
+    writeMemberComments(*definition, false);
+    out << "};\nusing T_" << name << " = std::shared_ptr<" << name << ">;\n";
+    variableTypes[name] = VarType::Object;
+
+    currentStruct = name;
+    for (const auto& method : definition->methods) visitFunctionDefinitionStatement(method.get());
+    currentStruct.clear();
+}
+
+/// The members of one visibility, as comments: privacy has no meaning in C++ here, the generator
+/// itself keeps it.
+void Generator::writeMemberComments(const StructDefinitionStatement& definition, bool isPrivate) {
+    const auto matches = [&](const auto& member) { return member->isPrivate == isPrivate; };
+    const auto& fields = definition.fields;
+    const auto& methods = definition.methods;
+    if (std::none_of(fields.begin(), fields.end(), matches) &&
+        std::none_of(methods.begin(), methods.end(), matches)) {
+        return;
+    }
+    out << (isPrivate ? "private:\n" : "public:\n");
+    for (const auto& field : fields) {
+        if (!matches(field)) continue;
+        indent();
+        out << "// " << field->name << "\n";
+    }
+    for (const auto& method : methods) {
+        if (!matches(method)) continue;
+        indent();
+        out << "// " << method->name.text << "()\n";
+    }
+}
+
+/// The parent's members first, so that the child's of the same name replace them.
+void Generator::bindPropertiesAndMethods(const std::string& structName,
+                                         const std::string& objectName) {
+    const auto found = structDefinitions.find(structName);
+    if (found == structDefinitions.end()) {
+        if (abstractStructDefinitions.count(structName) != 0) return;
+        பிழை("பொழில்-323", 0, "'" + structName + "'");
+    }
+    const StructDefinitionStatement& definition = *found->second;
+    if (definition.hasParent) bindPropertiesAndMethods(definition.parentName.text, objectName);
+    for (const auto& field : definition.fields) {
+        indent();
+        out << objectName << "->properties[\"" << field->name << "\"] = ";
+        writeAny(field->initializer.get());
+        out << ";\n";
+    }
+    for (const auto& method : definition.methods) {
+        writeMethodBinding(structName, objectName, *method);
+    }
+}
+
+/// A method as a function value that holds its instance. All parameters go by value.
+void Generator::writeMethodBinding(const std::string& structName, const std::string& objectName,
+                                   const FunctionDefinitionStatement& method) {
+    const auto& parameters = method.parameters;
+    const std::string& name = method.name.text;
+    indent();
+    out << objectName << "->properties[\"" << name << "\"] = std::any("
+        << functionType(static_cast<int>(parameters.size()) - 1) << "([=](";
+    for (std::size_t i = 1; i < parameters.size(); i++) {
+        out << (i > 1 ? ", " : "") << "std::any " << parameters[i].name.text;
+    }
+    out << ") { return fn_" << structName << "_" << name
+        << "(std::static_pointer_cast<_StructBase>(" << objectName << ")";
+    for (std::size_t i = 1; i < parameters.size(); i++) out << ", " << parameters[i].name.text;
+    out << "); }));\n";
+}
+
+/// S(1)  ->  an immediately invoked lambda that makes, fills and starts the instance.
+/// An inherited `துவக்கம்` is found. Raises 333 for arguments that no `துவக்கம்` takes.
+void Generator::writeConstructor(const CallExpression& call, const std::string& structName) {
+    out << "[&]() -> std::any {\n";
+    indentLevel++;
+    indent();
+    out << "auto temp_obj = std::make_shared<" << structName << ">();\n";
+    bindPropertiesAndMethods(structName, "temp_obj");
+
+    const std::string instance = "std::static_pointer_cast<_StructBase>(temp_obj)";
+    std::string owner;
+    for (auto at = structDefinitions.find(structName); at != structDefinitions.end();) {
+        const StructDefinitionStatement& candidate = *at->second;
+        const bool found = std::any_of(
+            candidate.methods.begin(), candidate.methods.end(),
+            [](const auto& method) { return method->name.text == "துவக்கம்"; });
+        if (found) owner = at->first;
+        if (found || !candidate.hasParent) break;
+        at = structDefinitions.find(candidate.parentName.text);
+    }
+    if (!owner.empty()) {
+        indent();
+        out << "fn_" << owner << "_துவக்கம்(" << instance;
+        for (const auto& argument : call.arguments) {
+            out << ", ";
+            writeAny(argument.get());
+        }
+        out << ");\n";
+    } else if (!call.arguments.empty()) {
+        பிழை("பொழில்-333", call.line,
+            "'" + structName + "' கட்டமைப்பில் 'துவக்கம்()' வரையறுக்கப்படவில்லை.");
+    }
+    indent();
+    out << "return std::any(" << instance << ");\n";
+    closeBrace("()");
+}
