@@ -1,126 +1,237 @@
-// The generator's two ways to refuse.
+// What the generator refuses: by report at a line, with its detail, or without a line.
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-#include "generator/static_error.h"
+#include "error_codes.h"
 #include "support/front_end.h"
-#include "support/subprocess.h"
 
 namespace {
 
-const Program kNoProgram;
-const char* const kSource = "முதல்\n\n  மூன்று\nநான்கு";
+struct ReportRow {
+    const char* source;
+    const char* code;
+    int line;
+    const char* detail;  ///< What stands in brackets behind the meaning; "" for none.
+};
 
-Generator newGenerator() { return Generator(kNoProgram, {}, {}, {}, kSource, "file.பொழில்"); }
+class Reports : public testing::TestWithParam<ReportRow> {};
 
-Refusal refusalOf(const std::string& code, int line, const std::string& detail) {
-    Generator generator(kNoProgram, {}, {}, {}, kSource, "file.பொழில்");
+TEST_P(Reports, CodeLineAndDetail) {
+    const ReportRow& row = GetParam();
     try {
-        generator.பிழை(code, line, detail);
+        generate(row.source);
+        FAIL() << row.source << "\nis not refused";
     } catch (const Refusal& refusal) {
-        return refusal;
+        const std::string meaning = பிழை_அகராதி.at(row.code).விளக்கம்;
+        const std::string detail = row.detail;
+        EXPECT_EQ(refusal.code, row.code) << row.source;
+        EXPECT_EQ(refusal.line, row.line) << row.source;
+        EXPECT_EQ(refusal.message, detail.empty() ? meaning : meaning + " (" + detail + ")");
+        EXPECT_EQ(refusal.kind, SEMANTIC_ERROR);
     }
 }
 
-TEST(GeneratorRefusal, CarriesAllFields) {
-    const Refusal refusal = refusalOf("பொழில்-315", 3, "");
-    EXPECT_EQ(refusal.kind, SEMANTIC_ERROR);
-    EXPECT_EQ(refusal.code, "பொழில்-315");
-    EXPECT_EQ(refusal.message, "மாறிலியை (Constant) மாற்ற முயற்சி.");
-    EXPECT_EQ(refusal.file, "file.பொழில்");
-    EXPECT_EQ(refusal.line, 3);
-    EXPECT_EQ(refusal.lineText, "  மூன்று");
-    EXPECT_EQ(refusal.fix, "ஒருமுறை முடிவு செஞ்ச மதிப்ப ('=' மூலம்) மீண்டும் மாற்ற முடியாது மச்சி!");
+const char* const kAccount =
+    "கட்டமைப்பு கணக்கு:\n    ரகசிய இருப்பு = 5\n    செயல் சொல்(தான்):\n"
+    "        திரும்பு தான்.இருப்பு\n";
+
+const ReportRow kOperatorRows[] = {
+    {"\nஅ = [1] கூட்டு 2\n", "பொழில்-304", 2, ""},
+    {"அ = 2 கழி [1]\n", "பொழில்-304", 1, ""},
+    {"அ = {} பெருக்கு 2\n", "பொழில்-304", 1, ""},
+    {"அ = (x => x)\nஆ = x => x\nஇ = ஆ வகு 2\n", "பொழில்-304", 3, ""},
+    {"அ = [1] மீதி 2\n", "பொழில்-304", 1, ""},
+    {"அ = 1\nஆ = அ வகு 0\n", "பொழில்-301", 2, ""},
+    {"ஆ = அ வகு 0.0\n", "பொழில்-301", 1, ""},
+    {"ஆ = அ வகு 0.\n", "பொழில்-301", 1, ""},
+    {"அ = 1 கூட்டு \"a\"\n", "பொழில்-303", 1, ""},
+    {"அ = \"a\" கூட்டு 1\n", "பொழில்-303", 1, ""},
+    {"அ = \"a\" பெருக்கு 1.5\n", "பொழில்-303", 1, ""},
+    {"அ = 1.5 கழி \"a\"\n", "பொழில்-303", 1, ""},
+    {"அ = 1\nஆ = \"a\"\nஇ = அ மீதி ஆ\n", "பொழில்-303", 3, ""},
+    {"அ = 99999999999999999999\n", "பொழில்-305", 1, ""},
+};
+INSTANTIATE_TEST_SUITE_P(Operators, Reports, testing::ValuesIn(kOperatorRows));
+
+const ReportRow kAccessRows[] = {
+    {"அச்சிடு(தான்)\n", "பொழில்-325", 1, ""},
+    {"அ = self\n", "பொழில்-325", 1, ""},
+    {"அ = 1\nஅச்சிடு(அ.பெயர்)\n", "பொழில்-304", 2,
+     "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது."},
+    {"செயல் சே(அ):\n    திரும்பு அ.பெயர்\n", "பொழில்-304", 2,
+     "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது."},
+    {"நே = இப்போதுநேரம்()\nஅச்சிடு(நே.நூற்றாண்டு)\n", "பொழில்-304", 2,
+     "நேரப் பொருளில் 'நூற்றாண்டு' என்ற பகுதி இல்லை."},
+    {"நே = இப்போதுநேரம்()\nநே.ஆண்டு = 1\n", "பொழில்-322", 2, ""},
+    {"அ = 1\nஅ.பெயர் = 1\n", "பொழில்-304", 2, "இந்த வகைக்குள் பண்புகளை மாற்ற முடியாது"},
+    {"மாறிலி = 1\nமாறிலி = 2\n", "பொழில்-315", 2, ""},
+    {"மாறிலி_எல்லை = 1\nமாறிலி_எல்லை = 2\n", "பொழில்-315", 2, ""},
+};
+INSTANTIATE_TEST_SUITE_P(Access, Reports, testing::ValuesIn(kAccessRows));
+
+const char* const kAppendTwice = "அ = []\nஅ.சேர்(1, 2)\n";
+const ReportRow kCallRows[] = {
+    {kAppendTwice, "பொழில்-331", 2, "'.சேர்()' 1 argument மட்டுமே ஏற்கும்."},
+    {"செயல் கூடு(அ, ஆ):\n    விடு\nகூடு(1)\n", "பொழில்-331", 3,
+     "'கூடு' 2 உள்ளீடுகளை ஏற்கும், ஆனால் 1 கொடுக்கப்பட்டுள்ளது."},
+    {"செயல் மாறு(மாற்று அ):\n    விடு\nமாறு(x கூட்டு 1)\n", "பொழில்-331", 3,
+     "'மாற்று' parameter-க்கு ஒரு மாறி (Variable)-ஐ மட்டும் தான் அனுப்ப முடியும்."},
+    {"அச்சிடு(என்னவகை())\n", "பொழில்-331", 1,
+     "('என்னவகை' செயலுக்கு ஒரு மதிப்பு மட்டுமே தர வேண்டும்)"},
+    {"அச்சிடு(எண்())\n", "பொழில்-331", 1, ""},
+    {"வை(அ, 1)\n", "பொழில்-331", 1,
+     "('வை' செயலுக்கு 3 மதிப்புகள் தேவை: பட்டியல்/அகராதி, குறியீடு/சாவி, மதிப்பு)"},
+    {"வை([1], 0, 1)\n", "பொழில்-313", 1,
+     "('வை' செயலின் முதல் மதிப்பு ஒரு மாறி, பட்டியல் உறுப்பு அல்லது பொருள் பண்பாக இருக்க "
+     "வேண்டும்.)"},
+    {"நீக்கு(அ)\n", "பொழில்-331", 1, ""},
+    {"கோப்பு_எழுது(\"அ\")\n", "பொழில்-331", 1, "'கோப்பு_எழுது' 2 உள்ளீடுகளை ஏற்கும் (path, content)."},
+    {"கோப்பு_படி()\n", "பொழில்-331", 1, "'கோப்பு_படி' 1 உள்ளீட்டை ஏற்கும் (path)."},
+    {"கோப்பு_சேர்(\"அ\")\n", "பொழில்-331", 1, "'கோப்பு_சேர்' 2 உள்ளீடுகளை ஏற்கும் (path, content)."},
+};
+INSTANTIATE_TEST_SUITE_P(Calls, Reports, testing::ValuesIn(kCallRows));
+
+const ReportRow kReturnRows[] = {
+    {"செயல் தொகை_எண்():\n    திரும்பு \"அ\"\n", "பொழில்-334", 2,
+     "'தொகை_எண்' ஒரு 'எண்' (Number)-ஐ அனுப்ப வேண்டும், ஆனால் வேறொன்றை அனுப்பியுள்ளது."},
+    {"செயல் எண்():\n    திரும்பு []\n", "பொழில்-334", 2,
+     "'எண்' ஒரு 'எண்' (Number)-ஐ அனுப்ப வேண்டும், ஆனால் வேறொன்றை அனுப்பியுள்ளது."},
+    {"செயல் வரி_உரை():\n    திரும்பு 5\n", "பொழில்-334", 2,
+     "'வரி_உரை' ஒரு 'உரை' (String)-ஐ அனுப்ப வேண்டும், ஆனால் வேறொன்றை அனுப்பியுள்ளது."},
+    {"செயல் வரி_உரை():\n    திரும்பு 5.5\n", "பொழில்-334", 2,
+     "'வரி_உரை' ஒரு 'உரை' (String)-ஐ அனுப்ப வேண்டும், ஆனால் வேறொன்றை அனுப்பியுள்ளது."},
+    {"செயல் என்_பட்டியல்():\n    திரும்பு \"அ\"\n", "பொழில்-334", 2,
+     "'என்_பட்டியல்' ஒரு 'பட்டியல்' (List)-ஐ அனுப்ப வேண்டும்."},
+    {"செயல் பட்டியல்():\n    திரும்பு மெய்\n", "பொழில்-334", 2,
+     "'பட்டியல்' ஒரு 'பட்டியல்' (List)-ஐ அனுப்ப வேண்டும்."},
+};
+INSTANTIATE_TEST_SUITE_P(Returns, Reports, testing::ValuesIn(kReturnRows));
+
+TEST(StructureReports, PrivateFieldThroughAnyOtherVariable) {
+    const std::string read = std::string(kAccount) + "க = கணக்கு()\nஅச்சிடு(க.இருப்பு)\n";
+    EXPECT_TRUE(refuses("பொழில்-321", 6, [&] { generate(read); }));
+    const std::string write = std::string(kAccount) + "க = கணக்கு()\nக.இருப்பு = 1\n";
+    EXPECT_TRUE(refuses("பொழில்-321", 6, [&] { generate(write); }));
+    // Also if the private one is another structure's.
+    const std::string other = std::string(kAccount) +
+                              "கட்டமைப்பு பணம்:\n    இருப்பு = 1\nப = பணம்()\nஅச்சிடு(ப.இருப்பு)\n";
+    EXPECT_TRUE(refuses("பொழில்-321", 8, [&] { generate(other); }));
 }
 
-TEST(GeneratorRefusal, PutsDetailInBrackets) {
-    EXPECT_EQ(refusalOf("பொழில்-315", 1, "அளவு").message, "மாறிலியை (Constant) மாற்ற முயற்சி. (அளவு)");
+TEST(StructureReports, ReceiverReachesItsPrivateField) { EXPECT_NO_THROW(generate(kAccount)); }
+
+TEST(StructureReports, ArgumentsWithoutConstructor) {
+    const std::string source = std::string(kAccount) + "க = கணக்கு(1)\n";
+    EXPECT_TRUE(refuses("பொழில்-333", 5, [&] { generate(source); }));
+    EXPECT_NO_THROW(generate(std::string(kAccount) + "க = கணக்கு()\n"));
 }
 
-TEST(GeneratorRefusal, AtALineThatIsNotThereShowsNoText) {
-    EXPECT_EQ(refusalOf("பொழில்-315", 0, "").lineText, "");
-    EXPECT_EQ(refusalOf("பொழில்-315", 5, "").lineText, "");
-}
-
-TEST(GeneratorRefusal, OfACodeThatTheCatalogueLacksEndsTheProcess) {
-    const ProcessResult result =
-        runForked([]() -> int { newGenerator().பிழை("பொழில்-999", 1, "அ"); });
-    EXPECT_EQ(result.exitCode, 1);
-    EXPECT_EQ(result.out, "");
-    EXPECT_EQ(result.err, "பொழில்-399: அறியப்படாத பிழை (பொழில்-999)\n");
-}
-
-TEST(GeneratorLineText, CountsFromOne) {
-    Generator generator(kNoProgram, {}, {}, {}, kSource, "");
-    EXPECT_EQ(generator.getLineText(1), "முதல்");
-    EXPECT_EQ(generator.getLineText(2), "");
-    EXPECT_EQ(generator.getLineText(3), "  மூன்று");
-    EXPECT_EQ(generator.getLineText(4), "நான்கு");
-}
-
-TEST(GeneratorLineText, IsEmptyWhereThereIsNoLine) {
-    Generator generator(kNoProgram, {}, {}, {}, kSource, "");
-    EXPECT_EQ(generator.getLineText(0), "");
-    EXPECT_EQ(generator.getLineText(-1), "");
-    EXPECT_EQ(generator.getLineText(5), "");
-    Generator empty(kNoProgram, {}, {}, {}, "", "");
-    EXPECT_EQ(empty.getLineText(1), "");
-}
-
-/// What the exception that `action` ends in says.
-template <typename Action>
-std::string messageOf(Action action) {
-    try {
-        action();
-    } catch (const std::runtime_error& error) {
-        return error.what();
-    }
-    return "nothing was thrown";
-}
-
-TEST(StaticError, TellsMeaningAndFix) {
-    EXPECT_EQ(messageOf([] { throw_static_error("பொழில்-204", ""); }),
-              "பொழில்-204: எதிர்பார்க்கப்பட்ட ')' விடுபட்டுள்ளது. - "
-              "திறந்த அடைப்புக்குறியைச் சரியாக மூடினால் பொழில் ஓடும்!");
-}
-
-TEST(StaticError, PutsDetailInBrackets) {
-    EXPECT_EQ(messageOf([] { throw_static_error("பொழில்-204", "அளவு"); }),
-              "பொழில்-204: எதிர்பார்க்கப்பட்ட ')' விடுபட்டுள்ளது. - "
-              "திறந்த அடைப்புக்குறியைச் சரியாக மூடினால் பொழில் ஓடும்! (அளவு)");
-}
-
-TEST(StaticError, OfACodeThatTheCatalogueLacksSaysSo) {
-    EXPECT_EQ(messageOf([] { throw_static_error("பொழில்-999", "அளவு"); }),
-              "அறியப்படாத பிழைக் குறியீடு: பொழில்-999");
-}
-
-/// What no visitor knows.
-struct UnknownStatement : Statement {};
-struct UnknownExpression : Expression {};
-
-const std::string kUnknown =
-    "பொழில்-399: அறியப்படாத பிழை (Unknown Error). - "
-    "ஏதோ ஒன்னு தப்பா ஆகிடுச்சு மச்சி, கோடை ஒருவாட்டி ஆழமா செக் பண்ணு! ";
-
-TEST(UnknownNode, AsAStatementIsRefused) {
-    const UnknownStatement statement;
-    EXPECT_EQ(messageOf([&] { newGenerator().visitStatement(&statement); }),
-              kUnknown + "(Unknown statement type in generator)");
-}
-
-TEST(UnknownNode, AsAnExpressionIsRefused) {
-    const UnknownExpression expression;
-    EXPECT_EQ(messageOf([&] { newGenerator().visitExpression(&expression); }),
-              kUnknown + "(Unknown expression type in generator)");
-}
-
-TEST(UnknownNode, InAProgramIsRefused) {
+TEST(StructureReports, UnknownParentInATreeBuiltByHand) {
     Program program;
-    program.statements.push_back(std::make_unique<UnknownStatement>());
-    EXPECT_EQ(messageOf([&] { Generator(program, {}, {}, {}, "", "").generate(); }),
-              kUnknown + "(Unknown statement type in generator)");
+    program.statements.push_back(std::make_unique<StructDefinitionStatement>(
+        Token{TokenType::IDENTIFIER, "மகன்", 3}, Token{TokenType::IDENTIFIER, "தந்தை", 3}, true,
+        std::vector<std::unique_ptr<VarDeclaration>>(),
+        std::vector<std::unique_ptr<FunctionDefinitionStatement>>(), false));
+    Generator generator(program, {}, {}, {}, "", "test.பொழில்");
+    EXPECT_TRUE(refuses("பொழில்-323", 0, [&] { generator.generate(); }));
+    Generator other(program, {}, {}, {}, "", "test.பொழில்");
+    EXPECT_TRUE(refuses("பொழில்-323", 0, [&] { other.bindPropertiesAndMethods("எங்கோ", "o"); }));
+}
+
+TEST(ReturnKinds, WhatPasses) {
+    EXPECT_NO_THROW(generate("செயல் வரி_உரை(அ):\n    திரும்பு அ\n"));
+    EXPECT_NO_THROW(generate("செயல் தொகை_எண்():\n    திரும்பு 5\n"));
+    EXPECT_NO_THROW(generate("செயல் என்_பட்டியல்(அ):\n    திரும்பு அ\n"));
+    EXPECT_NO_THROW(generate("செயல் என்_பட்டியல்():\n    திரும்பு [1]\n"));
+    EXPECT_NO_THROW(generate("செயல் சே():\n    திரும்பு \"அ\"\n"));
+}
+
+struct StaticRow {
+    const char* source;
+    const char* code;
+    const char* detail;
+};
+
+class StaticRefusals : public testing::TestWithParam<StaticRow> {};
+
+TEST_P(StaticRefusals, TextWithoutALine) {
+    const StaticRow& row = GetParam();
+    const பிழைதகவல்& entry = பிழை_அகராதி.at(row.code);
+    const std::string text = std::string(row.code) + ": " + entry.விளக்கம் + " - " + entry.தீர்வு +
+                             " (" + row.detail + ")";
+    try {
+        generate(row.source);
+        FAIL() << row.source << "\nis not refused";
+    } catch (const std::runtime_error& error) {
+        EXPECT_EQ(error.what(), text);
+    } catch (const Refusal& refusal) {
+        FAIL() << row.source << "\nis refused at a line, with " << refusal.code;
+    }
+}
+
+const StaticRow kStaticRows[] = {
+    {"நீளம்(1, 2)\n", "பொழில்-331", "'நீளம்' 1 argument மட்டுமே ஏற்கும்."},
+    {"உள்ளீடு(1, 2)\n", "பொழில்-331", "'உள்ளீடு' 0 அல்லது 1 argument மட்டுமே ஏற்கும்."},
+    {"செல்க()\n", "பொழில்-331", "'செல்க' 1 argument only."},
+    {"நகர்த்து()\n", "பொழில்-331", "'நகர்த்து' 1 argument மட்டுமே ஏற்கும் (அடையாளம்)."},
+    {"சீரற்ற_எண்(1)\n", "பொழில்-331", "'சீரற்ற_எண்' 2 arguments ஏற்கும் (min, max)."},
+    {"எடு(1)\n", "பொழில்-331", "'எடு' 2 arguments ஏற்கும் (object, index)."},
+    {"வர்க்கமூலம்()\n", "பொழில்-331", "'வர்க்கமூலம்' 1 argument மட்டுமே ஏற்கும்."},
+    {"அடுக்கு(1.0)\n", "பொழில்-331", "'அடுக்கு' 2 arguments ஏற்கும் (அடி, அடுக்கு)."},
+    {"தனிமதிப்பு()\n", "பொழில்-331", "'தனிமதிப்பு' 1 argument மட்டுமே ஏற்கும்."},
+    {"மேல்எண்()\n", "பொழில்-331", "'மேல்எண்' 1 argument மட்டுமே ஏற்கும்."},
+    {"கீழ்எண்()\n", "பொழில்-331", "'கீழ்எண்' 1 argument மட்டுமே ஏற்கும்."},
+    {"சைன்()\n", "பொழில்-331", "'சைன்' 1 argument மட்டுமே ஏற்கும்."},
+    {"டேன்()\n", "பொழில்-331", "'டேன்' 1 argument மட்டுமே ஏற்கும்."},
+    {"மடக்கு()\n", "பொழில்-331", "'மடக்கு' 1 argument மட்டுமே ஏற்கும்."},
+    {"பிளவு(\"அ\")\n", "பொழில்-331", "'பிளவு' 2 arguments ஏற்கும் (string, delimiter)."},
+    {"பதில்(\"அ\")\n", "பொழில்-331", "'பதில்' 3 arguments ஏற்கும் (string, find, replace)."},
+    {"பெரியஎ()\n", "பொழில்-331", "'பெரியஎ' 1 argument மட்டுமே ஏற்கும்."},
+    {"சிறியஎ()\n", "பொழில்-331", "'சிறியஎ' 1 argument மட்டுமே ஏற்கும்."},
+    {"கோப்பு_அழி()\n", "பொழில்-331", "'கோப்பு_அழி' 1 argument ஏற்கும் (path)."},
+    {"கோப்பு_உள்ளதா()\n", "பொழில்-331", "'கோப்பு_உள்ளதா' 1 argument ஏற்கும் (path)."},
+    {"தேதி(1, 2)\n", "பொழில்-331", "'தேதி' 0 அல்லது 1 argument-ஐ மட்டுமே ஏற்கும்."},
+    {"நேரம்(1, 2)\n", "பொழில்-331", "'நேரம்' 0 அல்லது 1 argument-ஐ மட்டுமே ஏற்கும்."},
+    {"முழுவதும்(1, 2)\n", "பொழில்-331", "'முழுவதும்' 0 அல்லது 1 argument-ஐ மட்டுமே ஏற்கும்."},
+    {"நேரம்.வினாடிகள்(1)\n", "பொழில்-331", "'நேரம்.வினாடிகள்()' arguments எதையும் ஏற்காது."},
+    {"நே = நேரம்.உருவாக்கு(1)\n", "பொழில்-332", "'உருவாக்கு' என்பது ஒரு function இல்லை."},
+    {"அ = 1\nஅ.ஓடு()\n", "பொழில்-332", "'ஓடு' என்பது ஒரு function இல்லை."},
+    {"எங்கும்_இல்லாதது()\n", "பொழில்-332", "'எங்கும்_இல்லாதது' என்பது ஒரு function இல்லை."},
+    {"ஒவ்வொன்றாக இ இல் வரம்பு(1, 2, 3):\n    விடு\n", "பொழில்-331",
+     "'வரம்பு' 1 அல்லது 2 arguments-ஐ மட்டுமே ஏற்கும்."},
+    {"ஒவ்வொன்றாக இ இல் வரம்பு():\n    விடு\n", "பொழில்-331",
+     "'வரம்பு' 1 அல்லது 2 arguments-ஐ மட்டுமே ஏற்கும்."},
+    {"1()\n", "பொழில்-399", "Unknown call expression"},
+    {"அ = 50%\n", "பொழில்-399", "Unknown expression type in generator"},
+};
+INSTANTIATE_TEST_SUITE_P(Generator, StaticRefusals, testing::ValuesIn(kStaticRows));
+
+TEST(Refusals, IndexStoreThatTheUserCallsByItsInnerName) {
+    EXPECT_THROW(generate("_set_index_internal(1)\n"), std::runtime_error);
+}
+
+TEST(Refusals, WalksInsideEachOtherWithoutEnd) {
+    // Each doubles the text of its body, so a dozen is the limit.
+    std::string source;
+    for (int depth = 0; depth < 13; depth++) {
+        source += std::string(static_cast<std::size_t>(depth) * 4, ' ') + "ஒவ்வொன்றாக இ இல் அ:\n";
+    }
+    source += std::string(13 * 4, ' ') + "விடு\n";
+    EXPECT_THROW(generate(source), std::runtime_error);
+}
+
+TEST(Operators, UnknownWordIsRefusedAtLineZero) {
+    Program program;
+    Generator generator(program, {}, {}, {}, "", "test.பொழில்");
+    try {
+        generator.mapOperator("இணை");
+        FAIL();
+    } catch (const Refusal& refusal) {
+        EXPECT_EQ(refusal.code, "பொழில்-304");
+        EXPECT_EQ(refusal.line, 0);
+        EXPECT_NE(refusal.message.find("(Operator: இணை)"), std::string::npos);
+    }
 }
 
 }  // namespace
