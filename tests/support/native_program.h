@@ -1,0 +1,44 @@
+// Sources of the language as running programs: generated in process, built by the command of the
+// driver, run in a folder of their own.
+#pragma once
+
+#include <string>
+
+#include "support/case_files.h"
+#include "support/subprocess.h"
+
+enum class Build {
+    AsTheDriver,
+    Sanitized,  ///< The same text under the address and undefined-behaviour sanitizers.
+};
+
+/// The generated text of the source file, which is named in it by its bare name. Imports are
+/// looked for in the file's folder.
+std::string generateFile(const std::string& sourcePath);
+
+/// One program. Its folder, below build/programs/, is emptied by the constructor and holds the
+/// generated text, the executable and, as the program's working directory, a folder `run` with a
+/// copy of the source.
+class NativeProgram {
+public:
+    /// `name` is the folder's, so it is the program's alone.
+    NativeProgram(const std::string& name, const std::string& sourcePath,
+                  Build build = Build::AsTheDriver);
+
+    ProcessResult compile() const;
+    /// What g++ says of the generated text, without making an executable.
+    ProcessResult checkSyntax() const;
+    ProcessResult run(const std::string& input = "") const;
+
+    /// The working directory, with a slash at its end.
+    std::string runDirectory() const { return folder + "run/"; }
+
+private:
+    std::string folder;
+    Build build;
+};
+
+/// Builds and runs the case and compares what it prints with its expectation, each report's saying
+/// masked. Beside a source may stand its standard input (.in), its exit status as a shell tells it
+/// (.status, 0 if there is none, 134 for an abort) and what it writes to standard error (.err).
+void expectProgram(const CaseFile& file, Build build = Build::AsTheDriver);
