@@ -7,7 +7,11 @@
 
 using Words = std::vector<std::string>;
 
-std::unique_ptr<Expression> Parser::parseExpression() { return parseAssignment(); }
+std::unique_ptr<Expression> Parser::parseExpression() {
+    auto expression = parseAssignment();
+    deepestPart = std::max(deepestPart, expressionDepth);
+    return expression;
+}
 
 /// assignment = arrow-lambda | ternary [ ( "=" | compound word ) assignment ]
 ///            | "காட்சி_நிலை" "." name ":" assignment

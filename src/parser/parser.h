@@ -1,7 +1,8 @@
 // The parser: tokens in, tree out, by recursive descent. The first problem ends the run with a
 // report, so no parsing function resumes after an error. One file a grammar: the frame in
 // parser.cpp; expressions, primary and lambdas; statements and control flow; definitions and
-// structures; modules.
+// structures; modules; application; widgets, widget items and styles, layout widgets, animation;
+// database.
 #pragma once
 
 #include <map>
@@ -12,6 +13,7 @@
 
 #include "lexer/token.h"
 #include "parser/nesting.h"
+#include "syntax/application.h"
 #include "syntax/definitions.h"
 #include "syntax/expressions.h"
 #include "syntax/literals.h"
@@ -70,8 +72,7 @@ public:
     std::unique_ptr<Statement> parseVarDeclaration(std::unique_ptr<Expression> target,
                                                    bool inStruct);
     std::unique_ptr<Statement> parseSetStatement(std::unique_ptr<Expression> target);
-    std::unique_ptr<Statement> parseCompoundAssignmentStatement(
-        std::unique_ptr<Expression> target);
+    std::unique_ptr<Statement> parseCompoundAssignmentStatement(std::unique_ptr<Expression> target);
     std::unique_ptr<Statement> parseIncrementStatement(std::unique_ptr<Expression> target);
 
     // ---- Definitions and modules ----
@@ -109,6 +110,46 @@ public:
     /// Entered on `வினை`.
     std::unique_ptr<Expression> parseLambdaExpression();
 
+    // ---- Web application: each section is entered on its word ----
+    std::unique_ptr<Statement> parseWebApp();
+    std::unique_ptr<Statement> parseHeader();
+    std::unique_ptr<Statement> parseUIBody();
+    std::unique_ptr<Statement> parseDefinition();
+    std::unique_ptr<Statement> parseDatabaseManager();
+    std::unique_ptr<Statement> parseFirebaseConfig();
+    /// An empty map. Nothing calls it: property maps are built in place.
+    std::map<std::string, std::unique_ptr<Expression>> parseProperties();
+
+    // ---- Widgets ----
+    /// Any word is taken for a widget's name; what it means is for the backend to say.
+    std::unique_ptr<Statement> parseWidget();
+
+    // Layout widgets, entered behind their word, which stands on `line`.
+    std::unique_ptr<Statement> parseColumn(int line);
+    std::unique_ptr<Statement> parseRow(int line);
+    std::unique_ptr<Statement> parseStack(int line);
+    std::unique_ptr<Statement> parseWrap(int line);
+    std::unique_ptr<Statement> parseGridView(int line);
+    std::unique_ptr<Statement> parseListView(int line);
+    std::unique_ptr<Statement> parseContainer(int line);
+    std::unique_ptr<Statement> parsePadding(int line);
+    std::unique_ptr<Statement> parseExpanded(int line);
+    std::unique_ptr<Statement> parseFlexible(int line);
+    std::unique_ptr<Statement> parseSpacer(int line);
+    std::unique_ptr<Statement> parseTextButton(int line);
+    std::unique_ptr<Statement> parseSnackBar(int line);
+
+    /// Entered behind `அசைவூட்டம்`.
+    std::unique_ptr<AnimationNode> parseAnimation();
+    /// Another reading of a target group. Nothing calls it: parseAnimation fills two maps instead.
+    AnimationTargetNode parseAnimationTarget();
+
+    // ---- Realtime database: each entered on its word ----
+    std::unique_ptr<Expression> parseRTDBInsertExpression();
+    std::unique_ptr<Expression> parseRTDBUpdateExpression();
+    std::unique_ptr<Expression> parseRTDBDeleteExpression();
+    std::unique_ptr<Statement> parseRTDBReadStatement();
+
     // Read by the generator; the pointers are owned by the tree.
     std::map<std::string, std::vector<Param>> functionParameters;
     std::map<std::string, StructDefinitionStatement*> structDefinitions;
@@ -144,6 +185,35 @@ private:
         std::map<std::string, FunctionDefinitionStatement*> methodsByName;
     };
 
+    using MapEntries = std::vector<std::pair<std::string, std::unique_ptr<Expression>>>;
+    using Kinds = std::vector<TokenType>;
+
+    /// What a widget's parentheses hold, as it is gathered.
+    struct WidgetParts {
+        PropertyMap properties;
+        WidgetList children;
+        WidgetList onTapStatements;
+        சீரமைப்பு_வகை alignment = சீரமைப்பு_வகை::மேல்_இடது;
+        TextStyle textStyle;
+        std::unique_ptr<AnimationNode> animation;
+    };
+
+    /// What tells apart the layout widgets that take a group of children, or one of properties
+    /// and one of children.
+    struct GroupRules {
+        bool hasAlignment;
+        bool refusesSections;  ///< A section word among the children is a missing `)`.
+    };
+    static constexpr GroupRules kLikeColumn = {true, true};
+
+    /// How the parenthesised form of a press handler is read.
+    enum class PressForm {
+        Statements,         ///< Statements behind a keyword or a database word.
+        KeywordStatements,  ///< Statements behind a keyword alone.
+        Expression,
+        ExpressionInFreeLayout,  ///< Indentation around it isn't counted.
+    };
+
     // Looking at tokens without moving
     const Token& tokenAt(int index) const;
     const Token& next() const;
@@ -153,6 +223,11 @@ private:
     bool lambdaBeforeColonOnLine();
     bool bracketFurtherOnLine();
     bool isOnLine(int index);
+    bool checkAny(const Kinds& kinds);
+    bool checkKey(const Kinds& kinds);
+    bool checkWord(const char* word);
+    bool checkWord(TokenType kind, const char* word);
+    bool checkSectionWord();
 
     // Steps that many rules share
     Token expectName(const char* code);
@@ -172,10 +247,11 @@ private:
     std::unique_ptr<Expression> parseNameOrColour();
     std::unique_ptr<Expression> parseBracketed();
     std::unique_ptr<Expression> parseWidgetOrName();
+    MapEntries parseMapEntries(bool layoutBeforeColon);
     std::unique_ptr<Expression> takeVariable(bool withLine);
     template <typename Node>
-    std::unique_ptr<Expression> parseLeftAssociative(const std::vector<std::string>& words,
-                                                     std::unique_ptr<Expression> (Parser::*tighter)());
+    std::unique_ptr<Expression> parseLeftAssociative(
+        const std::vector<std::string>& words, std::unique_ptr<Expression> (Parser::*tighter)());
     void deepen(int left, int right);
 
     // Statements
@@ -184,8 +260,6 @@ private:
     void refuseMisplacedTokens();
     std::unique_ptr<Statement> parsePlainStatement(bool inStruct);
     CaseBlock parseCase();
-    std::unique_ptr<Statement> refuseApplication();
-    std::unique_ptr<Statement> refuseDatabaseRead();
     VarType typeOfInitializer(const Expression& value);
 
     // Definitions
@@ -201,6 +275,76 @@ private:
     void checkReceiver(const std::vector<Param>& parameters, int line);
     AbstractMethod parseAbstractMethod();
 
+    // Application
+    void parseHeaderItem(PropertyMap& properties, ScreenConfig& screen);
+    void parseScreenSize(ScreenConfig& screen);
+    void parseScreenSide(const char* word, float& side);
+
+    // Brackets and the items in them. An item that doesn't stand at the cursor is left alone, and
+    // false comes back.
+    bool nextItem(int& depth);
+    template <typename Item>
+    void bracketLoop(int line, int depth, const Item& item);
+    template <typename Item>
+    void bracketLoop(int line, const Item& item) {
+        bracketLoop(line, 0, item);
+    }
+    void openParenthesis(int line = -1);
+    std::unique_ptr<Expression> parseValue();
+    void parseValueOf(PropertyMap& properties, const std::string& key);
+    bool parsePropertyItem(PropertyMap& properties, const Kinds& kinds);
+    bool parseChildItem(WidgetParts& parts, const Kinds& furtherKinds);
+    bool parseAnimationItem(std::unique_ptr<AnimationNode>& animation);
+    bool parseAlignmentItem(WidgetParts& parts);
+    bool parsePressItem(WidgetParts& parts, PressForm form);
+    bool opensPressStatements(PressForm form);
+    bool parseShareItem(WidgetParts& parts);
+    bool parseStyleItem(WidgetParts& parts, TokenType kind, const char* word, const Kinds& keys,
+                        std::string (*storedKey)(const std::string&));
+    bool parseButtonStyleItem(WidgetParts& parts);
+    bool parseTextStyleItem(WidgetParts& parts);
+    void parseTextStyleEntry(WidgetParts& parts);
+    static std::unique_ptr<Statement> finishWidget(std::unique_ptr<WidgetNode> node,
+                                                   WidgetParts parts);
+
+    // Widgets
+    std::unique_ptr<Statement> parseWidgetByWord();
+    std::unique_ptr<Statement> parseGenericWidget();
+    void parseGenericItem(WidgetParts& parts, int& positional);
+    void parsePositionalItem(WidgetParts& parts, int& positional);
+    std::unique_ptr<Statement> parseCard(int line);
+    std::unique_ptr<Statement> parseListItem(int line);
+    std::unique_ptr<Statement> parseAlert(int line);
+    void parseAlertItem(WidgetParts& parts);
+
+    // Layout widgets
+    WidgetParts parseGroups(int line, const GroupRules& rules);
+    bool opensPropertyGroup(const GroupRules& rules);
+    void parsePropertyGroup(WidgetParts& parts, int line, const GroupRules& rules);
+    void parseChildGroup(WidgetParts& parts, int line, const GroupRules& rules);
+    void skipBetweenGroups();
+    void parseGridItem(WidgetParts& parts);
+    void parseGridGaps(WidgetParts& parts);
+    void parseContainerItem(WidgetParts& parts);
+    bool parseFlexItem(int& flex);
+    void parseSpacerItem(WidgetParts& parts, int line);
+    void parseTextButtonItem(WidgetParts& parts, int line);
+    bool parseTextButtonLabel(WidgetParts& parts);
+    bool parseTextButtonStyle(WidgetParts& parts);
+    void parseSnackBarItem(SnackBarNode& node, int line);
+    void parseSnackBarMessage(SnackBarNode& node, int line);
+
+    // Animation
+    void parseAnimationEntry(AnimationNode& animation);
+    void parseTargetGroup(AnimationNode& animation);
+    void parseTarget(AnimationNode& animation);
+    void parseTargetWord(AnimationTargetNode& target);
+    AnimationDelta parseAnimationDelta();
+
+    // Database
+    std::unique_ptr<Expression> parseDatabasePath();
+    std::unique_ptr<MapLiteral> parseDatabaseEntries(int line);
+
     // Modules
     std::string readModule(const std::string& path, int line);
     void mergeModule(Parser& module, Program program);
@@ -210,6 +354,7 @@ private:
 
     int nesting = 0;          ///< Statements and expressions around the cursor.
     int expressionDepth = 0;  ///< Depth of the expression tree that was parsed last.
+    int deepestPart = 0;      ///< Depth of the deepest tree in the widget under the cursor.
     StackBounds stack;
 
     /// What a look along a line found, kept for the statements that follow on the same line:
@@ -227,3 +372,16 @@ private:
         int end = 0;
     } closeScan;
 };
+
+/// { item } ")", over as many lines as the author likes, with indentation counted away from
+/// `depth` on. Raises 204 at `line` for a missing parenthesis, 291 for an item that takes nothing
+/// and would be looked at for ever.
+template <typename Item>
+void Parser::bracketLoop(int line, int depth, const Item& item) {
+    while (nextItem(depth)) {
+        const int before = current;
+        item();
+        if (current == before) பிழை("பொழில்-291", peek().line);
+    }
+    consume(TokenType::RIGHT_PAREN, "பொழில்-204", line);
+}

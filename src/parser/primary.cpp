@@ -36,10 +36,9 @@ std::unique_ptr<Expression> Parser::parsePrimary() {
         lambda->line = line;
         return lambda;
     }
-    if (check(TokenType::RTDB_INSERT) || check(TokenType::RTDB_UPDATE) ||
-        check(TokenType::RTDB_DELETE)) {
-        பிழை("பொழில்-273", peek().line);  // the database isn't there yet
-    }
+    if (check(TokenType::RTDB_INSERT)) return parseRTDBInsertExpression();
+    if (check(TokenType::RTDB_UPDATE)) return parseRTDBUpdateExpression();
+    if (check(TokenType::RTDB_DELETE)) return parseRTDBDeleteExpression();
     if (auto literal = parseNameOrColour()) return literal;
     if (auto literal = parseLiteral()) return literal;
     if (auto bracketed = parseBracketed()) return bracketed;
@@ -123,7 +122,7 @@ std::unique_ptr<Expression> Parser::parseWidgetOrName() {
     int at = current + 1;
     while (tokenAt(at).type == TokenType::NEWLINE) at++;
     if (tokenAt(at).type != TokenType::LEFT_PAREN) return takeVariable(false);
-    பிழை("பொழில்-273", peek().line);  // widgets aren't there yet
+    return std::make_unique<WidgetExpression>(parseWidget());
 }
 
 /// list = [ expression { "," expression } [ "," ] ] "]"
@@ -147,10 +146,20 @@ std::unique_ptr<Expression> Parser::parseListLiteral(int line) {
     return list;
 }
 
-/// map = [ entry { "," entry } [ "," ] ] "}"      entry = ( string | identifier ) ":" expression
-/// A map may span lines. Raises 212 for a key of another kind, 202 for a missing colon.
+/// map = entries "}"
+/// A map may span lines. Raises 206 for a missing brace.
 std::unique_ptr<Expression> Parser::parseMapLiteral(int line) {
-    std::vector<std::pair<std::string, std::unique_ptr<Expression>>> entries;
+    auto entries = parseMapEntries(false);
+    consume(TokenType::RIGHT_BRACE, "பொழில்-206", line);
+    auto map = std::make_unique<MapLiteral>(std::move(entries));
+    map->line = line;
+    return map;
+}
+
+/// entries = [ entry { "," entry } [ "," ] ]      entry = ( string | identifier ) ":" expression
+/// Raises 212 for a key of another kind, 202 for a missing colon.
+Parser::MapEntries Parser::parseMapEntries(bool layoutBeforeColon) {
+    MapEntries entries;
     int depth = 0;
     skipLayout();
     while (!check(TokenType::RIGHT_BRACE)) {
@@ -158,6 +167,7 @@ std::unique_ptr<Expression> Parser::parseMapLiteral(int line) {
             பிழை("பொழில்-212", peek().line);
         }
         std::string key = advance().text;
+        if (layoutBeforeColon) skipLayout();
         expectColon();
         skipLayout();
         entries.emplace_back(std::move(key), parseExpression());
@@ -166,9 +176,6 @@ std::unique_ptr<Expression> Parser::parseMapLiteral(int line) {
         if (!takeComma()) break;
         skipLayout();
     }
-    consume(TokenType::RIGHT_BRACE, "பொழில்-206", line);
     deepen(depth, 0);
-    auto map = std::make_unique<MapLiteral>(std::move(entries));
-    map->line = line;
-    return map;
+    return entries;
 }

@@ -1,6 +1,7 @@
 // The statement grammar: the dispatch, what a plain statement may be, and blocks. The statements
 // of control flow stand in control_flow.cpp.
 #include "parser/parser.h"
+#include "syntax/database.h"
 
 /// The first test that holds decides. Null, with the cursor unmoved, for DEDENT, NEWLINE and, in
 /// a structure, for `பொது`.
@@ -30,10 +31,10 @@ Parser::StatementRule Parser::statementRule() {
         {TokenType::KEYWORD, "நூஇறக்கி", &Parser::parseImportStatement},
         {TokenType::KEYWORD, "அச்சிடு", &Parser::parsePrintStatement},
         {TokenType::KEYWORD, "எனில்", &Parser::parseIfStatement},
-        {TokenType::RTDB_READ, "", &Parser::refuseDatabaseRead},
+        {TokenType::RTDB_READ, "", &Parser::parseRTDBReadStatement},
         // The scanner makes it RTDB_READ, so this row is never met. Meant.
-        {TokenType::KEYWORD, "நிகழ்நேர.தரவுபடி", &Parser::refuseDatabaseRead},
-        {TokenType::WEB_APP, "", &Parser::refuseApplication},
+        {TokenType::KEYWORD, "நிகழ்நேர.தரவுபடி", &Parser::parseRTDBReadStatement},
+        {TokenType::WEB_APP, "", &Parser::parseWebApp},
         {TokenType::REFRESH, "", &Parser::parseSetStateStatement},
         {TokenType::KEYWORD, "முயற்சி", &Parser::parseTryCatchStatement},
         {TokenType::KEYWORD, "சுற்று", &Parser::parseWhileStatement},
@@ -55,14 +56,6 @@ Parser::StatementRule Parser::statementRule() {
         return &Parser::parseVagaiStatement;
     }
     return nullptr;
-}
-
-std::unique_ptr<Statement> Parser::refuseDatabaseRead() {
-    பிழை("பொழில்-273", peek().line);  // the database isn't there yet
-}
-
-std::unique_ptr<Statement> Parser::refuseApplication() {
-    பிழை("பொழில்-273", peek().line);  // web applications aren't there yet
 }
 
 /// What no statement begins with, each with a report that tells the likely slip.
@@ -147,7 +140,10 @@ std::unique_ptr<Statement> Parser::parseExpressionStatement(
     const Expression* node = expression.get();
     if (dynamic_cast<const CallExpression*>(node) == nullptr &&
         dynamic_cast<const AssignmentExpression*>(node) == nullptr &&
-        dynamic_cast<const SetMemberExpression*>(node) == nullptr) {
+        dynamic_cast<const SetMemberExpression*>(node) == nullptr &&
+        dynamic_cast<const RTDBInsertExpression*>(node) == nullptr &&
+        dynamic_cast<const RTDBUpdateExpression*>(node) == nullptr &&
+        dynamic_cast<const RTDBDeleteExpression*>(node) == nullptr) {
         பிழை("பொழில்-201", peek().line);
     }
     return std::make_unique<ExpressionStatement>(std::move(expression));

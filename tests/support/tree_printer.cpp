@@ -2,6 +2,8 @@
 
 #include <sstream>
 
+#include "syntax/application.h"
+#include "syntax/database.h"
 #include "syntax/definitions.h"
 #include "syntax/expressions.h"
 #include "syntax/literals.h"
@@ -24,6 +26,45 @@ std::string describeNames(const std::vector<Token>& names) {
     return text + ")";
 }
 
+/// As short as it can be told without loss for the numbers that tests use.
+std::string describeNumber(float value) {
+    std::ostringstream text;
+    text << value;
+    return text.str();
+}
+
+const char* nameOf(சீரமைப்பு_வகை alignment) {
+    static const char* const names[] = {"மேல்_இடது", "மேல்_மையம்", "மேல்_வலது", "மைய_இடது", "மையம்",
+                                        "மைய_வலது", "கீழ்_இடது",  "கீழ்_மையம்",  "கீழ்_வலது"};
+    return names[static_cast<int>(alignment)];
+}
+
+/// The class of a widget with what it adds; "widget" for the common one.
+std::string describeClass(const WidgetNode* node) {
+    if (dynamic_cast<const ColumnNode*>(node) != nullptr) return "column";
+    if (dynamic_cast<const RowNode*>(node) != nullptr) return "row";
+    if (dynamic_cast<const ListViewNode*>(node) != nullptr) return "list view";
+    if (dynamic_cast<const GridViewNode*>(node) != nullptr) return "grid view";
+    if (dynamic_cast<const ExpandedNode*>(node) != nullptr) return "expanded";
+    if (dynamic_cast<const ContainerNode*>(node) != nullptr) return "container";
+    if (const auto* n = dynamic_cast<const FlexibleNode*>(node)) {
+        return "flexible of " + std::to_string(n->flex);
+    }
+    if (const auto* n = dynamic_cast<const PaddingNode*>(node)) {
+        return "padding of " + describeNumber(n->padding);
+    }
+    if (const auto* n = dynamic_cast<const SnackBarNode*>(node)) {
+        return "snack bar on " + n->backgroundColor + " for " + std::to_string(n->durationMs) +
+               (n->content == nullptr ? "" : " with content");
+    }
+    if (const auto* n = dynamic_cast<const HeaderNode*>(node)) {
+        if (n->screen.useDefault) return "head";
+        return "head of " + describeNumber(n->screen.width) + " by " +
+               describeNumber(n->screen.height);
+    }
+    return "widget";
+}
+
 class TreePrinter {
 public:
     std::string text() const { return out.str(); }
@@ -35,14 +76,20 @@ public:
     void print(const Statement* node) {
         if (node == nullptr) return row("null");
         line = node->line;
-        if (printControl(node) || printPlain(node) || printDefinition(node)) return;
+        if (printControl(node) || printPlain(node) || printDefinition(node) ||
+            printApplication(node)) {
+            return;
+        }
         row("unknown statement");
     }
 
     void print(const Expression* node) {
         if (node == nullptr) return row("null");
         line = node->line;
-        if (printLiteral(node) || printOperation(node) || printCompound(node)) return;
+        if (printLiteral(node) || printOperation(node) || printCompound(node) ||
+            printDatabase(node)) {
+            return;
+        }
         row("unknown expression");
     }
 
@@ -237,6 +284,111 @@ private:
             return false;
         }
         return true;
+    }
+
+    bool printDatabase(const Expression* node) {
+        if (const auto* n = dynamic_cast<const RTDBInsertExpression*>(node)) {
+            branch("insert", n->path, n->data);
+        } else if (const auto* n = dynamic_cast<const RTDBUpdateExpression*>(node)) {
+            branch("update", n->path, n->data);
+        } else if (const auto* n = dynamic_cast<const RTDBDeleteExpression*>(node)) {
+            branch("delete", n->path);
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    bool printApplication(const Statement* node) {
+        if (const auto* n = dynamic_cast<const WebAppNode*>(node)) {
+            printWebApp(*n);
+        } else if (const auto* n = dynamic_cast<const LogicBlockNode*>(node)) {
+            branchList("logic", n->body->statements);
+        } else if (const auto* n = dynamic_cast<const DatabaseManagerNode*>(node)) {
+            row("database");
+            if (n->firebaseConfig == nullptr) return true;
+            depth++;
+            print(n->firebaseConfig.get());
+            depth--;
+        } else if (const auto* n = dynamic_cast<const FirebaseConfigNode*>(node)) {
+            row("firebase");
+            printProperties(n->properties);
+        } else if (const auto* n = dynamic_cast<const RTDBReadStatement*>(node)) {
+            row("read");
+            depth++;
+            print(n->path.get());
+            branchList("then", n->body);
+            depth--;
+        } else if (const auto* n = dynamic_cast<const WidgetNode*>(node)) {
+            printWidget(*n);
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    void printWebApp(const WebAppNode& node) {
+        row("application " + node.name + (node.flag ? " flagged" : ""));
+        printProperties(node.properties);
+        if (node.databaseManager != nullptr) part("database manager", node.databaseManager);
+        part("head", node.header);
+        part("body", node.body);
+        part("logic", node.logic);
+    }
+
+    void printProperties(const PropertyMap& properties) {
+        for (const auto& property : properties) part(property.first + ":", property.second);
+    }
+
+    /// Parts that stand as the constructor left them aren't told.
+    void printWidget(const WidgetNode& node) {
+        std::string label = describeClass(&node) + " " + node.name;
+        if (node.alignment != சீரமைப்பு_வகை::மேல்_இடது) {
+            label += std::string(" at ") + nameOf(node.alignment);
+        }
+        if (node.flag) label += " flagged";
+        if (!node.id.empty()) label += " id " + node.id;
+        row(label);
+        printTextStyle(node.textStyle);
+        printProperties(node.properties);
+        if (node.animation != nullptr) printAnimation(*node.animation);
+        depth++;
+        if (!node.onTapStatements.empty()) branchList("on press", node.onTapStatements);
+        for (const auto& child : node.children) print(child.get());
+        depth--;
+    }
+
+    void printTextStyle(const TextStyle& style) {
+        const TextStyle plain;
+        std::string text;
+        if (style.color != plain.color) text += " colour " + style.color;
+        if (style.fontSize != plain.fontSize) text += " size " + describeNumber(style.fontSize);
+        if (style.fontWeight != plain.fontWeight) text += " weight " + style.fontWeight;
+        if (style.textAlign != plain.textAlign) text += " align " + style.textAlign;
+        if (style.fontFamily != plain.fontFamily) text += " family " + style.fontFamily;
+        if (style.underline != plain.underline) text += " underlined";
+        if (!text.empty()) partRow("text style" + text);
+    }
+
+    void printAnimation(const AnimationNode& node) {
+        std::string text = "animation " + node.curve + " for " + describeNumber(node.duration);
+        if (!node.trigger.empty()) text += " on " + node.trigger;
+        partRow(text);
+        depth++;
+        for (const auto& target : node.numberTargets) {
+            partRow(target.first + " to " + describeNumber(target.second));
+        }
+        for (const auto& target : node.stringTargets) {
+            partRow(target.first + " to \"" + target.second + "\"");
+        }
+        depth--;
+    }
+
+    /// A part that is told in one row.
+    void partRow(const std::string& label) {
+        depth++;
+        row(label);
+        depth--;
     }
 
     static std::string describeDeclaration(const VarDeclaration& node) {
