@@ -18,25 +18,9 @@ using Codes = std::set<std::string>;
 
 const std::string kPrefix = "பொழில்-";
 
-struct Waiting {
-    const char* code;
-    const char* grammar;
-};
-
-/// Codes of the scanner and the parser that nothing can raise yet. A code leaves this table
-/// together with the case that raises it.
-const Waiting kWaiting[] = {
-    {"பொழில்-241", "applications"}, {"பொழில்-242", "applications"}, {"பொழில்-243", "applications"},
-    {"பொழில்-244", "applications"}, {"பொழில்-252", "widgets"},      {"பொழில்-262", "animations"},
-    {"பொழில்-303", "applications"}, {"பொழில்-362", "applications"}, {"பொழில்-401", "applications"},
-    {"பொழில்-402", "applications"},
-};
-
-Codes waitingCodes() {
-    Codes codes;
-    for (const Waiting& row : kWaiting) codes.insert(row.code);
-    return codes;
-}
+/// Codes that the parser names and no source raises: each section is entered on its own word
+/// alone. Hand-made tokens raise them in unit/ui_grammar.
+const Codes kUnreached = {"பொழில்-241", "பொழில்-242", "பொழில்-243", "பொழில்-244"};
 
 /// Who raises each code, by the catalogue.
 std::map<std::string, std::string> readCatalogue() {
@@ -103,7 +87,12 @@ TEST(Codes, AreFoundAtAll) {
 TEST(Codes, OfTheFrontEndHaveACase) {
     std::map<std::string, int> cases = countCases();
     for (const std::string& code : namedInFrontEnd()) {
+        if (kUnreached.count(code) != 0) continue;
         EXPECT_GT(cases[code], 0) << code << " is raised by no case in tests/diagnostics";
+    }
+    for (const std::string& code : kUnreached) {
+        EXPECT_EQ(cases[code], 0) << code << " is raised after all";
+        EXPECT_EQ(namedInFrontEnd().count(code), 1U) << code << " stands nowhere";
     }
 }
 
@@ -116,16 +105,13 @@ TEST(Codes, OfTheFrontEndStandInTheCatalogue) {
     }
 }
 
-TEST(Codes, OfTheCatalogueAreRaisedUnlessTheyWait) {
-    const Codes waiting = waitingCodes();
+TEST(Codes, OfTheCatalogueStandInTheFrontEnd) {
     Codes promised = codesOf("scanner");
     promised.merge(codesOf("parser"));
     const Codes named = namedInFrontEnd();
     for (const std::string& code : promised) {
-        EXPECT_NE(named.count(code), waiting.count(code))
-            << code << (named.count(code) != 0 ? " waits no more" : " is raised by nothing");
+        EXPECT_EQ(named.count(code), 1U) << code << " is raised by nothing";
     }
-    for (const std::string& code : waiting) EXPECT_EQ(promised.count(code), 1U) << code;
 }
 
 TEST(Codes, ThatNothingRaisesStandNowhere) {

@@ -1,0 +1,52 @@
+// A screen's tree doesn't depend on where its lines break.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <regex>
+#include <set>
+
+#include "support/case_files.h"
+#include "support/tree_printer.h"
+#include "unit/ui_grammar/rebreaker.h"
+#include "unit/ui_grammar/widget_sources.h"
+
+namespace {
+
+constexpr unsigned kSeeds = 300;
+
+std::vector<std::string> examples() {
+    namespace fs = std::filesystem;
+    std::vector<std::string> sources;
+    for (const auto& entry : fs::directory_iterator(fs::u8path(POZHIL_ROOT "/examples/web"))) {
+        const fs::path& path = entry.path();
+        if (path.extension() == fs::u8path(".பொழில்")) sources.push_back(readText(path.u8string()));
+    }
+    return sources;
+}
+
+/// The tree without its line numbers.
+std::string shapeOf(const std::string& source) {
+    static const std::regex lines(" @[0-9]+");
+    return std::regex_replace(printTree(parse(source).program), lines, "");
+}
+
+TEST(Rebreaking, KeepsTheTree) {
+    const std::vector<std::string> sources = examples();
+    ASSERT_GE(sources.size(), 4U);
+    for (const std::string& source : sources) {
+        const std::string shape = shapeOf(source);
+        std::set<std::string> layouts;
+        for (unsigned seed = 1; seed <= kSeeds; seed++) {
+            const std::string broken = Rebreaker(source, seed).text();
+            layouts.insert(broken);
+            try {
+                ASSERT_EQ(shapeOf(broken), shape) << broken;
+            } catch (const Refusal& refusal) {
+                FAIL() << refusal.code << " at line " << refusal.line << "\n" << broken;
+            }
+        }
+        EXPECT_EQ(layouts.size(), kSeeds);
+    }
+}
+
+}  // namespace
