@@ -181,7 +181,6 @@ void Parser::parseTextStyleEntry(WidgetParts& parts) {
     expectColon();
     skipNewlines();
     auto value = parseExpression();
-    takeComma();
     for (const TextStyleRow& row : kTextStyle) {
         if (key != row.key) continue;
         if (row.set != nullptr) {
@@ -189,6 +188,7 @@ void Parser::parseTextStyleEntry(WidgetParts& parts) {
         } else {
             parts.properties["style_" + key] = std::move(value);
         }
-        return;
+        break;
     }
+    takeComma();
 }
