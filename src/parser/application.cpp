@@ -1,5 +1,7 @@
 // A web application and its sections: head, body, logic, database. The shape is bracketed: a word
 // and parentheses, with free indentation inside.
+#include <utility>
+
 #include "parser/number_text.h"
 #include "parser/parser.h"
 
@@ -34,10 +36,10 @@ std::unique_ptr<Statement> Parser::parseWebApp() {
         } else if (check(TokenType::HEADER)) {
             header = parseHeader();
         } else if (check(TokenType::BODY)) {
-            body = parseUIBody();
+            drop(std::exchange(body, parseUIBody()));
             bodySeen = true;
         } else if (check(TokenType::DEFINITIONS)) {
-            logic = parseDefinition();
+            drop(std::exchange(logic, parseDefinition()));
         } else {
             advance();
         }

@@ -77,6 +77,6 @@ void Parser::mergeModule(Parser& module, Program program) {
     mergeAbsent(abstractStructDefinitions, module.abstractStructDefinitions);
     mergeAbsent(enumerations, module.enumerations);
     for (auto& statement : program.statements) hoistedStatements.push_back(std::move(statement));
-    for (auto& dropped : module.droppedMembers) droppedMembers.push_back(std::move(dropped));
+    for (auto& statement : module.dropped) drop(std::move(statement));
     importedFiles = std::move(module.importedFiles);
 }

@@ -127,6 +127,10 @@ void Parser::skipLayout() {
     }
 }
 
+void Parser::drop(std::unique_ptr<Statement> statement) {
+    if (statement != nullptr) dropped.push_back(std::move(statement));
+}
+
 Parser::Nesting::Nesting(Parser& parser) : parser(parser) {
     if (++parser.nesting > kMaxNesting || parser.stack.nearlyFull()) {
         parser.பிழை("பொழில்-291", parser.peek().line);

@@ -349,8 +349,10 @@ private:
     std::string readModule(const std::string& path, int line);
     void mergeModule(Parser& module, Program program);
 
-    /// Statements that structures dropped: the tables may point at definitions inside them.
-    std::vector<std::unique_ptr<Statement>> droppedMembers;
+    /// Takes a parsed statement out of the tree. It lives on: the tables may point at definitions
+    /// inside it.
+    void drop(std::unique_ptr<Statement> statement);
+    std::vector<std::unique_ptr<Statement>> dropped;
 
     int nesting = 0;          ///< Statements and expressions around the cursor.
     int expressionDepth = 0;  ///< Depth of the expression tree that was parsed last.

@@ -80,10 +80,10 @@ void Parser::parseField(StructBody& body, bool isPrivate) {
 /// Whatever else parses in a structure. A statement that is no member is dropped. Meant.
 void Parser::parseOtherMember(StructBody& body, bool isPrivate) {
     auto member = parseStatement(true);
-    const bool dropped = member != nullptr && !storeMember(body, member, isPrivate);
-    if (dropped) droppedMembers.push_back(std::move(member));
+    const bool isLost = member != nullptr && !storeMember(body, member, isPrivate);
+    if (isLost) drop(std::move(member));
     if (check(TokenType::DEDENT)) return;
-    if (dropped) expectNewline();
+    if (isLost) expectNewline();
     skipNewlines();
 }
 
@@ -97,7 +97,7 @@ void Parser::parseStructGroup(StructBody& body, bool isPrivate) {
         if (check(TokenType::RIGHT_PAREN)) break;
         auto member = parseStatement(true);
         if (member != nullptr && !storeMember(body, member, isPrivate)) {
-            droppedMembers.push_back(std::move(member));
+            drop(std::move(member));
         }
         skipNewlines();
         if (current == before) பிழை("பொழில்-291", peek().line);
