@@ -85,7 +85,9 @@ int main(int argc, char** argv) {
                   << std::endl;
         return 1;
     }
-    if (run.webMode) return refuseWebRoad();
+    if (run.webMode) {  // the text goes to a file of its own: this one stays empty. Meant.
+        takeWebRoad(program, code, run.sourcePath, {appDirectory, cacheDirectory});
+    }
 
     generated << code;
     generated.close();

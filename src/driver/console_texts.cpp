@@ -16,6 +16,8 @@ namespace {
 
 constexpr auto kLetterPause = std::chrono::milliseconds(20);
 
+const char* const kRule = "-------------------------------------------------------";
+
 std::string repeated(const std::string& text, int times) {
     std::string row;
     for (int i = 0; i < times; i++) row += text;
@@ -51,8 +53,26 @@ void printVersionScreen() {
 
 void printWebOpening() {
     std::cout << "🚀 பொழில் - வலைத்தள உருவாக்கம் தொடங்குகிறது...\n";
-    std::cout << std::string(55, '-') << std::endl;
+    std::cout << kRule << std::endl;
     std::cout << "⌛ உங்கள் பொழில் ஆழமாகப் பகுப்பாய்வு செய்யப்படுகிறது...    " << std::flush;
+}
+
+void printWebBuildStart() {
+    std::cout << "📦 ஊடகக் கோப்புகள் அனைத்தும் இணைக்கப்படுகிறது...        " << std::endl;
+    std::cout << "🌍 நவீன வலைத்தளம் முழுமையாகத் தொகுக்கப்படுகிறது...      " << std::endl;
+}
+
+void printWebSuccess(const std::string& address) {
+    std::cout << "வெற்றி!" << std::endl;
+    std::cout << kRule << std::endl;
+    std::cout << "🚀 " << kGreen << "உள்ளூர் சேவையகம் 6931-ல் கெத்தாக இயங்குகிறது..." << kReset << "\n";
+    std::cout << "👉 " << kCyan << address << kReset << "\n";
+    std::cout << "👀 கோப்பு கண்காணிக்கப்படுகிறது... (நிறுத்த Ctrl+C அழுத்தவும்)\n";
+    std::cout << kRule << std::endl;
+}
+
+void printWebFailure() {
+    std::cout << kRed << "தோல்வி! குறியீட்டில் உள்ள பிழைகளைச் சரிசெய்யவும்." << kReset << std::endl;
 }
 
 void printCompileBanner() {

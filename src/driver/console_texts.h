@@ -22,6 +22,15 @@ void printVersionScreen();
 /// Opens the web road. Its last line stays open: the next print closes it.
 void printWebOpening();
 
+/// Tells that the web road's build begins.
+void printWebBuildStart();
+
+/// Tells where the first build is served.
+void printWebSuccess(const std::string& address);
+
+/// Tells that the first build failed.
+void printWebFailure();
+
 void printCompileBanner();
 
 /// Prints the title of a build letter by letter. It goes by bytes, 20 milliseconds each: the

@@ -1,11 +1,15 @@
-// Watching the source and building again when it changes.
+// Watching the source and building again when it changes. Both loops poll its modification time
+// every 500 milliseconds and end only with the process; they throw
+// std::filesystem::filesystem_error if the source vanishes.
 #pragma once
 
 #include <string>
 
 #include "driver/native_build.h"
+#include "driver/web_build.h"
 
-/// Polls the source's modification time every 500 milliseconds and, when it differs, translates,
-/// builds and runs the program. Nothing is built before the first change. Ends only with the
-/// process; throws std::filesystem::filesystem_error if the source vanishes.
+/// On each change translates, builds and runs the program. Nothing is built before the first.
 [[noreturn]] void watchConsoleProgram(const std::string& sourcePath, const NativeBuild& build);
+
+/// On each change translates and builds the application.
+[[noreturn]] void watchWebApplication(const std::string& sourcePath, const WebBuild& build);

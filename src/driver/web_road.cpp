@@ -1,10 +1,41 @@
 #include "driver/web_road.h"
 
+#include <csignal>
 #include <iostream>
+#include <thread>
 
-int refuseWebRoad() {
-    std::cout << "📦 ஊடகக் கோப்புகள் அனைத்தும் இணைக்கப்படுகிறது...        " << std::endl;
-    std::cout << "🌍 நவீன வலைத்தளம் முழுமையாகத் தொகுக்கப்படுகிறது...      " << std::endl;
-    std::cerr << "பிழை: வலைத்தள உருவாக்கம் இந்தப் பதிப்பில் இன்னும் சேர்க்கப்படவில்லை." << std::endl;
-    return 1;
+#include "driver/console_texts.h"
+#include "driver/local_server.h"
+#include "driver/paths.h"
+#include "driver/watch.h"
+
+namespace {
+
+constexpr int kPort = 6931;
+
+void openBrowser(const std::string& address) {
+    std::cout << "🌍 பிரவுசர் தானாகவே திறக்கப்படுகிறது..." << std::endl;
+    run_command("xdg-open " + address + " > /dev/null 2>&1 &");
+}
+
+void serve() {
+    std::signal(SIGINT, signal_handler);
+    startLocalServer(kPort);
+}
+
+}  // namespace
+
+void takeWebRoad(const Program& program, const std::string& code, const std::string& sourcePath,
+                 const WebBuild& build) {
+    printWebBuildStart();
+    if (buildWebApplication(program, code, build)) {
+        const std::string address = "http://localhost:" + std::to_string(kPort) + "/";
+        printWebSuccess(address);
+        // Before the server listens: the browser's first request may come a moment early. Meant.
+        openBrowser(address);
+    } else {
+        printWebFailure();
+    }
+    std::thread(serve).detach();
+    watchWebApplication(sourcePath, build);
 }
