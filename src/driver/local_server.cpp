@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <netinet/in.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <sys/time.h>
 #include <unistd.h>
@@ -25,9 +26,10 @@ namespace {
 constexpr int kBacklog = 10;
 constexpr std::size_t kRequestBytes = 4096;
 
-// A reader that stalls is given up after this time. The bounded buffer makes it see the stall: to
-// go on, a reader has to take a good part of it in that time.
+// A reader that stalls is given up after this time. The buffer is bounded, so that a reader who
+// goes on must have taken a good part of it meanwhile.
 constexpr timeval kPeerTimeout = {2, 0};
+constexpr int kPeerTimeoutMilliseconds = 2000;
 constexpr int kSendBufferBytes = 128 * 1024;
 
 struct MimeRow {
@@ -69,7 +71,9 @@ ssize_t sendOnce(int client, std::string_view bytes) {
 
 bool sendAll(int client, std::string_view bytes) {
     while (!bytes.empty()) {
-        const ssize_t sent = sendOnce(client, bytes);
+        pollfd writable = {client, POLLOUT, 0};
+        if (poll(&writable, 1, kPeerTimeoutMilliseconds) < 1) return false;
+        const ssize_t sent = send(client, bytes.data(), bytes.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
         if (sent < 1) return false;
         bytes.remove_prefix(static_cast<std::size_t>(sent));
     }
@@ -89,7 +93,8 @@ void answerPage(int client, const std::string&) {
 
 void answerFile(int client, const std::string& name) {
     const fs::path path = fs::u8path(name);
-    const fs::file_status status = fs::status(path);
+    std::error_code ignored;
+    const fs::file_status status = fs::status(path, ignored);
     // Opening a pipe would wait for a writer for ever.
     const bool openable = fs::is_regular_file(status) || fs::is_directory(status);
     std::ifstream file;

@@ -1,0 +1,334 @@
+// The web road by the command line, with an em++ that does as it is told: texts, server, watch
+// loop and end. It serves on its own port, so these tests never run side by side.
+#include <signal.h>
+#include <sys/wait.h>
+
+#include <chrono>
+#include <thread>
+
+#include "driver/live_process.h"
+#include "driver/workplace.h"
+#include "web/client.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kPort = 6931;
+
+const std::string kOpening =
+    "🚀 பொழில் - வலைத்தள உருவாக்கம் தொடங்குகிறது...\n"
+    "-------------------------------------------------------\n"
+    "⌛ உங்கள் பொழில் ஆழமாகப் பகுப்பாய்வு செய்யப்படுகிறது...    ";
+const std::string kGenerated =
+    "முடிந்தது\n"
+    "🎨 பயனர் இடைமுகம் மற்றும் அசைவூட்டங்கள் செதுக்கப்படுகிறது... முடிந்தது\n";
+const std::string kBuildStart =
+    "📦 ஊடகக் கோப்புகள் அனைத்தும் இணைக்கப்படுகிறது...        \n"
+    "🌍 நவீன வலைத்தளம் முழுமையாகத் தொகுக்கப்படுகிறது...      \n";
+const std::string kSuccess =
+    "வெற்றி!\n"
+    "-------------------------------------------------------\n"
+    "🚀 \033[1;32mஉள்ளூர் சேவையகம் 6931-ல் கெத்தாக இயங்குகிறது...\033[0m\n"
+    "👉 \033[1;36mhttp://localhost:6931/\033[0m\n"
+    "👀 கோப்பு கண்காணிக்கப்படுகிறது... (நிறுத்த Ctrl+C அழுத்தவும்)\n"
+    "-------------------------------------------------------\n"
+    "🌍 பிரவுசர் தானாகவே திறக்கப்படுகிறது...\n";
+const std::string kBuildFailure =
+    "\n\033[1;31m🚨 (பொழில்-404): நிரலைத் தொகுப்பதில் (Compilation) சிக்கல்!\033[0m\n"
+    "\033[1;33m💡 குறிப்பு: உமது பொழிலின் கட்டமைப்பை (Syntax) ஒருமுறை சரிபார்க்கவும்.\033[0m\n";
+const std::string kFailure = "\033[1;31mதோல்வி! குறியீட்டில் உள்ள பிழைகளைச் சரிசெய்யவும்.\033[0m\n";
+const std::string kFarewell = "\n👋 சேவையகம் நிறுத்தப்பட்டது \n";
+const std::string kChanged = "\n🔄 மாற்றம் கண்டறியப்பட்டது! வலைத்தளம் புதுப்பிக்கப்படுகிறது...\n";
+const std::string kRenewed = "✅ தளம் புதுப்பிக்கப்பட்டது! பிரவுசரில் பார்க்கவும்.\n";
+
+const std::string kFirstPart = kOpening + kGenerated + kBuildStart;
+constexpr auto kTwoPolls = std::chrono::milliseconds(1200);
+
+class WebRoad : public Workplace {
+protected:
+    WebRoad() {
+        fs::copy_file(fs::u8path(POZHIL_ROOT) / "உள்ளடக்கம்" / "template.html",
+                      home / "உள்ளடக்கம்" / "template.html");
+        fs::create_directories(root / "bin");
+        script("xdg-open", "echo \"$@\" >>'" + (root / "opened").u8string() + "'");
+        compilerBuilds("first");
+        write("a.பொழில்", "அச்சிடு(1)\n");
+    }
+
+    void script(const std::string& name, const std::string& text) const {
+        writeFileText(root / "new", "#!/bin/sh\n" + text + "\n");
+        makeExecutable(root / "new");
+        fs::rename(root / "new", root / "bin" / name);  // never seen half written
+    }
+
+    /// An em++ whose output is the text `output`.
+    void compilerBuilds(const std::string& output) const {
+        script("em++", "for word; do file=$word; done\nprintf %s '" + output + "' >\"$file\"");
+    }
+
+    void compilerFails() const { script("em++", "exit 1"); }
+
+    LiveProcess start(const std::vector<std::string>& arguments = {"--வலை", "a.பொழில்"}) const {
+        std::vector<std::string> command = {compiler.u8string()};
+        command.insert(command.end(), arguments.begin(), arguments.end());
+        return {command, work, environment(), root};
+    }
+
+    /// The loop takes the source's time once the server is started: a save before that is missed.
+    static void waitForWatch() {
+        Client client(kPort);
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    }
+
+    /// Saves the source by a rename, so that the loop never reads it half written.
+    void save(const std::string& text, fs::file_time_type::duration shift = std::chrono::hours(1)) {
+        time += shift;
+        write("new", text);
+        fs::last_write_time(work / "new", time);
+        fs::rename(work / "new", work / "a.பொழில்");
+    }
+
+    static std::string body(const std::string& path) {
+        const std::string text = get(kPort, path);
+        const std::size_t end = text.find("\r\n\r\n");
+        return end == std::string::npos ? text : text.substr(end + 4);
+    }
+
+    static bool pageIsOf(const std::string& version) {
+        return body("/").find("let currentVersion = " + version + ";") != std::string::npos;
+    }
+
+    fs::file_time_type time = fs::file_time_type::clock::now();
+};
+
+TEST_F(WebRoad, OptionTakesAConsoleSourceThere) {
+    fs::create_directory(work / "வெளியீடு");  // being there is no error
+    LiveProcess live = start({"a.பொழில்", "--வலை", "--கண்காணி"});
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess)) << live.out() << live.err();
+    EXPECT_EQ(live.err(), "");
+    EXPECT_EQ(body("/version"), "2");
+    EXPECT_EQ(body("/index.js"), "first");
+    EXPECT_TRUE(pageIsOf("2"));
+    EXPECT_EQ(readFileText(root / "opened"), "http://localhost:6931/\n");
+    ASSERT_TRUE(fs::exists(cache / "generated.cpp"));
+    EXPECT_EQ(fs::file_size(cache / "generated.cpp"), 0U) << "the text goes elsewhere";
+    EXPECT_NE(readFileText(cache / "வலை_வெளியீடு.cpp").find("int main() {"), std::string::npos);
+}
+
+TEST_F(WebRoad, InterruptSaysGoodbye) {
+    LiveProcess live = start();
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess)) << live.out() << live.err();
+    EXPECT_EQ(body("/version"), "2") << "the handler is there before the server";
+    live.interrupt();
+    ASSERT_TRUE(live.waitForEnd());
+    EXPECT_TRUE(WIFEXITED(live.status));
+    EXPECT_EQ(WEXITSTATUS(live.status), 0);
+    EXPECT_EQ(live.out(), kFirstPart + kSuccess + kFarewell);
+    EXPECT_EQ(live.err(), "");
+}
+
+TEST_F(WebRoad, FailedFirstBuildIsMendedBySaving) {
+    compilerFails();
+    LiveProcess live = start();
+    std::string expected = kFirstPart + kBuildFailure + kFailure;
+    ASSERT_TRUE(live.waitForOut(expected)) << live.out() << live.err();
+    waitForWatch();
+    EXPECT_EQ(body("/version"), "1");
+    EXPECT_TRUE(pageIsOf("2")) << "the page is stored before em++ runs";
+    EXPECT_EQ(get(kPort, "/index.js").substr(0, 12), "HTTP/1.1 404");
+    EXPECT_FALSE(fs::exists(root / "opened")) << "no browser";
+
+    compilerBuilds("mended");
+    save("அச்சிடு(2)\n");
+    expected += kChanged + kRenewed;
+    ASSERT_TRUE(live.waitForOut(expected)) << live.out();
+    EXPECT_EQ(body("/version"), "2");
+    EXPECT_EQ(body("/index.js"), "mended");
+    EXPECT_FALSE(fs::exists(root / "opened")) << "nor later";
+}
+
+TEST_F(WebRoad, CounterFollowsSuccessfulBuildsAlone) {
+    LiveProcess live = start();
+    std::string expected = kFirstPart + kSuccess;
+    ASSERT_TRUE(live.waitForOut(expected)) << live.out() << live.err();
+    waitForWatch();
+
+    compilerBuilds("second");
+    save("அச்சிடு(22)\n");
+    expected += kChanged + kRenewed;
+    ASSERT_TRUE(live.waitForOut(expected)) << live.out();
+    EXPECT_EQ(body("/version"), "3");
+    EXPECT_EQ(body("/index.js"), "second");
+    EXPECT_TRUE(pageIsOf("3"));
+    EXPECT_NE(readFileText(cache / "வலை_வெளியீடு.cpp").find("22LL"), std::string::npos);
+
+    compilerFails();
+    for (int i = 0; i < 2; i++) {
+        save("அச்சிடு(33)\n");
+        expected += kChanged + kBuildFailure;
+        ASSERT_TRUE(live.waitForOut(expected)) << live.out();
+        EXPECT_EQ(body("/version"), "3");
+        EXPECT_TRUE(pageIsOf("4"));
+        EXPECT_EQ(get(kPort, "/index.js").substr(0, 12), "HTTP/1.1 404");
+    }
+
+    compilerBuilds("fourth");
+    save("அச்சிடு(44)\n", std::chrono::hours(-100));  // older: any other time counts
+    expected += kChanged + kRenewed;
+    ASSERT_TRUE(live.waitForOut(expected)) << live.out();
+    EXPECT_EQ(body("/version"), "4");
+
+    save("அச்சிடு(55)\n", std::chrono::hours(0));  // the same time: no change
+    std::this_thread::sleep_for(kTwoPolls);
+    EXPECT_EQ(live.out(), expected);
+    EXPECT_EQ(live.err(), "");
+}
+
+TEST_F(WebRoad, GoesOnAfterAnException) {
+    LiveProcess live = start();
+    std::string expected = kFirstPart + kSuccess;
+    ASSERT_TRUE(live.waitForOut(expected)) << live.out() << live.err();
+    waitForWatch();
+
+    std::string failures =
+        "\033[1;31m🚨 லெக்சர் பிழை (சொல் பகுப்பாய்வு): உமது நிரலில் ஏதோ பிழை உள்ளது. "
+        "சரிபார்க்கவும்!\033[0m\n";
+    save("\t");
+    ASSERT_TRUE(live.waitForErr(failures)) << live.out() << live.err();
+    failures +=
+        "\033[1;31m🚨 ஜெனரேட்டர் பிழை (குறியீடு உருவாக்கம்): குறியீட்டை உருவாக்குவதில் சிக்கல்!"
+        "\033[0m\n";
+    save("அச்சிடு(௧)\n");
+    ASSERT_TRUE(live.waitForErr(failures)) << live.out() << live.err();
+    EXPECT_EQ(live.err(), failures) << "without the exception's own text";
+    EXPECT_EQ(body("/version"), "2");
+    EXPECT_EQ(body("/index.js"), "first") << "the last good program stays";
+
+    save("அச்சிடு(3)\n");
+    expected += kChanged + kChanged + kChanged + kRenewed;
+    ASSERT_TRUE(live.waitForOut(expected)) << live.out();
+    EXPECT_EQ(body("/version"), "3");
+}
+
+TEST_F(WebRoad, DiagnosticEndsServerAndAll) {
+    LiveProcess live = start();
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess)) << live.out() << live.err();
+    waitForWatch();
+    EXPECT_EQ(body("/version"), "2");
+    save("அச்சிடு(\"\n");
+    ASSERT_TRUE(live.waitForEnd());
+    EXPECT_TRUE(WIFEXITED(live.status));
+    EXPECT_EQ(WEXITSTATUS(live.status), 1);
+    EXPECT_EQ(live.out().find(kFirstPart + kSuccess + kChanged), 0U) << live.out();
+    EXPECT_NE(live.out().find("பொழில்-102"), std::string::npos) << live.out();
+    EXPECT_FALSE(Client(kPort, 0, 0).connected());
+}
+
+TEST_F(WebRoad, VanishedSourceEndsItAbnormally) {
+    LiveProcess live = start();
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess)) << live.out() << live.err();
+    waitForWatch();
+    fs::remove(work / "a.பொழில்");
+    ASSERT_TRUE(live.waitForEnd());
+    EXPECT_TRUE(WIFSIGNALED(live.status));
+    EXPECT_EQ(WTERMSIG(live.status), SIGABRT);
+}
+
+TEST_F(WebRoad, PortAlreadyTaken) {
+    LiveProcess other = start();
+    ASSERT_TRUE(other.waitForOut(kFirstPart + kSuccess)) << other.out() << other.err();
+    ASSERT_EQ(body("/version"), "2");
+
+    fs::create_directory(root / "second");
+    LiveProcess live({compiler.u8string(), "--வலை", "a.பொழில்"}, work, environment(),
+                     root / "second");
+    ASSERT_TRUE(live.waitForErr("🚨 6931 போர்ட்டில் சர்வரைத் தொடங்க முடியவில்லை!\n")) << live.err();
+    std::string expected = kFirstPart + kSuccess;
+    ASSERT_TRUE(live.waitForOut(expected)) << live.out();
+    waitForWatch();
+    save("அச்சிடு(2)\n");
+    expected += kChanged + kRenewed;
+    EXPECT_TRUE(live.waitForOut(expected)) << "the watch loop runs on: " << live.out();
+    EXPECT_EQ(live.err(), "🚨 6931 போர்ட்டில் சர்வரைத் தொடங்க முடியவில்லை!\n");
+}
+
+TEST_F(WebRoad, ServesWhileTheCompilerRuns) {
+    LiveProcess live = start();
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess)) << live.out() << live.err();
+    waitForWatch();
+    script("em++", "while [ ! -e '" + (root / "go").u8string() + "' ]; do sleep 0.05; done");
+    save("அச்சிடு(2)\n");
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess + kChanged)) << live.out();
+    for (int i = 0; i < 100 && !pageIsOf("3"); i++) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    EXPECT_TRUE(pageIsOf("3"));
+    EXPECT_EQ(body("/version"), "2") << "raised by success alone";
+    EXPECT_EQ(get(kPort, "/index.js").substr(0, 12), "HTTP/1.1 404") << "gone for the while";
+    writeFileText(root / "go", "");
+    EXPECT_TRUE(live.waitForOut(kFirstPart + kSuccess + kChanged + kRenewed)) << live.out();
+    EXPECT_EQ(body("/version"), "3");
+}
+
+TEST_F(WebRoad, MissingTemplateFailsTheBuild) {
+    fs::remove(home / "உள்ளடக்கம்" / "template.html");
+    LiveProcess live = start();
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kFailure)) << live.out() << live.err();
+    EXPECT_EQ(live.err(), "பிழை: template.html கோப்பு கிடைக்கவில்லை! '" + home.u8string() +
+                              "/உள்ளடக்கம்/template.html' உள்ளதா எனச் சரிபார்க்கவும்.\n");
+    EXPECT_EQ(body("/version"), "1");
+    EXPECT_EQ(body("/"), "");
+}
+
+TEST_F(WebRoad, OutputThatCannotBeRemovedEndsItAbnormally) {
+    fs::create_directories(work / "வெளியீடு" / "index.js" / "full");
+    const ProcessResult run = compile({"--வலை", "a.பொழில்"});
+    EXPECT_EQ(run.signal, SIGABRT);
+    EXPECT_EQ(run.out, kFirstPart);
+}
+
+TEST_F(WebRoad, OpensBeforeAPhaseFails) {
+    write("a.பொழில்", "\t");
+    const ProcessResult scan = compile({"--வலை", "a.பொழில்"});
+    EXPECT_EQ(scan.out, kOpening);
+    EXPECT_EQ(scan.exitCode, 1);
+
+    write("a.பொழில்", "அச்சிடு(௧)\n");
+    const ProcessResult generate = compile({"--வலை", "a.பொழில்"});
+    EXPECT_EQ(generate.out, kOpening +
+                                "முடிந்தது\n"
+                                "🎨 பயனர் இடைமுகம் மற்றும் அசைவூட்டங்கள் செதுக்கப்படுகிறது... ");
+    EXPECT_EQ(generate.exitCode, 1);
+    EXPECT_FALSE(fs::exists(work / "வெளியீடு"));
+}
+
+TEST_F(WebRoad, MissingSourceOpensNothing) {
+    const ProcessResult run = compile({"--வலை", "இல்லை.பொழில்"});
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, "பிழை: 'இல்லை.பொழில்' என்ற கோப்பை திறக்க முடியவில்லை!\n");
+    EXPECT_EQ(run.exitCode, 1);
+}
+
+#ifdef POZHIL_WEB_APPLICATIONS
+TEST_F(WebRoad, ApplicationTakesItByItself) {
+    write("a.பொழில்",
+          "வலைதளம் செயலி(\n    தலைமை(\n        இணைய_தலைப்பு: \"என் தளம்\"\n"
+          "        பின்னணி: \"#123456\"\n    )\n    குமரி(\n        உரை(\"வணக்கம்\")\n    )\n"
+          "    வரையறை(\n        எண்ணிக்கை = 0\n    )\n)\n");
+    LiveProcess live = start({"a.பொழில்"});
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess)) << live.out() << live.err();
+    EXPECT_NE(body("/").find("<title>என் தளம்</title>"), std::string::npos);
+    EXPECT_NE(body("/").find("background: #123456;"), std::string::npos);
+}
+
+TEST_F(WebRoad, ApplicationOpensTheRoadOnlyBehindTheParser) {
+    write("a.பொழில்", "வலைதளம் செயலி()\n");
+    const ProcessResult run = compile({"a.பொழில்"});
+    EXPECT_EQ(run.out.find("🚀"), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("பொழில்-401"), std::string::npos) << run.out;
+    EXPECT_EQ(run.exitCode, 1);
+}
+#endif
+
+}  // namespace
