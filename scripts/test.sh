@@ -62,7 +62,7 @@ check_looks() {
         say "▷ clang-format, clang-tidy: பதிப்பு 14 இல்லை, தவிர்க்கப்பட்டது"
         skipped=$((skipped + 2))
     fi
-    check "நிரல் துணுக்குகள் (shellcheck)" shellcheck -x scripts/*.sh .ci/run
+    check "நிரல் துணுக்குகள் (shellcheck)" shellcheck -x scripts/*.sh bench/*.sh .ci/run
 }
 
 summary() {
@@ -82,6 +82,8 @@ case "${1:-all}" in
             clang-tidy libclang-rt-dev shellcheck util-linux
         check "கட்டுதல்" build tests
         check "துணைக் கோப்புகள்" scripts/prepare_objects.sh
+        check "வலைதளங்களின் துணைக் கோப்புகள்" scripts/setup_web.sh
+        check "உலாவிச் சோதனையின் கருவிகள்" scripts/setup_browser_tests.sh
         check_looks
         run_tests "எல்லாச் சோதனைகளும்" tests
         check "கட்டுதல் (sanitizers)" build sanitize

@@ -1,0 +1,67 @@
+// Debian's Chromium, a page that notes what goes wrong in it, and screenshots as test output.
+import {mkdirSync} from 'node:fs';
+import {join} from 'node:path';
+import {chromium} from 'playwright-core';
+
+const output = process.env.POZHIL_BROWSER_OUTPUT ?? 'browser-output';
+
+const flags = [
+    '--no-sandbox', '--disable-quic', '--no-first-run', '--disable-background-networking',
+    '--disable-component-update', '--disable-sync',
+];
+
+/** A screen larger than the viewport, as on a desk. */
+export const desk = {viewport: {width: 1280, height: 720}, screen: {width: 1920, height: 1080}};
+
+export function launch(extraFlags = []) {
+    return chromium.launch({
+        executablePath: process.env.POZHIL_CHROMIUM ?? '/usr/bin/chromium',
+        args: [...flags, ...extraFlags],
+    });
+}
+
+/**
+ * A page of a context of its own. `page.problems` collects errors of console and scripts,
+ * `page.printed` what programs print; warnings are the driver's. Nothing outside this machine is reached.
+ */
+export async function openPage(browser, options = desk, prepare = async () => {}) {
+    const context = await browser.newContext(options);
+    await context.route(url => url.hostname !== 'localhost', route => route.abort());
+    const page = await context.newPage();
+    page.problems = [];
+    page.printed = [];
+    page.on('console', message => {
+        if (message.type() === 'error') page.problems.push(message.text());
+        if (message.type() === 'log') page.printed.push(message.text());
+    });
+    page.on('pageerror', error => page.problems.push(String(error)));
+    await prepare(page);
+    return page;
+}
+
+export async function photograph(page, name) {
+    mkdirSync(output, {recursive: true});
+    return page.screenshot({path: join(output, `${name}.png`)});
+}
+
+/** The colour [red, green, blue] of one pixel of what the user sees. */
+export async function pixel(page, x, y) {
+    const shot = await page.screenshot({clip: {x, y, width: 1, height: 1}});
+    return page.evaluate(async bytes => {
+        const image = await createImageBitmap(await (await fetch(bytes)).blob());
+        const context = new OffscreenCanvas(1, 1).getContext('2d');
+        context.drawImage(image, 0, 0);
+        return [...context.getImageData(0, 0, 1, 1).data].slice(0, 3);
+    }, `data:image/png;base64,${shot.toString('base64')}`);
+}
+
+/** Waits until `holds` answers something true, and returns it. */
+export async function until(holds, what, seconds = 60) {
+    const deadline = Date.now() + seconds * 1000;
+    for (;;) {
+        const answer = await holds();
+        if (answer) return answer;
+        if (Date.now() > deadline) throw new Error(`not within ${seconds} s: ${what}`);
+        await new Promise(resolve => setTimeout(resolve, 50));
+    }
+}

@@ -1,0 +1,81 @@
+// The compiler on its web road, in a working directory of its own, with the real em++.
+import {execFileSync, spawn} from 'node:child_process';
+import {chmodSync, mkdirSync, mkdtempSync, readFileSync, rmSync, writeFileSync} from 'node:fs';
+import {tmpdir} from 'node:os';
+import {delimiter, join} from 'node:path';
+
+const executableDirectory = required('POZHIL_EXECUTABLE_DIR');
+const emxx = execFileSync('bash', ['-c', 'command -v em++'], {encoding: 'utf8'}).trim();
+
+export const address = 'http://localhost:6931/';
+
+function required(name) {
+    const value = process.env[name];
+    if (!value) throw new Error(`${name} is not set: run by ctest`);
+    return value;
+}
+
+/** A directory with a `bin` that hides the browser opener and notes when em++ runs. */
+export function makeWorkplace() {
+    const root = mkdtempSync(join(tmpdir(), 'pozhil-browser-'));
+    for (const name of ['bin', 'work', 'tmp']) mkdirSync(join(root, name));
+    const script = (name, text) => {
+        writeFileSync(join(root, 'bin', name), `#!/bin/bash\n${text}\n`);
+        chmodSync(join(root, 'bin', name), 0o755);
+    };
+    script('xdg-open', 'exit 0');
+    script('em++', `[ ! -e '${root}/broken' ] || set -- "$@" missing.o\n` +
+        `echo "start $EPOCHREALTIME" >>'${root}/times'\n'${emxx}' "$@"\nstatus=$?\n` +
+        `echo "end $EPOCHREALTIME" >>'${root}/times'\nexit $status`);
+    return {
+        root,
+        work: join(root, 'work'),
+        environment: {
+            ...process.env,
+            TMPDIR: join(root, 'tmp'),
+            PATH: join(root, 'bin') + delimiter + process.env.PATH,
+        },
+        /** Start and end of each run of em++, in milliseconds since the epoch. */
+        compilerTimes() {
+            return readFileSync(join(root, 'times'), 'utf8').trim().split('\n')
+                .map(line => Number(line.split(' ')[1]) * 1000);
+        },
+        /** From now on em++ misses an object, or no longer does. */
+        breakCompiler(broken) {
+            if (broken) writeFileSync(join(root, 'broken'), '');
+            else rmSync(join(root, 'broken'));
+        },
+        write(name, text) {
+            writeFileSync(join(root, 'work', name), text);
+        },
+        remove() {
+            rmSync(root, {recursive: true, force: true});
+        },
+    };
+}
+
+/** A process that goes on; `output` is what it has printed so far. */
+export function start(command, commandArguments, workplace) {
+    const child = spawn(command, commandArguments,
+        {cwd: workplace.work, env: workplace.environment, stdio: ['ignore', 'pipe', 'pipe']});
+    const running = {output: '', ended: null, stop: signal => child.kill(signal)};
+    for (const stream of [child.stdout, child.stderr]) {
+        stream.setEncoding('utf8');
+        stream.on('data', text => { running.output += text; });
+    }
+    running.finished = new Promise(resolve => {
+        child.on('close', (status, signal) => {
+            running.ended = {status, signal};
+            resolve(running.ended);
+        });
+    });
+    return running;
+}
+
+export function startCompiler(workplace, ...compilerArguments) {
+    return start(join(executableDirectory, 'பொழில்'), compilerArguments, workplace);
+}
+
+export async function version() {
+    return (await fetch(`${address}version`)).text();
+}
