@@ -3,9 +3,12 @@
 set(EMITTED_NAMES
     includes
     web_headers
+    web_text_layer
     globals
     navigation
     input_state
+    web_entry_points
+    web_keyboard
     base_structures
     runtime_failure
     # Dynamic values
@@ -30,6 +33,9 @@ set(EMITTED_NAMES
     removal
     # The frame of an application
     scroll_state
-    web_boilerplate)
+    web_boilerplate
+    web_background_video
+    web_frame
+    web_main)
 list(TRANSFORM EMITTED_NAMES REPLACE "(.+)" "${CMAKE_CURRENT_LIST_DIR}/\\1.cpp"
      OUTPUT_VARIABLE EMITTED_FILES)

@@ -38,6 +38,8 @@ bool Generator::visitValue(const Expression* expression) {
         visitMapLiteral(node);
     } else if (const auto* node = dynamic_cast<const IndexExpression*>(expression)) {
         visitIndexExpression(node);
+    } else if (const auto* node = dynamic_cast<const ColorExpression*>(expression)) {
+        visitColorExpression(node);
     } else {
         return false;
     }

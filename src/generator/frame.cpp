@@ -2,7 +2,6 @@
 // on the program.
 #include "emitted_text.h"
 #include "generator/generator.h"
-#include "generator/static_error.h"
 
 namespace {
 
@@ -10,17 +9,26 @@ namespace {
 /// written. Meant.
 bool g_isGlobalScope = false;
 
+/// A float as a stream writes it.
+std::string numberText(float value) {
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << value;
+    return text.str();
+}
+
 }  // namespace
 
 // Each section needs only what stands before it. An empty one keeps the place of text to come.
 const Generator::Section Generator::kSections[] = {
     {"includes", emitted::includes, nullptr},
     {"web: headers", emitted::web_headers, nullptr},
-    {"web: text layer and clipboard", "", nullptr},
+    {"web: text layer and clipboard", emitted::web_text_layer, nullptr},
     {"globals", emitted::globals, nullptr},
     {"navigation", emitted::navigation, nullptr},
     {"input state", emitted::input_state, nullptr},
-    {"web: entry points", "", nullptr},
+    {"web: entry points", emitted::web_entry_points, nullptr},
+    {"web: keyboard", emitted::web_keyboard, nullptr},
     {"base structures and diagnostics headers", emitted::base_structures, nullptr},
     {"run-time failures", emitted::runtime_failure, nullptr},
 
@@ -47,6 +55,7 @@ const Generator::Section Generator::kSections[] = {
 
     {"scroll state", emitted::scroll_state, nullptr},
     {"web: boilerplate", emitted::web_boilerplate, nullptr},
+    {"web: background video", emitted::web_background_video, nullptr},
 
     {"structures", "", &Generator::writeStructures},
     {"functions", "", &Generator::writeFunctions},
@@ -78,6 +87,9 @@ void Generator::writeText(std::string_view text) {
         {"POZHIL_SOURCE_FILE", quoted(filename)},
         // As the source writes it, escapes included: so it equals the name in its page block.
         {"POZHIL_INITIAL_PAGE", "\"" + initialPage() + "\""},
+        {"POZHIL_WINDOW_WIDTH", numberText(windowSize().width)},
+        {"POZHIL_WINDOW_HEIGHT", numberText(windowSize().height)},
+        {"POZHIL_WINDOW_TITLE", quoted(windowTitle())},
     };
     while (true) {
         const Placeholder* next = nullptr;
@@ -118,28 +130,33 @@ std::string Generator::initialPage() const {
     return page.empty() ? "home" : page;
 }
 
-bool Generator::holdsWebApp() const {
+/// The definitions of one class: those at top level, then those that stand directly in an
+/// application's logic, in source order. All of them are written at file scope.
+template <typename Definition, typename Visit>
+void Generator::visitDefinitions(Visit visit) {
     for (const auto& statement : program.statements) {
-        if (dynamic_cast<const WebAppNode*>(statement.get()) != nullptr) return true;
+        if (const auto* node = dynamic_cast<const Definition*>(statement.get())) visit(node);
     }
-    return false;
+    for (const auto& statement : program.statements) {
+        const auto* app = dynamic_cast<const WebAppNode*>(statement.get());
+        if (app == nullptr) continue;
+        const auto* logic = dynamic_cast<const LogicBlockNode*>(app->logic.get());
+        if (logic == nullptr || logic->body == nullptr) continue;
+        for (const auto& inner : logic->body->statements) {
+            if (const auto* node = dynamic_cast<const Definition*>(inner.get())) visit(node);
+        }
+    }
 }
 
 void Generator::writeStructures() {
-    for (const auto& statement : program.statements) {
-        if (const auto* node = dynamic_cast<const StructDefinitionStatement*>(statement.get())) {
-            visitStructDefinitionStatement(node);
-        }
-    }
+    visitDefinitions<StructDefinitionStatement>(
+        [this](const auto* node) { visitStructDefinitionStatement(node); });
 }
 
 /// In source order, without prototypes: a function can call what stands before it, and itself.
 void Generator::writeFunctions() {
-    for (const auto& statement : program.statements) {
-        if (const auto* node = dynamic_cast<const FunctionDefinitionStatement*>(statement.get())) {
-            visitFunctionDefinitionStatement(node);
-        }
-    }
+    visitDefinitions<FunctionDefinitionStatement>(
+        [this](const auto* node) { visitFunctionDefinitionStatement(node); });
 }
 
 void Generator::writeInitGlobals() {
@@ -156,8 +173,11 @@ void Generator::writeInitGlobals() {
 }
 
 void Generator::writeMain() {
-    if (holdsWebApp()) throw_static_error("பொழில்-399", "Unknown statement type in generator");
-    writeConsoleMain();
+    if (firstWebApp() != nullptr) {
+        writeWebForm();
+    } else {
+        writeConsoleMain();
+    }
 }
 
 /// It doesn't call init_globals. Meant: a console program has nothing there.
@@ -187,6 +207,9 @@ void Generator::generateLogic(const Statement* statement) {
 void Generator::visitLogicBlockNode(const LogicBlockNode* logic) {
     if (logic->body == nullptr) return;
     for (const auto& statement : logic->body->statements) {
-        if (statement != nullptr) visitStatement(statement.get());
+        // Functions were written at file scope.
+        const bool isFunction =
+            dynamic_cast<const FunctionDefinitionStatement*>(statement.get()) != nullptr;
+        if (statement != nullptr && !isFunction) visitStatement(statement.get());
     }
 }

@@ -17,6 +17,7 @@
 #include "syntax/node.h"
 #include "syntax/statements.h"
 #include "syntax/var_type.h"
+#include "ui/colours.h"
 
 class Generator {
 public:
@@ -102,6 +103,20 @@ public:
     /// "home" if no application names a page.
     std::string initialPage() const;
 
+    // ---- Web applications ----
+    void generateWebBoilerplate(const ScreenConfig& screen);
+    void visitWebAppNode(const WebAppNode* app);
+    void generateUI(const Statement* statement);
+    void visitWidgetNode(const WidgetNode* widget);
+    void genTextWidget(const WidgetNode* widget);
+    void genButtonWidget(const WidgetNode* widget);
+    void genColumnWidget(const WidgetNode* widget);
+    /// Draws a widget; `x` and `y` are C++ expressions for its place, in pixels.
+    void generateWidgetCode(const WidgetNode* widget, const std::string& x, const std::string& y);
+    /// A colour by its hexadecimal text or by its name; black for what is neither.
+    PozhilColor parsePozhilColor(std::string value, bool isHex);
+    void visitColorExpression(const ColorExpression* colour);
+
     // Kept empty: a widget lays out, styles and listens where it is drawn.
     void calculateLayout(const WidgetNode*) {}
     void applyStyles(const WidgetNode*) {}
@@ -134,13 +149,26 @@ private:
     static const Section kSections[];
 
     void writeText(std::string_view text);
+    template <typename Definition, typename Visit>
+    void visitDefinitions(Visit visit);
     void writeStructures();
     void writeFunctions();
     void writeInitGlobals();
     void writeMain();
     void writeConsoleMain();
 
-    bool holdsWebApp() const;
+    // ---- Web form ----
+    void writeWebForm();
+    const WebAppNode* firstWebApp() const;
+    ScreenConfig windowSize() const;
+    std::string windowTitle() const;
+    void writeLine(const std::string& text);
+    void writePageColour(const Expression* value);
+    void writePageImage(const Expression* value);
+    void writePageVideo(const Expression* value);
+    void writePageTitle(const Expression* value);
+    void writeTexts(const WidgetNode& widget, const std::string& x, const std::string& y,
+                    int& line);
 
     // ---- Pieces of text that many visitors write ----
     /// The visitor's text as a value of its own: std::any( ... )

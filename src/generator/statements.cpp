@@ -73,6 +73,10 @@ bool Generator::visitIndentingStatement(const Statement* statement) {
         visitFunctionDefinitionStatement(node);
     } else if (const auto* node = dynamic_cast<const BlockStatement*>(statement)) {
         visitBlockStatement(node);
+    } else if (const auto* node = dynamic_cast<const WebAppNode*>(statement)) {
+        visitWebAppNode(node);
+    } else if (const auto* node = dynamic_cast<const WidgetNode*>(statement)) {
+        visitWidgetNode(node);
     } else if (const auto* node = dynamic_cast<const LogicBlockNode*>(statement)) {
         visitLogicBlockNode(node);
     } else {

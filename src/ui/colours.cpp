@@ -1,0 +1,53 @@
+#include "ui/colours.h"
+
+#include <cstdio>
+
+#include "generator/generator.h"
+
+namespace {
+
+const std::map<std::string, PozhilColor> pozhil_colors = {
+    {"வெள்ளை", {1.0F, 1.0F, 1.0F, 1.0F}},   {"கருப்பு", {0.0F, 0.0F, 0.0F, 1.0F}},
+    {"சிவப்பு", {1.0F, 0.0F, 0.0F, 1.0F}},    {"பச்சை", {0.0F, 1.0F, 0.0F, 1.0F}},
+    {"நீலம்", {0.0F, 0.0F, 1.0F, 1.0F}},     {"மஞ்சள்", {1.0F, 1.0F, 0.0F, 1.0F}},
+    {"ஆரஞ்சு", {1.0F, 0.647F, 0.0F, 1.0F}},  {"ஊதா", {0.5F, 0.0F, 0.5F, 1.0F}},
+    {"இளஞ்சிவப்பு", {1.0F, 0.75F, 0.8F, 1.0F}}, {"சாம்பல்", {0.5F, 0.5F, 0.5F, 1.0F}},
+    {"பழுப்பு", {0.65F, 0.16F, 0.16F, 1.0F}}, {"வானநீலம்", {0.53F, 0.81F, 0.92F, 1.0F}},
+    {"தங்கம்", {1.0F, 0.84F, 0.0F, 1.0F}},   {"வெள்ளி", {0.75F, 0.75F, 0.75F, 1.0F}},
+    {"சுண்ணாம்பு", {0.0F, 1.0F, 0.0F, 1.0F}}, {"கடல்நீலம்", {0.0F, 0.41F, 0.58F, 1.0F}},
+};
+
+int channel(float value) { return static_cast<int>(value * 255); }
+
+}  // namespace
+
+/// Short hexadecimal forms aren't expanded: they stay black. Nor is an unknown name refused: it is
+/// black too. Meant.
+PozhilColor Generator::parsePozhilColor(std::string value, bool isHex) {
+    if (!isHex) {
+        const auto found = pozhil_colors.find(value);
+        return found == pozhil_colors.end() ? PozhilColor{0, 0, 0, 1} : found->second;
+    }
+    if (value.rfind('#', 0) == 0) value.erase(0, 1);
+    unsigned red = 0;
+    unsigned green = 0;
+    unsigned blue = 0;
+    unsigned alpha = 255;
+    // What can't be read leaves the channels behind it as they are.
+    if (value.size() == 8) {
+        static_cast<void>(
+            std::sscanf(value.c_str(), "%02x%02x%02x%02x", &red, &green, &blue, &alpha));
+    } else if (value.size() > 5) {
+        static_cast<void>(std::sscanf(value.c_str(), "%02x%02x%02x", &red, &green, &blue));
+    }
+    const auto part = [](unsigned byte) { return static_cast<float>(byte) / 255.0F; };
+    return {part(red), part(green), part(blue), part(alpha)};
+}
+
+/// "#ff8000"  ->  nvgRGBA(255, 128, 0, 255)
+void Generator::visitColorExpression(const ColorExpression* colour) {
+    const PozhilColor c =
+        parsePozhilColor(colour->isHex ? colour->hexValue : colour->colorName, colour->isHex);
+    out << "nvgRGBA(" << channel(c.r) << ", " << channel(c.g) << ", " << channel(c.b) << ", "
+        << channel(c.a) << ")";
+}
