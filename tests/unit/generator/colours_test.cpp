@@ -1,0 +1,61 @@
+// Colours, by name and by hexadecimal text.
+#include <gtest/gtest.h>
+
+#include "support/front_end.h"
+
+namespace {
+
+PozhilColor colour(const std::string& value, bool isHex) {
+    const Program program;
+    return Generator(program, {}, {}, {}, "", "").parsePozhilColor(value, isHex);
+}
+
+void expectColour(const PozhilColor& actual, float r, float g, float b, float a) {
+    EXPECT_FLOAT_EQ(actual.r, r);
+    EXPECT_FLOAT_EQ(actual.g, g);
+    EXPECT_FLOAT_EQ(actual.b, b);
+    EXPECT_FLOAT_EQ(actual.a, a);
+}
+
+TEST(Colours, EveryName) {
+    const struct {
+        const char* name;
+        float r, g, b;
+    } rows[] = {
+        {"வெள்ளை", 1, 1, 1},          {"கருப்பு", 0, 0, 0},
+        {"சிவப்பு", 1, 0, 0},           {"பச்சை", 0, 1, 0},
+        {"நீலம்", 0, 0, 1},            {"மஞ்சள்", 1, 1, 0},
+        {"ஆரஞ்சு", 1, 0.647F, 0},      {"ஊதா", 0.5F, 0, 0.5F},
+        {"இளஞ்சிவப்பு", 1, 0.75F, 0.8F}, {"சாம்பல்", 0.5F, 0.5F, 0.5F},
+        {"பழுப்பு", 0.65F, 0.16F, 0.16F}, {"வானநீலம்", 0.53F, 0.81F, 0.92F},
+        {"தங்கம்", 1, 0.84F, 0},       {"வெள்ளி", 0.75F, 0.75F, 0.75F},
+        {"சுண்ணாம்பு", 0, 1, 0},        {"கடல்நீலம்", 0, 0.41F, 0.58F},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        expectColour(colour(row.name, false), row.r, row.g, row.b, 1);
+    }
+}
+
+TEST(Colours, UnknownNameIsOpaqueBlack) { expectColour(colour("எதுவோ", false), 0, 0, 0, 1); }
+
+TEST(Colours, SixDigitsAreOpaque) { expectColour(colour("#ff8000", true), 1, 128 / 255.0F, 0, 1); }
+
+TEST(Colours, EightDigitsCarryAlpha) {
+    expectColour(colour("#00ff0080", true), 0, 1, 0, 128 / 255.0F);
+}
+
+TEST(Colours, ShortFormsStayBlack) {
+    expectColour(colour("#fff", true), 0, 0, 0, 1);
+    expectColour(colour("#fffff", true), 0, 0, 0, 1);
+}
+
+TEST(Colours, SevenDigitsReadThreeChannels) {
+    expectColour(colour("#ff8000f", true), 1, 128 / 255.0F, 0, 1);
+}
+
+TEST(Colours, WhatCannotBeReadStaysZero) { expectColour(colour("#ffzz00", true), 1, 0, 0, 1); }
+
+TEST(Colours, HexWithoutMarkIsAName) { expectColour(colour("ff8000", false), 0, 0, 0, 1); }
+
+}  // namespace
