@@ -6,6 +6,7 @@
 #include <chrono>
 #include <thread>
 
+#include "driver/console_texts.h"
 #include "driver/live_process.h"
 #include "driver/workplace.h"
 #include "web/client.h"
@@ -51,7 +52,9 @@ protected:
         fs::copy_file(fs::u8path(POZHIL_ROOT) / "உள்ளடக்கம்" / "template.html",
                       home / "உள்ளடக்கம்" / "template.html");
         fs::create_directories(root / "bin");
-        script("xdg-open", "echo \"$@\" >>'" + (root / "opened").u8string() + "'");
+        const std::string opened = (root / "opened").u8string();
+        script("xdg-open",
+               "echo \"$@\" >'" + opened + ".new'; mv '" + opened + ".new' '" + opened + "'");
         compilerBuilds("first");
         write("a.பொழில்", "அச்சிடு(1)\n");
     }
@@ -89,6 +92,14 @@ protected:
         fs::rename(work / "new", work / "a.பொழில்");
     }
 
+    /// What the browser was asked to open; it is started in the background.
+    std::string openedAddresses() const {
+        for (int i = 0; i < 100 && !fs::exists(root / "opened"); i++) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        }
+        return readFileText(root / "opened");
+    }
+
     static std::string body(const std::string& path) {
         const std::string text = get(kPort, path);
         const std::size_t end = text.find("\r\n\r\n");
@@ -110,7 +121,7 @@ TEST_F(WebRoad, OptionTakesAConsoleSourceThere) {
     EXPECT_EQ(body("/version"), "2");
     EXPECT_EQ(body("/index.js"), "first");
     EXPECT_TRUE(pageIsOf("2"));
-    EXPECT_EQ(readFileText(root / "opened"), "http://localhost:6931/\n");
+    EXPECT_EQ(openedAddresses(), "http://localhost:6931/\n");
     ASSERT_TRUE(fs::exists(cache / "generated.cpp"));
     EXPECT_EQ(fs::file_size(cache / "generated.cpp"), 0U) << "the text goes elsewhere";
     EXPECT_NE(readFileText(cache / "வலை_வெளியீடு.cpp").find("int main() {"), std::string::npos);
@@ -308,6 +319,15 @@ TEST_F(WebRoad, MissingSourceOpensNothing) {
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(run.err, "பிழை: 'இல்லை.பொழில்' என்ற கோப்பை திறக்க முடியவில்லை!\n");
     EXPECT_EQ(run.exitCode, 1);
+}
+
+TEST(Farewell, EndsWithStatusZero) {
+    const ProcessResult run = runForked([] {
+        signal_handler(SIGINT);
+        return 7;
+    });
+    EXPECT_EQ(run.out, kFarewell);
+    EXPECT_EQ(run.exitCode, 0);
 }
 
 #ifdef POZHIL_WEB_APPLICATIONS
