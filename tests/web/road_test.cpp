@@ -330,10 +330,9 @@ TEST(Farewell, EndsWithStatusZero) {
     EXPECT_EQ(run.exitCode, 0);
 }
 
-#ifdef POZHIL_WEB_APPLICATIONS
 TEST_F(WebRoad, ApplicationTakesItByItself) {
     write("a.பொழில்",
-          "வலைதளம் செயலி(\n    தலைமை(\n        இணைய_தலைப்பு: \"என் தளம்\"\n"
+          "வலைதளம் கணக்கி(\n    தலைமை(\n        இணைய_தலைப்பு: \"என் தளம்\"\n"
           "        பின்னணி: \"#123456\"\n    )\n    குமரி(\n        உரை(\"வணக்கம்\")\n    )\n"
           "    வரையறை(\n        எண்ணிக்கை = 0\n    )\n)\n");
     LiveProcess live = start({"a.பொழில்"});
@@ -343,12 +342,11 @@ TEST_F(WebRoad, ApplicationTakesItByItself) {
 }
 
 TEST_F(WebRoad, ApplicationOpensTheRoadOnlyBehindTheParser) {
-    write("a.பொழில்", "வலைதளம் செயலி()\n");
+    write("a.பொழில்", "வலைதளம் கணக்கி()\n");
     const ProcessResult run = compile({"a.பொழில்"});
     EXPECT_EQ(run.out.find("🚀"), std::string::npos) << run.out;
     EXPECT_NE(run.out.find("பொழில்-401"), std::string::npos) << run.out;
     EXPECT_EQ(run.exitCode, 1);
 }
-#endif
 
 }  // namespace
