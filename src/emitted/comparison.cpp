@@ -22,12 +22,12 @@ const struct {
 };
 
 bool pozhil_number(const std::any& value, long double& number) {
-    const std::type_info& kind = value.type();
-    if (kind == typeid(long long)) {
+    const std::type_info* kind = &value.type();
+    if (kind == &typeid(long long)) {
         number = *std::any_cast<long long>(&value);
-    } else if (kind == typeid(long double)) {
+    } else if (kind == &typeid(long double)) {
         number = *std::any_cast<long double>(&value);
-    } else if (kind == typeid(int)) {
+    } else if (kind == &typeid(int)) {
         number = *std::any_cast<int>(&value);
     } else {
         return false;
@@ -35,37 +35,39 @@ bool pozhil_number(const std::any& value, long double& number) {
     return true;
 }
 
-bool pozhil_text(const std::any& value, std::string& text) {
-    const std::type_info& kind = value.type();
-    if (kind == typeid(std::string)) {
-        text = *std::any_cast<std::string>(&value);
-    } else if (kind == typeid(_PozhilChar)) {
-        text = std::any_cast<_PozhilChar>(&value)->val;
-    } else if (kind == typeid(char)) {
-        text = *std::any_cast<char>(&value);
-    } else {
-        return false;
-    }
-    return true;
+// The text that `value` holds, or nullptr. `room` is where a single byte becomes a text.
+const std::string* pozhil_text(const std::any& value, std::string& room) {
+    const std::type_info* kind = &value.type();
+    if (kind == &typeid(std::string)) return std::any_cast<std::string>(&value);
+    if (kind == &typeid(_PozhilChar)) return &std::any_cast<_PozhilChar>(&value)->val;
+    if (kind != &typeid(char)) return nullptr;
+    room = *std::any_cast<char>(&value);
+    return &room;
 }
 
 // The column of the outcome in the table above, or -1 if the two can't be compared.
 int pozhil_outcome(const std::any& left, const std::any& right) {
-    const long long* i = std::any_cast<long long>(&left);
-    const long long* j = std::any_cast<long long>(&right);
-    if (i != nullptr && j != nullptr) return *i < *j ? 0 : *i == *j ? 1 : 2;
+    const std::type_info* kind = &left.type();
+    const std::type_info* other = &right.type();
+    if (kind == &typeid(long long) && other == kind) {
+        long long i = *std::any_cast<long long>(&left);
+        long long j = *std::any_cast<long long>(&right);
+        return i < j ? 0 : i == j ? 1 : 2;
+    }
     long double a, b;
     if (pozhil_number(left, a)) {
         if (!pozhil_number(right, b)) return -1;
         return a < b ? 0 : a == b ? 1 : a > b ? 2 : 3;
     }
-    if (left.type() == typeid(bool)) {
-        if (right.type() != typeid(bool)) return -1;
+    if (kind == &typeid(bool)) {
+        if (other != kind) return -1;
         return *std::any_cast<bool>(&left) == *std::any_cast<bool>(&right) ? 4 : 5;
     }
-    std::string s, t;
-    if (pozhil_text(left, s) && pozhil_text(right, t)) return s == t ? 4 : 5;
-    return -1;
+    std::string room, otherRoom;
+    const std::string* s = pozhil_text(left, room);
+    const std::string* t = pozhil_text(right, otherRoom);
+    if (s == nullptr || t == nullptr) return -1;
+    return *s == *t ? 4 : 5;
 }
 
 bool fn_compare_any(const std::any& left, const std::any& right, std::string op) {

@@ -16,7 +16,7 @@ const int MAX_CALL_DEPTH = 150;
 struct CallTracker {
     std::string file;
 
-    CallTracker(std::string f) : file(f) {
+    CallTracker(std::string f) : file(std::move(f)) {
         g_call_depth++;
         if (g_call_depth > MAX_CALL_DEPTH) {
             g_call_depth = 0;
