@@ -3,6 +3,8 @@
 // program that is compiled with it. POZHIL_INSTANCE is `template` there, `extern template` here.
 // They name parts of libstdc++ that only its own headers show, and are for g++ alone.
 
+struct _StructBase;
+
 namespace pozhil {
 using List = std::vector<std::any>;
 using Dictionary = std::map<std::string, std::any>;
@@ -29,6 +31,9 @@ POZHIL_MAP_INSTANCE(int)
 POZHIL_MAP_INSTANCE(float)
 #undef POZHIL_MAP_INSTANCE
 
+POZHIL_INSTANCE class std::shared_ptr<_StructBase>;
+POZHIL_INSTANCE class std::__shared_ptr<_StructBase>;
+POZHIL_INSTANCE class std::__shared_count<>;
 POZHIL_INSTANCE class std::function<void()>;
 POZHIL_INSTANCE class std::function<std::any()>;
 POZHIL_INSTANCE class std::function<std::any(std::any)>;
@@ -56,8 +61,16 @@ POZHIL_HELD_INSTANCE(_Manager_external, long double)
 POZHIL_HELD_INSTANCE(_Manager_external, std::string)
 POZHIL_HELD_INSTANCE(_Manager_external, pozhil::List)
 POZHIL_HELD_INSTANCE(_Manager_external, pozhil::Dictionary)
+POZHIL_HELD_INSTANCE(_Manager_external, std::shared_ptr<_StructBase>)
+POZHIL_HELD_INSTANCE(_Manager_external, std::function<std::any()>)
+POZHIL_HELD_INSTANCE(_Manager_external, std::function<std::any(std::any)>)
+POZHIL_HELD_INSTANCE(_Manager_external, std::function<std::any(std::any, std::any)>)
+POZHIL_HELD_INSTANCE(_Manager_external, std::function<std::any(std::any, std::any, std::any)>)
 #undef POZHIL_HELD_INSTANCE
 
+// A text from a literal: each look-up of a variable makes one.
+POZHIL_INSTANCE std::string::basic_string(const char*, const std::allocator<char>&);
+POZHIL_INSTANCE void std::string::_M_construct(const char*, const char*, std::forward_iterator_tag);
 POZHIL_INSTANCE bool std::operator==(const std::string&, const char*);
 POZHIL_INSTANCE std::string std::operator+(const std::string&, const char*);
 POZHIL_INSTANCE std::string std::operator+(const char*, const std::string&);
