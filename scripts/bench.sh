@@ -1,21 +1,30 @@
 #!/usr/bin/env bash
-# bench.sh: measures, side by side in one run, the g++ step of a program with and without the
-# warmed header, the front end on growing sources, and the scanner with and without its checks.
+# bench.sh [programs]: measures, side by side in one run, the g++ step of a program with and without
+# the warmed header, the front end on growing sources, the scanner with and without its checks, and
+# the programs of bench/programs beside the same programs in Python. With `programs` those alone.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 # shellcheck source=scripts/messages.sh
 . scripts/messages.sh
 
-scripts/build_release.sh
-[ -f build/bench/build.ninja ] ||
-    run_quietly "அளவீட்டைத் தொடங்க முடியவில்லை (cmake)." cmake --preset bench
-run_quietly "அளவீட்டு நிரல்களைக் கட்ட முடியவில்லை." cmake --build --preset bench
+what=${1:-all}
+case "$what" in
+    all | programs) ;;
+    *) refuse "பயன்பாடு: scripts/bench.sh [programs]" ;;
+esac
 
+scripts/build_release.sh
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/times"
 runs=7
+
+build_measures() {
+    [ -f build/bench/build.ninja ] ||
+        run_quietly "அளவீட்டைத் தொடங்க முடியவில்லை (cmake)." cmake --preset bench
+    run_quietly "அளவீட்டு நிரல்களைக் கட்ட முடியவில்லை." cmake --build --preset bench
+}
 
 # milliseconds NAME COMMAND...: appends the time of one run to the file NAME.
 milliseconds() {
@@ -86,8 +95,44 @@ measure_scanner() {
     row "with the checks" checked unchecked
 }
 
+# built PROGRAM: builds and runs it as a user would, and prints where its executable stands.
+built() {
+    mkdir "$work/$1"
+    (cd "$work/$1" && TMPDIR="$work/$1" "$root/பொழில்" "$root/bench/programs/$1.பொழில்") \
+        >"$work/output" 2>&1 || refuse "'$1' கட்டப்படவில்லை: $(tail -n 1 "$work/output")"
+    find "$work/$1" -type f -name பொழில்_செயலி | head -n 1
+}
+
+# A program and its twin print the same, or nothing is measured. Python is named by its own path,
+# since a stand-in found first would add its own start to every run.
+measure_programs() {
+    local python name program source
+    scripts/install_packages.sh hyperfine python3
+    python=$(python3 -c 'import sys; print(sys.executable)')
+    printf '\n%-22s %12s %12s %9s %9s\n' \
+        "programs, $runs runs, ms" "பொழில்" "python3" "ratio" "cpu ratio"
+    for source in bench/programs/*.பொழில்; do
+        name=$(basename "$source" .பொழில்)
+        program=$(built "$name")
+        [ -x "$program" ] || refuse "'$name' கட்டப்படவில்லை."
+        cmp -s <("$program") <("$python" "${source%.பொழில்}.py") ||
+            refuse "'$name': இரு நிரல்களும் வேறு வேறு விடை தருகின்றன."
+        hyperfine --shell=none --warmup 1 --runs "$runs" --style none --export-csv "$work/csv" \
+            "$program" "$python ${source%.பொழில்}.py" >"$work/output" 2>&1 ||
+            refuse "hyperfine தவறியது: $(tail -n 1 "$work/output")"
+        # Columns: command, mean, deviation, median, user, system, least, most.
+        awk -F, -v name="$name" 'NR > 1 { median[NR] = $4 * 1000; cpu[NR] = $5 + $6 }
+            END { printf "%-22s %12.0f %12.0f %8.2fx %8.2fx\n", name, median[2], median[3],
+                  median[2] / median[3], cpu[2] / cpu[3] }' "$work/csv"
+    done
+}
+
 say "⏱ அளவிடப்படுகிறது..."
-measure_native_build
-printf '\nfront end, print statements over literals, best of 5\n'
-build/bench/bench/bench_front_end
-measure_scanner
+if [ "$what" = all ]; then
+    build_measures
+    measure_native_build
+    printf '\nfront end, print statements over literals, best of 5\n'
+    build/bench/bench/bench_front_end
+    measure_scanner
+fi
+measure_programs
