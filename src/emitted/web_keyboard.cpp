@@ -3,9 +3,8 @@
 #ifdef __EMSCRIPTEN__
 EM_BOOL key_callback(int eventType, const EmscriptenKeyboardEvent* e, void* userData) {
     (void)userData;
-    int inHtmlInput = EM_ASM_INT({
-        return document.activeElement && document.activeElement.tagName === 'INPUT' ? 1 : 0;
-    });
+    int inHtmlInput = EM_ASM_INT(
+        { return document.activeElement && document.activeElement.tagName == = 'INPUT' ? 1 : 0; });
     if (inHtmlInput) return EM_FALSE;
     if (g_focusedInput.empty()) return EM_FALSE;
 

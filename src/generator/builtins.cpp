@@ -27,7 +27,7 @@ constexpr Arity kAny = {0, INT_MAX};
 constexpr CountRefusal kNone = {false, ""};
 
 // The time of the moment, in the C library's static storage.
-#define TIME_NOW                                                                         \
+#define TIME_NOW \
     "[]() { static std::time_t t; t = std::time(nullptr); return std::localtime(&t); }()"
 
 struct BuiltinRow {
@@ -46,8 +46,7 @@ const BuiltinRow kBuiltins[] = {
     {"என்னவகை", exactly(1), "std::any(என்னவகை_கண்டுபிடி(A))",
      atLine("('என்னவகை' செயலுக்கு ஒரு மதிப்பு மட்டுமே தர வேண்டும்)")},
     {"வரம்பு", kAny, "nullptr", kNone},
-    {"நீளம்", exactly(1), "std::any(fn_நீளம்(A))",
-     withoutLine("'நீளம்' 1 argument மட்டுமே ஏற்கும்.")},
+    {"நீளம்", exactly(1), "std::any(fn_நீளம்(A))", withoutLine("'நீளம்' 1 argument மட்டுமே ஏற்கும்.")},
     {"உள்ளீடு", kOptional, "fn_உள்ளீடு(std::any_cast<std::string>(A))",
      withoutLine("'உள்ளீடு' 0 அல்லது 1 argument மட்டுமே ஏற்கும்."), "fn_உள்ளீடு()"},
     {"எண்", exactly(1), "fn_cast_to_number(A, LINE)", atLine("")},
@@ -84,8 +83,7 @@ const BuiltinRow kBuiltins[] = {
      withoutLine("'டேன்' 1 argument மட்டுமே ஏற்கும்.")},
     {"மடக்கு", exactly(1), "std::any(std::log(std::any_cast<long double>(A)))",
      withoutLine("'மடக்கு' 1 argument மட்டுமே ஏற்கும்.")},
-    {"பிளவு", exactly(2),
-     "fn_பிளவு( std::any_cast<std::string>(A), std::any_cast<std::string>(B))",
+    {"பிளவு", exactly(2), "fn_பிளவு( std::any_cast<std::string>(A), std::any_cast<std::string>(B))",
      withoutLine("'பிளவு' 2 arguments ஏற்கும் (string, delimiter).")},
     {"பதில்", exactly(3),
      "fn_பதில்( std::any_cast<std::string>(A), std::any_cast<std::string>(B), "
@@ -108,11 +106,9 @@ const BuiltinRow kBuiltins[] = {
     {"கோப்பு_உள்ளதா", exactly(1), "fn_கோப்பு_உள்ளதா( std::any_cast<std::string>(A))",
      withoutLine("'கோப்பு_உள்ளதா' 1 argument ஏற்கும் (path).")},
     {"தேதி", kOptional, "std::any(fn_தேதி(std::any_cast<std::tm*>(A)))",
-     withoutLine("'தேதி' 0 அல்லது 1 argument-ஐ மட்டுமே ஏற்கும்."),
-     "std::any(fn_தேதி(" TIME_NOW "))"},
+     withoutLine("'தேதி' 0 அல்லது 1 argument-ஐ மட்டுமே ஏற்கும்."), "std::any(fn_தேதி(" TIME_NOW "))"},
     {"நேரம்", kOptional, "std::any(fn_நேரம்(std::any_cast<std::tm*>(A)))",
-     withoutLine("'நேரம்' 0 அல்லது 1 argument-ஐ மட்டுமே ஏற்கும்."),
-     "std::any(fn_நேரம்(" TIME_NOW "))"},
+     withoutLine("'நேரம்' 0 அல்லது 1 argument-ஐ மட்டுமே ஏற்கும்."), "std::any(fn_நேரம்(" TIME_NOW "))"},
     {"முழுவதும்", kOptional, "std::any(fn_முழுவதும்(std::any_cast<std::tm*>(A)))",
      withoutLine("'முழுவதும்' 0 அல்லது 1 argument-ஐ மட்டுமே ஏற்கும்."),
      "std::any(fn_முழுவதும்(" TIME_NOW "))"},
@@ -149,8 +145,8 @@ bool Generator::writeBuiltin(const CallExpression& call, const std::string& name
         }
         if (name == "வை" && !isStorable(call.arguments[0].get())) {
             பிழை("பொழில்-313", call.line,
-                "('வை' செயலின் முதல் மதிப்பு ஒரு மாறி, பட்டியல் உறுப்பு அல்லது பொருள் பண்பாக "
-                "இருக்க வேண்டும்.)");
+                 "('வை' செயலின் முதல் மதிப்பு ஒரு மாறி, பட்டியல் உறுப்பு அல்லது பொருள் பண்பாக "
+                 "இருக்க வேண்டும்.)");
         }
         writeFilled(count == 0 && row.bareText != nullptr ? row.bareText : row.text, call);
         return true;

@@ -14,8 +14,7 @@ struct InputCallRow {
 const InputCallRow kInputCalls[] = {
     {"பிழைசெய்தி", "g_inputErrors[\"ID\"] = fn_any_to_string(A)"},
     {"பிழை_அழி", "g_inputErrors.erase(\"ID\")"},
-    {"கொண்டுள்ளது",
-     "std::any(g_inputValues[\"ID\"].find(fn_any_to_string(A)) != std::string::npos)"},
+    {"கொண்டுள்ளது", "std::any(g_inputValues[\"ID\"].find(fn_any_to_string(A)) != std::string::npos)"},
     {"தொடக்கம்", "std::any(g_inputValues[\"ID\"].find(fn_any_to_string(A)) == 0)"},
     {"முடிவு",
      "([&]() -> std::any { std::string s = g_inputValues[\"ID\"]; std::string sub = "
@@ -137,8 +136,8 @@ void Generator::writeUserCall(const CallExpression& call, const std::string& nam
     const std::vector<Param>& parameters = functionParameters.at(name);
     if (call.arguments.size() != parameters.size()) {
         பிழை("பொழில்-331", call.line,
-            "'" + name + "' " + std::to_string(parameters.size()) + " உள்ளீடுகளை ஏற்கும், ஆனால் " +
-                std::to_string(call.arguments.size()) + " கொடுக்கப்பட்டுள்ளது.");
+             "'" + name + "' " + std::to_string(parameters.size()) + " உள்ளீடுகளை ஏற்கும், ஆனால் " +
+                 std::to_string(call.arguments.size()) + " கொடுக்கப்பட்டுள்ளது.");
     }
     out << "(g_current_call_line = " << call.line << ", fn_" << name << "(";
     for (std::size_t i = 0; i < parameters.size(); i++) {
@@ -151,7 +150,7 @@ void Generator::writeUserCall(const CallExpression& call, const std::string& nam
         const auto* variable = dynamic_cast<const VariableAccess*>(argument);
         if (variable == nullptr) {
             பிழை("பொழில்-331", call.line,
-                "'மாற்று' parameter-க்கு ஒரு மாறி (Variable)-ஐ மட்டும் தான் அனுப்ப முடியும்.");
+                 "'மாற்று' parameter-க்கு ஒரு மாறி (Variable)-ஐ மட்டும் தான் அனுப்ப முடியும்.");
         }
         out << "global_vars.at(\"" << variable->name << "\")";
     }

@@ -122,8 +122,9 @@ void Generator::writeCollectionLoop(const ForStatement& loop) {
     writeLoopBody(variable, (variable + "_any").c_str(), loop);
     closeBrace(" else if (_iterable.type() == typeid(std::map<std::string, std::any>)) {\n");
     indentLevel++;
-    openBrace("for (const auto& pair : "
-              "std::any_cast<const std::map<std::string, std::any>&>(_iterable)) ");
+    openBrace(
+        "for (const auto& pair : "
+        "std::any_cast<const std::map<std::string, std::any>&>(_iterable)) ");
     writeLoopBody(variable, "std::any(pair.first)", loop);
     closeBrace(" else {\n");
     indentLevel++;
@@ -181,8 +182,7 @@ void Generator::visitTryCatchStatement(const TryCatchStatement* statement) {
     closeBrace(" catch (const std::exception& e) {\n");
     indentLevel++;
     indent();
-    out << "global_vars[\"" << statement->errorName
-        << "\"] = std::any(std::string(e.what()));\n";
+    out << "global_vars[\"" << statement->errorName << "\"] = std::any(std::string(e.what()));\n";
     visitBlockStatement(statement->catchBlock.get());
     closeBrace();
 }

@@ -67,8 +67,7 @@ void Generator::writeStatementConstructor(const std::string& name, const CallExp
         }
         out << ");\n";
     } else if (!call.arguments.empty()) {
-        பிழை("பொழில்-333", call.line,
-            "'" + structName + "' கட்டமைப்பில் 'துவக்கம்()' வரையறுக்கப்படவில்லை.");
+        பிழை("பொழில்-333", call.line, "'" + structName + "' கட்டமைப்பில் 'துவக்கம்()' வரையறுக்கப்படவில்லை.");
     }
     indent();
     out << (currentFunction.empty() ? "global_vars[\"" + name + "\"]" : name) << " = std::any("
@@ -78,7 +77,8 @@ void Generator::writeStatementConstructor(const std::string& name, const CallExp
 /// அ[0] = 1 and அ.ஆ = 1 as statements. Any other target writes nothing.
 void Generator::visitSetStatement(const SetStatement* statement) {
     if (const auto* element = dynamic_cast<const IndexExpression*>(statement->target.get())) {
-        // File and line are left to their defaults: a failure shows an empty name and line 0. Meant.
+        // File and line are left to their defaults: a failure shows an empty name and line 0.
+        // Meant.
         out << "fn_index_ref(";
         visitExpression(element->object.get());
         out << ", ";

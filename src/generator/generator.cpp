@@ -9,12 +9,11 @@
 #include "error_codes.h"
 #include "error_handler.h"
 
-Generator::Generator(const Program& program,
-                     const std::map<std::string, std::vector<Param>>& functionParameters,
-                     const std::map<std::string, StructDefinitionStatement*>& structDefinitions,
-                     const std::map<std::string, AbstractStructDefinitionStatement*>&
-                         abstractStructDefinitions,
-                     const std::string& sourceText, const std::string& filename)
+Generator::Generator(
+    const Program& program, const std::map<std::string, std::vector<Param>>& functionParameters,
+    const std::map<std::string, StructDefinitionStatement*>& structDefinitions,
+    const std::map<std::string, AbstractStructDefinitionStatement*>& abstractStructDefinitions,
+    const std::string& sourceText, const std::string& filename)
     : program(program),
       structDefinitions(structDefinitions),
       abstractStructDefinitions(abstractStructDefinitions),

@@ -23,12 +23,11 @@ class Generator {
 public:
     /// Keeps a reference to `program`, which must outlive the generator; all else is copied. The
     /// tables are the parser's. `filename` is the path as the user gave it: it goes into the text.
-    Generator(const Program& program,
-              const std::map<std::string, std::vector<Param>>& functionParameters,
-              const std::map<std::string, StructDefinitionStatement*>& structDefinitions,
-              const std::map<std::string, AbstractStructDefinitionStatement*>&
-                  abstractStructDefinitions,
-              const std::string& sourceText, const std::string& filename);
+    Generator(
+        const Program& program, const std::map<std::string, std::vector<Param>>& functionParameters,
+        const std::map<std::string, StructDefinitionStatement*>& structDefinitions,
+        const std::map<std::string, AbstractStructDefinitionStatement*>& abstractStructDefinitions,
+        const std::string& sourceText, const std::string& filename);
 
     /// The whole translation. Called once. Throws std::runtime_error by throw_static_error, and
     /// lets the exceptions of number conversion through.

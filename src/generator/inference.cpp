@@ -13,15 +13,15 @@ struct ResultRow {
 
 // Results of the built-in calls whose kind doesn't depend on their arguments.
 const ResultRow kResults[] = {
-    {"உள்ளீடு", VarType::String},       {"நீளம்", VarType::Integer},
-    {"எடு", VarType::Dynamic},          {"வர்க்கமூலம்", VarType::Decimal},
+    {"உள்ளீடு", VarType::String},        {"நீளம்", VarType::Integer},
+    {"எடு", VarType::Dynamic},         {"வர்க்கமூலம்", VarType::Decimal},
     {"அடுக்கு", VarType::Decimal},      {"சைன்", VarType::Decimal},
     {"காஸ்", VarType::Decimal},         {"டேன்", VarType::Decimal},
     {"மடக்கு", VarType::Decimal},       {"மேல்எண்", VarType::Integer},
-    {"கீழ்எண்", VarType::Integer},      {"இப்போதுநேரம்", VarType::Time},
+    {"கீழ்எண்", VarType::Integer},        {"இப்போதுநேரம்", VarType::Time},
     {"வரம்பு", VarType::Dynamic},       {"பிளவு", VarType::List},
     {"பதில்", VarType::String},         {"பெரியஎ", VarType::String},
-    {"சிறியஎ", VarType::String},        {"கோப்பு_படி", VarType::String},
+    {"சிறியஎ", VarType::String},       {"கோப்பு_படி", VarType::String},
     {"கோப்பு_உள்ளதா", VarType::Boolean}, {"கோப்பு_அழி", VarType::Boolean},
 };
 

@@ -102,9 +102,9 @@ void Generator::writeConstructor(const CallExpression& call, const std::string& 
     std::string owner;
     for (auto at = structDefinitions.find(structName); at != structDefinitions.end();) {
         const StructDefinitionStatement& candidate = *at->second;
-        const bool found = std::any_of(
-            candidate.methods.begin(), candidate.methods.end(),
-            [](const auto& method) { return method->name.text == "துவக்கம்"; });
+        const bool found =
+            std::any_of(candidate.methods.begin(), candidate.methods.end(),
+                        [](const auto& method) { return method->name.text == "துவக்கம்"; });
         if (found) owner = at->first;
         if (found || !candidate.hasParent) break;
         at = structDefinitions.find(candidate.parentName.text);
@@ -118,8 +118,7 @@ void Generator::writeConstructor(const CallExpression& call, const std::string& 
         }
         out << ");\n";
     } else if (!call.arguments.empty()) {
-        பிழை("பொழில்-333", call.line,
-            "'" + structName + "' கட்டமைப்பில் 'துவக்கம்()' வரையறுக்கப்படவில்லை.");
+        பிழை("பொழில்-333", call.line, "'" + structName + "' கட்டமைப்பில் 'துவக்கம்()' வரையறுக்கப்படவில்லை.");
     }
     indent();
     out << "return std::any(" << instance << ");\n";

@@ -22,10 +22,10 @@ struct SymbolRow {
 };
 
 const SymbolRow kSymbols[] = {
-    {'(', TokenType::LEFT_PAREN},    {')', TokenType::RIGHT_PAREN},  {':', TokenType::COLON},
-    {'?', TokenType::QUESTION},      {';', TokenType::NEWLINE},      {',', TokenType::COMMA},
-    {'.', TokenType::DOT},           {'[', TokenType::LEFT_BRACKET}, {']', TokenType::RIGHT_BRACKET},
-    {'{', TokenType::LEFT_BRACE},    {'}', TokenType::RIGHT_BRACE},  {'*', TokenType::STAR},
+    {'(', TokenType::LEFT_PAREN}, {')', TokenType::RIGHT_PAREN},  {':', TokenType::COLON},
+    {'?', TokenType::QUESTION},   {';', TokenType::NEWLINE},      {',', TokenType::COMMA},
+    {'.', TokenType::DOT},        {'[', TokenType::LEFT_BRACKET}, {']', TokenType::RIGHT_BRACKET},
+    {'{', TokenType::LEFT_BRACE}, {'}', TokenType::RIGHT_BRACE},  {'*', TokenType::STAR},
 };
 
 }  // namespace

@@ -44,9 +44,9 @@ public:
     std::string filename;
     int position = 0;  ///< Byte offset of the cursor.
     int lineNumber = 1;
-    std::string currentLine;            ///< The logical line's text, for reports.
+    std::string currentLine;             ///< The logical line's text, for reports.
     std::vector<int> indentStack = {0};  ///< Widths of the open blocks.
-    int lineStart = 0;                  ///< Byte offset where the logical line began.
+    int lineStart = 0;                   ///< Byte offset where the logical line began.
     bool atLineStart = true;
 
 private:

@@ -54,9 +54,7 @@ void Lexer::checkIndentationMatches(int indent) {
 
 void Lexer::refuseGluedToWesternNumber() { பிழை(atTamilDigit() ? "பொழில்-109" : "பொழில்-108"); }
 
-void Lexer::refuseGluedToTamilNumber() {
-    பிழை(isAsciiDigit(peek()) ? "பொழில்-109" : "பொழில்-108");
-}
+void Lexer::refuseGluedToTamilNumber() { பிழை(isAsciiDigit(peek()) ? "பொழில்-109" : "பொழில்-108"); }
 
 /// U+200C to U+200F at the cursor: joiners and direction marks. U+200B and U+FEFF pass. Meant.
 void Lexer::checkInvisibleMark() {

@@ -12,9 +12,9 @@ using CodePoints = std::vector<std::string_view>;
 
 /// The words that the typo check knows: deliberately far fewer than the word tables.
 const char* const kSpelledWords[] = {
-    "அச்சிடு", "சுற்று",  "எனில்", "இல்லைஎனில்", "இல்லை",    "செயல்",  "திரும்பு",
-    "ஒவ்வொன்றாக", "தேர்வு", "நிலை",  "மற்றவை",   "கட்டமைப்பு", "வடிவமைப்பு", "முயற்சி",
-    "பிடி",    "வலைதளம்", "தலைமை", "குமரி",     "வரையறை",
+    "அச்சிடு",   "சுற்று",  "எனில்",  "இல்லைஎனில்", "இல்லை",     "செயல்",      "திரும்பு",
+    "ஒவ்வொன்றாக", "தேர்வு",  "நிலை",  "மற்றவை",    "கட்டமைப்பு", "வடிவமைப்பு", "முயற்சி",
+    "பிடி",     "வலைதளம்", "தலைமை", "குமரி",    "வரையறை",
 };
 
 /// Words of up to three code points are free, whatever they look like.
@@ -51,8 +51,7 @@ void Lexer::checkKeywordSpacing(const std::string& word) {
     }
     if (at == start) return;
     const auto from = static_cast<std::size_t>(start);
-    const std::string joined =
-        word + source.substr(from, static_cast<std::size_t>(at) - from);
+    const std::string joined = word + source.substr(from, static_cast<std::size_t>(at) - from);
     if (lookupKeyword(joined) != TokenType::IDENTIFIER) பிழை("பொழில்-112");
 }
 

@@ -162,16 +162,11 @@ const std::unordered_map<std::string, TokenType> OPERATOR_KEYWORDS = {
 };
 
 const std::unordered_map<std::string, TokenType> ASSIGN_KEYWORDS = {
-    {"கூட்டிசேர்", TokenType::ASSIGN_OPERATOR},
-    {"கழிசேர்", TokenType::ASSIGN_OPERATOR},
-    {"பெருக்குசேர்", TokenType::ASSIGN_OPERATOR},
-    {"வகுசேர்", TokenType::ASSIGN_OPERATOR},
-    {"மீதிசேர்", TokenType::ASSIGN_OPERATOR},
-    {"பெஇசேர்", TokenType::ASSIGN_OPERATOR},
-    {"கூட்டுஇசேர்", TokenType::ASSIGN_OPERATOR},
-    {"வேஇசேர்", TokenType::ASSIGN_OPERATOR},
-    {"இடதுஇசேர்", TokenType::ASSIGN_OPERATOR},
-    {"வலதுஇசேர்", TokenType::ASSIGN_OPERATOR},
+    {"கூட்டிசேர்", TokenType::ASSIGN_OPERATOR},   {"கழிசேர்", TokenType::ASSIGN_OPERATOR},
+    {"பெருக்குசேர்", TokenType::ASSIGN_OPERATOR}, {"வகுசேர்", TokenType::ASSIGN_OPERATOR},
+    {"மீதிசேர்", TokenType::ASSIGN_OPERATOR},     {"பெஇசேர்", TokenType::ASSIGN_OPERATOR},
+    {"கூட்டுஇசேர்", TokenType::ASSIGN_OPERATOR},  {"வேஇசேர்", TokenType::ASSIGN_OPERATOR},
+    {"இடதுஇசேர்", TokenType::ASSIGN_OPERATOR},   {"வலதுஇசேர்", TokenType::ASSIGN_OPERATOR},
 };
 
 // Shadowed by OPERATOR_KEYWORDS, so these two kinds never reach the parser. Meant.

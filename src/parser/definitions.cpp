@@ -10,8 +10,8 @@ std::vector<Param> Parser::parseParameters(int line) {
     if (!check(TokenType::RIGHT_PAREN)) {
         do {
             skipNewlines();
-            const bool isMutable = checkKeyword("மாற்று") || (check(TokenType::IDENTIFIER) &&
-                                                             peek().text == "மாற்று");
+            const bool isMutable =
+                checkKeyword("மாற்று") || (check(TokenType::IDENTIFIER) && peek().text == "மாற்று");
             if (isMutable) advance();
             parameters.push_back({expectName("பொழில்-232"), isMutable});
         } while (takeComma());

@@ -3,7 +3,7 @@
 #include <pthread.h>
 
 namespace {
-constexpr std::size_t kReserveBytes = 512 * 1024;
+constexpr std::size_t kReserveBytes = std::size_t{512} * 1024;
 }
 
 StackBounds::StackBounds() {

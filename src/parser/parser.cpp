@@ -39,8 +39,7 @@ Program Parser::parse() {
     }
 
     auto& hoisted = hoistedStatements;
-    program.statements.insert(program.statements.begin(),
-                              std::make_move_iterator(hoisted.begin()),
+    program.statements.insert(program.statements.begin(), std::make_move_iterator(hoisted.begin()),
                               std::make_move_iterator(hoisted.end()));
     hoisted.clear();
     return program;

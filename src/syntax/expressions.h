@@ -52,8 +52,7 @@ struct BinaryExpression : Expression {
 
 /// மற்றும், அல்லது
 struct LogicalExpression : Expression {
-    LogicalExpression(std::unique_ptr<Expression> left, Token op,
-                      std::unique_ptr<Expression> right)
+    LogicalExpression(std::unique_ptr<Expression> left, Token op, std::unique_ptr<Expression> right)
         : left(std::move(left)), op(std::move(op)), right(std::move(right)) {}
     std::unique_ptr<Expression> left;
     Token op;

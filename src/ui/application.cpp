@@ -112,7 +112,8 @@ void Generator::writePageImage(const Expression* value) {
     writeLine("bgImgHandle = nvgCreateImage(vg, bgPath.c_str(), 0);");
     closeBrace();
     openBrace("if (bgImgHandle > 0) ");
-    writeLine("nvgFillPaint(vg, nvgImagePattern(vg, 0, 0, winWidth, winHeight, 0, bgImgHandle, 1.0f));");
+    writeLine(
+        "nvgFillPaint(vg, nvgImagePattern(vg, 0, 0, winWidth, winHeight, 0, bgImgHandle, 1.0f));");
     writeLine("nvgFill(vg);");
     writeLine("bgSet = true;");
     closeBrace();
@@ -125,7 +126,7 @@ void Generator::writePageVideo(const Expression* value) {
     if (const auto* path = dynamic_cast<const StringLiteral*>(value)) {
         if (!std::ifstream(std::filesystem::u8path(path->value)).is_open()) {
             பிழை("பொழில்-254", path->line,
-                "ஊடகப் பிழை: காணொளியின் முகவரி சரியாக இல்லை (" + path->value);
+                 "ஊடகப் பிழை: காணொளியின் முகவரி சரியாக இல்லை (" + path->value);
         }
     }
     openBrace("");

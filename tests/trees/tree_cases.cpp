@@ -15,8 +15,8 @@ void runTreeCase(const CaseFile& file) {
     try {
         const Parsed parsed = parse(text, source.filename().u8string());
         const std::string tables = printTables(*parsed.parser);
-        expectGolden(file, printTree(parsed.program) +
-                               (tables.empty() ? "" : "-- tables\n" + tables));
+        expectGolden(file,
+                     printTree(parsed.program) + (tables.empty() ? "" : "-- tables\n" + tables));
     } catch (const Refusal& refusal) {
         ADD_FAILURE() << file.source << " is refused with " << refusal.code << " at line "
                       << refusal.line;

@@ -62,7 +62,8 @@ VarType kindOfTree(const std::string& expression) {
     const Parsed parsed = parse("விடை_மாறி = " + expression + "\n");
     const auto& statement = dynamic_cast<ExpressionStatement&>(*parsed.program.statements.at(0));
     const auto& assignment = dynamic_cast<AssignmentExpression&>(*statement.expression);
-    return Generator(parsed.program, {}, {}, {}, "", "").inferExpressionType(assignment.value.get());
+    return Generator(parsed.program, {}, {}, {}, "", "")
+        .inferExpressionType(assignment.value.get());
 }
 
 TEST(Inference, MembersThatAreCalled) {
@@ -118,7 +119,8 @@ TEST(Inference, WhatHidesAKind) {
     EXPECT_EQ(kindOf("குறை 1"), VarType::Dynamic);
     EXPECT_EQ(kindOf("அ[0]"), VarType::Dynamic);
     Program program;
-    EXPECT_EQ(Generator(program, {}, {}, {}, "", "").inferExpressionType(nullptr), VarType::Dynamic);
+    EXPECT_EQ(Generator(program, {}, {}, {}, "", "").inferExpressionType(nullptr),
+              VarType::Dynamic);
 }
 
 }  // namespace

@@ -57,8 +57,7 @@ INSTANTIATE_TEST_SUITE_P(Operators, Reports, testing::ValuesIn(kOperatorRows));
 const ReportRow kAccessRows[] = {
     {"அச்சிடு(தான்)\n", "பொழில்-325", 1, ""},
     {"அ = self\n", "பொழில்-325", 1, ""},
-    {"அ = 1\nஅச்சிடு(அ.பெயர்)\n", "பொழில்-304", 2,
-     "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது."},
+    {"அ = 1\nஅச்சிடு(அ.பெயர்)\n", "பொழில்-304", 2, "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது."},
     {"செயல் சே(அ):\n    திரும்பு அ.பெயர்\n", "பொழில்-304", 2,
      "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது."},
     {"நே = இப்போதுநேரம்()\nஅச்சிடு(நே.நூற்றாண்டு)\n", "பொழில்-304", 2,
@@ -77,8 +76,7 @@ const ReportRow kCallRows[] = {
      "'கூடு' 2 உள்ளீடுகளை ஏற்கும், ஆனால் 1 கொடுக்கப்பட்டுள்ளது."},
     {"செயல் மாறு(மாற்று அ):\n    விடு\nமாறு(x கூட்டு 1)\n", "பொழில்-331", 3,
      "'மாற்று' parameter-க்கு ஒரு மாறி (Variable)-ஐ மட்டும் தான் அனுப்ப முடியும்."},
-    {"அச்சிடு(என்னவகை())\n", "பொழில்-331", 1,
-     "('என்னவகை' செயலுக்கு ஒரு மதிப்பு மட்டுமே தர வேண்டும்)"},
+    {"அச்சிடு(என்னவகை())\n", "பொழில்-331", 1, "('என்னவகை' செயலுக்கு ஒரு மதிப்பு மட்டுமே தர வேண்டும்)"},
     {"அச்சிடு(எண்())\n", "பொழில்-331", 1, ""},
     {"வை(அ, 1)\n", "பொழில்-331", 1,
      "('வை' செயலுக்கு 3 மதிப்புகள் தேவை: பட்டியல்/அகராதி, குறியீடு/சாவி, மதிப்பு)"},
@@ -114,8 +112,8 @@ TEST(StructureReports, PrivateFieldThroughAnyOtherVariable) {
     const std::string write = std::string(kAccount) + "க = கணக்கு()\nக.இருப்பு = 1\n";
     EXPECT_TRUE(refuses("பொழில்-321", 6, [&] { generate(write); }));
     // Also if the private one is another structure's.
-    const std::string other = std::string(kAccount) +
-                              "கட்டமைப்பு பணம்:\n    இருப்பு = 1\nப = பணம்()\nஅச்சிடு(ப.இருப்பு)\n";
+    const std::string other =
+        std::string(kAccount) + "கட்டமைப்பு பணம்:\n    இருப்பு = 1\nப = பணம்()\nஅச்சிடு(ப.இருப்பு)\n";
     EXPECT_TRUE(refuses("பொழில்-321", 8, [&] { generate(other); }));
 }
 
@@ -158,8 +156,8 @@ class StaticRefusals : public testing::TestWithParam<StaticRow> {};
 TEST_P(StaticRefusals, TextWithoutALine) {
     const StaticRow& row = GetParam();
     const பிழைதகவல்& entry = பிழை_அகராதி.at(row.code);
-    const std::string text = std::string(row.code) + ": " + entry.விளக்கம் + " - " + entry.தீர்வு +
-                             " (" + row.detail + ")";
+    const std::string text =
+        std::string(row.code) + ": " + entry.விளக்கம் + " - " + entry.தீர்வு + " (" + row.detail + ")";
     try {
         generate(row.source);
         FAIL() << row.source << "\nis not refused";
