@@ -1,10 +1,12 @@
 // Keys for inputs that the canvas draws itself. The caret counts bytes.
+// clang-format off
 
 #ifdef __EMSCRIPTEN__
 EM_BOOL key_callback(int eventType, const EmscriptenKeyboardEvent* e, void* userData) {
     (void)userData;
-    int inHtmlInput = EM_ASM_INT(
-        { return document.activeElement && document.activeElement.tagName == = 'INPUT' ? 1 : 0; });
+    int inHtmlInput = EM_ASM_INT({
+        return document.activeElement && document.activeElement.tagName === 'INPUT' ? 1 : 0;
+    });
     if (inHtmlInput) return EM_FALSE;
     if (g_focusedInput.empty()) return EM_FALSE;
 
