@@ -72,7 +72,9 @@ NativeProgram::NativeProgram(const std::string& name, const std::string& sourceP
     fs::create_directories(fs::u8path(runDirectory()));
     const fs::path source = fs::u8path(sourcePath);
     fs::copy_file(source, fs::u8path(runDirectory()) / source.filename());
-    std::ofstream(fs::u8path(folder + "generated.cpp")) << generateFile(sourcePath);
+    const std::string text = generateFile(sourcePath);
+    makesObjects = text.find("std::make_shared<") != std::string::npos;
+    std::ofstream(fs::u8path(folder + "generated.cpp")) << text;
 }
 
 ProcessResult NativeProgram::compile() const {
@@ -96,14 +98,18 @@ ProcessResult NativeProgram::checkSyntax() const {
     return runCommand(command, options);
 }
 
-ProcessResult NativeProgram::run(const std::string& input) const {
+ProcessResult NativeProgram::run(const std::string& input,
+                                 const std::vector<std::string>& wrapper) const {
+    std::vector<std::string> command = wrapper;
+    command.push_back(folder + "program");
     ProcessOptions options;
     options.input = input;
     options.directory = runDirectory();
     // An object with a method owns itself and lives to the end of its program: a leak that is
-    // meant. Nothing else is looked away from.
-    options.environment = {"ASAN_OPTIONS=detect_leaks=0", "UBSAN_OPTIONS=print_stacktrace=1"};
-    return runCommand({folder + "program"}, options);
+    // meant. Programs without objects must free all they take.
+    options.environment = {makesObjects ? "ASAN_OPTIONS=detect_leaks=0"
+                                        : "ASAN_OPTIONS=detect_leaks=1"};
+    return runCommand(command, options);
 }
 
 void expectProgram(const CaseFile& file, Build build) {

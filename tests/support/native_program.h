@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "support/case_files.h"
 #include "support/subprocess.h"
@@ -28,7 +29,9 @@ public:
     ProcessResult compile() const;
     /// What g++ says of the generated text, without making an executable.
     ProcessResult checkSyntax() const;
-    ProcessResult run(const std::string& input = "") const;
+    /// With a `wrapper`, the command that starts the program, whose path is its last argument.
+    ProcessResult run(const std::string& input = "",
+                      const std::vector<std::string>& wrapper = {}) const;
 
     /// The working directory, with a slash at its end.
     std::string runDirectory() const { return folder + "run/"; }
@@ -36,6 +39,7 @@ public:
 private:
     std::string folder;
     Build build;
+    bool makesObjects = false;
 };
 
 /// Builds and runs the case and compares what it prints with its expectation, each report's saying
