@@ -112,6 +112,8 @@ ProcessResult NativeProgram::run(const std::string& input,
     return runCommand(command, options);
 }
 
+void NativeProgram::removeExecutable() const { fs::remove(fs::u8path(folder + "program")); }
+
 void expectProgram(const CaseFile& file, Build build) {
     const NativeProgram program(file.name, file.source, build);
     const ProcessResult built = program.compile();
@@ -122,4 +124,5 @@ void expectProgram(const CaseFile& file, Build build) {
     EXPECT_EQ(statusAsAShellTells(ran), std::stoi(readOptional(besides(file, ".status"), "0")));
     EXPECT_EQ(ran.err, readOptional(besides(file, ".err"), ""));
     expectGolden(file, maskSaying(ran.out));
+    if (!testing::Test::HasFailure()) program.removeExecutable();
 }

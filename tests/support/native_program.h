@@ -33,6 +33,9 @@ public:
     ProcessResult run(const std::string& input = "",
                       const std::vector<std::string>& wrapper = {}) const;
 
+    /// Removes the executable, the one large file of the folder.
+    void removeExecutable() const;
+
     /// The working directory, with a slash at its end.
     std::string runDirectory() const { return folder + "run/"; }
 
