@@ -27,8 +27,8 @@ Codes codesOf(const std::string& raiser) {
 }
 
 const std::map<std::string, std::string> kWithoutReport = {
-    {"254", "applications only"},     {"323", "the parser refuses an unknown parent first"},
-    {"332", "thrown without a line"}, {"362", "applications only"},
+    {"323", "the parser refuses an unknown parent first"},
+    {"332", "thrown without a line"},
     {"399", "thrown without a line"},
 };
 
