@@ -106,6 +106,9 @@ public:
     void generateWebBoilerplate(const ScreenConfig& screen);
     void visitWebAppNode(const WebAppNode* app);
     void generateUI(const Statement* statement);
+    /// Title, clear colour and a check of the files that a head names. No pass calls it: each page
+    /// writes its own head.
+    void generateHeader(const Statement* statement);
     void visitWidgetNode(const WidgetNode* widget);
     void genTextWidget(const WidgetNode* widget);
     void genButtonWidget(const WidgetNode* widget);
@@ -162,6 +165,7 @@ private:
     ScreenConfig windowSize() const;
     std::string windowTitle() const;
     void writeLine(const std::string& text);
+    void checkMediaFile(const Expression* value, const std::string& detail);
     void writePageColour(const Expression* value);
     void writePageImage(const Expression* value);
     void writePageVideo(const Expression* value);

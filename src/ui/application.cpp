@@ -120,15 +120,16 @@ void Generator::writePageImage(const Expression* value) {
     closeBrace();
 }
 
-/// Raises 254 for a literal path that doesn't open.
+/// Raises 254 for a literal path that doesn't open; any other value is left to the run.
+void Generator::checkMediaFile(const Expression* value, const std::string& detail) {
+    const auto* path = dynamic_cast<const StringLiteral*>(value);
+    if (path == nullptr || std::ifstream(std::filesystem::u8path(path->value)).is_open()) return;
+    பிழை("பொழில்-254", path->line, detail + path->value);
+}
+
 void Generator::writePageVideo(const Expression* value) {
     if (value == nullptr) return;
-    if (const auto* path = dynamic_cast<const StringLiteral*>(value)) {
-        if (!std::ifstream(std::filesystem::u8path(path->value)).is_open()) {
-            பிழை("பொழில்-254", path->line,
-                 "ஊடகப் பிழை: காணொளியின் முகவரி சரியாக இல்லை (" + path->value);
-        }
-    }
+    checkMediaFile(value, "ஊடகப் பிழை: காணொளியின் முகவரி சரியாக இல்லை (");
     openBrace("");
     indent();
     out << "std::string videoPath = fn_any_to_string(";
@@ -147,6 +148,24 @@ void Generator::writePageTitle(const Expression* value) {
     out << "emscripten::val::global(\"document\").set(\"title\", fn_any_to_string(";
     visitExpression(value);
     out << "));\n";
+}
+
+void Generator::generateHeader(const Statement* statement) {
+    const auto* header = dynamic_cast<const WidgetNode*>(statement);
+    if (header == nullptr) return;
+    const auto* title = dynamic_cast<const StringLiteral*>(property(header, "இணைய_தலைப்பு"));
+    writeLine("emscripten::val::global(\"document\").set(\"title\", std::string(u8\"" +
+              (title == nullptr ? "பொழில் தளம்" : title->value) + "\"));");
+    const auto* colour = dynamic_cast<const ColorExpression*>(property(header, "பின்னணி"));
+    if (colour != nullptr) {
+        const PozhilColor c =
+            parsePozhilColor(colour->isHex ? colour->hexValue : colour->colorName, colour->isHex);
+        writeLine("glClearColor(" + to_fstr(c.r) + ", " + to_fstr(c.g) + ", " + to_fstr(c.b) +
+                  ", " + to_fstr(c.a) + ");");
+    }
+    for (const char* key : {"சின்னம்", "பின்னணிபடம்", "பின்னணிகாணொளி"}) {
+        checkMediaFile(property(header, key), "ஊடகப் பிழை: முகவரி சரியாக இல்லை (");
+    }
 }
 
 void Generator::generateUI(const Statement* statement) {

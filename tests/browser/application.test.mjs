@@ -65,6 +65,64 @@ test('a save reloads the page', async () => {
     assert.deepEqual(ownProblems(), []);
 });
 
+test('its text stands on the text layer', async () => {
+    const inked = await page.evaluate(() => {
+        const layer = document.getElementById('textCanvas');
+        const {data} = layer.getContext('2d').getImageData(0, 0, 300, 60);
+        return data.some((byte, index) => index % 4 === 3 && byte > 0);
+    });
+    assert.ok(inked, 'nothing is drawn where the text should be');
+});
+
+test('a change of the window\'s size needs no event of ours', async () => {
+    await page.setViewportSize({width: 900, height: 500});
+    const sizes = () => page.evaluate(() => ['canvas', 'textCanvas'].map(id => {
+        const {width, height} = document.getElementById(id).getBoundingClientRect();
+        return `${width}x${height}`;
+    }));
+    await until(async () => (await sizes()).every(size => size === '900x500'), 'both canvases to follow');
+    assert.deepEqual(ownProblems(), []);
+    await page.setViewportSize({width: 1280, height: 720});
+});
+
+test('an input that no widget drew disappears and is kept', async () => {
+    await page.evaluate(() => {
+        const input = document.createElement('input');
+        input.id = 'left_behind';
+        input.className = 'pozhil-input';
+        input.dataset.touched = '1';
+        input.value = 'உரை';
+        document.body.appendChild(input);
+    });
+    const state = () => page.evaluate(() => {
+        const input = document.getElementById('left_behind');
+        return [input.style.display, input.dataset.touched, input.value];
+    });
+    await until(async () => (await state())[0] === 'none', 'the sweep');
+    assert.deepEqual(await state(), ['none', '0', 'உரை']);
+});
+
+test('a click is a pulse that one frame takes', async () => {
+    await page.mouse.move(300, 200);
+    await page.mouse.down();
+    assert.deepEqual(await page.evaluate(() => [window.mouseX, window.mouseY, window.mouseDownState]),
+        [300, 200, 1]);
+    await until(() => page.evaluate(() => window.mouseClicked === 0), 'a frame to take the click');
+    await page.mouse.up();
+    assert.equal(await page.evaluate(() => window.mouseDownState), 0);
+    await page.mouse.wheel(3, 40);
+    await until(() => page.evaluate(() => window.wheelDelta === 40 && window.wheelDeltaX === 3), 'the wheel');
+});
+
+test('a failed build leaves the version as it was', async () => {
+    const failing = source('பிழையுள்ளது', '#E0F7FA').replace(/        செயல் கூடு[^]*புதுப்பி\(\)\n/,
+        '        செயல் முன்():\n            திரும்பு பின்()\n        செயல் பின்():\n            விடு\n');
+    workplace.write('நிரல்.பொழில்', failing);
+    await until(() => compiler.output.includes('(பொழில்-404)'), 'the failure', 120);
+    assert.equal(await version(), '3');
+    assert.equal(await page.title(), 'புதிய கணக்கி');
+});
+
 test('a saved syntax error ends the tool with status 1', async () => {
     workplace.write('நிரல்.பொழில்', 'வலைதளம் கணக்கி()\n');
     assert.deepEqual(await compiler.finished, {status: 1, signal: null});
