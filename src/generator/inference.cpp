@@ -1,8 +1,7 @@
 // Static kinds: what an expression holds, as far as its form and the assignments visited so far
 // tell. It is an estimate: Dynamic is accepted everywhere.
-#include <algorithm>
-
 #include "generator/generator.h"
+#include "lexer/holds.h"
 
 namespace {
 
@@ -32,11 +31,6 @@ const char* const kTruthOperators[] = {
 const char* const kTimeFields[] = {
     "ஆண்டு", "மாதம்", "நாள்", "மணி", "நிமிடம்", "வினாடி", "வாரநாள்",
 };
-
-template <typename Table>
-bool holds(const Table& table, const std::string& word) {
-    return std::find(std::begin(table), std::end(table), word) != std::end(table);
-}
 
 }  // namespace
 

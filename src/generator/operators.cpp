@@ -1,18 +1,12 @@
 // Operators. Addition, division and comparison go through the runtime; the other words are native
 // C++ over a cast that inference picks.
-#include <algorithm>
-
 #include "generator/generator.h"
+#include "lexer/holds.h"
 
 namespace {
 
 const char* const kArithmetic[] = {"கூட்டு", "கழி", "பெருக்கு", "வகு", "மீதி"};
 const char* const kComparisons[] = {"சமம்", "சமமில்லை", "பெரிது", "சிறிது", "பெரிதுசமம்", "சிறிதுசமம்"};
-
-template <typename Table>
-bool holds(const Table& table, const std::string& word) {
-    return std::find(std::begin(table), std::end(table), word) != std::end(table);
-}
 
 /// A zero as it is most often written; 00 and 0.00 are left to the run.
 bool isLiteralZero(const Expression* expression) {

@@ -7,6 +7,7 @@
 
 #include "error_codes.h"
 #include "error_handler.h"
+#include "lexer/holds.h"
 #include "parser/token_predicates.h"
 
 namespace {
@@ -62,7 +63,7 @@ bool Parser::checkKeyword(const std::string& word) {
 
 bool Parser::match(const std::vector<std::string>& words) {
     if (!check(TokenType::OPERATOR)) return false;
-    if (std::find(words.begin(), words.end(), peek().text) == words.end()) return false;
+    if (!holds(words, peek().text)) return false;
     advance();
     return true;
 }

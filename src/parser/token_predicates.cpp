@@ -1,7 +1,8 @@
 #include "parser/token_predicates.h"
 
-#include <algorithm>
 #include <string>
+
+#include "lexer/holds.h"
 
 namespace {
 
@@ -29,11 +30,6 @@ const TokenType kNameKinds[] = {
     TokenType::IDENTIFIER, TokenType::KEYWORD, TokenType::PAGE,     TokenType::WIDTH,
     TokenType::HEIGHT,     TokenType::STYLE,   TokenType::ON_PRESS, TokenType::BACKGROUND,
 };
-
-template <typename Table, typename Value>
-bool holds(const Table& table, const Value& value) {
-    return std::find(std::begin(table), std::end(table), value) != std::end(table);
-}
 
 }  // namespace
 

@@ -1,13 +1,10 @@
 // What stands between a widget's parentheses, whichever widget it is: the bracket loop, properties,
 // children, animation, press handler. Alignment and styles stand in widget_styles.cpp.
-#include <algorithm>
-
+#include "lexer/holds.h"
 #include "parser/parser.h"
 #include "parser/token_predicates.h"
 
-bool Parser::checkAny(const Kinds& kinds) {
-    return !is_at_end() && std::find(kinds.begin(), kinds.end(), peek().type) != kinds.end();
-}
+bool Parser::checkAny(const Kinds& kinds) { return !is_at_end() && holds(kinds, peek().type); }
 
 /// A word of one of these kinds with a colon behind it.
 bool Parser::checkKey(const Kinds& kinds) {
