@@ -236,6 +236,7 @@ private:
     void writeMethodBinding(const std::string& structName, const std::string& objectName,
                             const FunctionDefinitionStatement& method);
 
+    std::set<std::string> boundStructs;  ///< Structures whose members are being written.
     int collectionLoops = 0;  ///< List walks around the cursor; each doubles its body's text.
 };
 

@@ -52,6 +52,8 @@ void Generator::writeMemberComments(const StructDefinitionStatement& definition,
 }
 
 /// The parent's members first, so that the child's of the same name replace them.
+/// Raises 335 at the structure's line if a field makes the structure that it belongs to, directly
+/// or by way of others: the text would never end, and neither would the program.
 void Generator::bindPropertiesAndMethods(const std::string& structName,
                                          const std::string& objectName) {
     const auto found = structDefinitions.find(structName);
@@ -60,6 +62,9 @@ void Generator::bindPropertiesAndMethods(const std::string& structName,
         பிழை("பொழில்-323", 0, "'" + structName + "'");
     }
     const StructDefinitionStatement& definition = *found->second;
+    if (!boundStructs.insert(structName).second) {
+        பிழை("பொழில்-335", definition.name.line, "'" + structName + "'");
+    }
     if (definition.hasParent) bindPropertiesAndMethods(definition.parentName.text, objectName);
     for (const auto& field : definition.fields) {
         indent();
@@ -70,6 +75,7 @@ void Generator::bindPropertiesAndMethods(const std::string& structName,
     for (const auto& method : definition.methods) {
         writeMethodBinding(structName, objectName, *method);
     }
+    boundStructs.erase(structName);
 }
 
 /// A method as a function value that holds its instance. All parameters go by value.

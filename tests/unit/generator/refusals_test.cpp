@@ -137,6 +137,31 @@ TEST(StructureReports, UnknownParentInATreeBuiltByHand) {
     EXPECT_TRUE(refuses("பொழில்-323", 0, [&] { other.bindPropertiesAndMethods("எங்கோ", "o"); }));
 }
 
+TEST(StructureReports, FieldThatMakesItsOwnStructure) {
+    EXPECT_TRUE(refuses("பொழில்-335", 1,
+                        [] { generate("கட்டமைப்பு கணு:\n    அடுத்து = கணு()\nக = கணு()\n"); }));
+    // By way of another, which the first one's instance makes.
+    EXPECT_TRUE(refuses("பொழில்-335", 1, [] {
+        generate(
+            "கட்டமைப்பு கணு:\n    செயல் புதிது(தான்):\n        திரும்பு 1\n"
+            "    அடுத்து = கிளை()\nகட்டமைப்பு கிளை:\n    வேர் = கணு()\nக = கணு()\n");
+    }));
+}
+
+TEST(StructureReports, ParentsThatGoRoundInACircle) {
+    EXPECT_TRUE(refuses("பொழில்-335", 5, [] {
+        generate(
+            "கட்டமைப்பு அ:\n    எ = 1\nகட்டமைப்பு ஆ(அ):\n    ஏ = 1\nகட்டமைப்பு அ(ஆ):\n    ஐ = 1\n"
+            "க = அ()\n");
+    }));
+}
+
+TEST(StructureReports, FieldOfAnotherStructureAndArgumentsOfTheOwnPass) {
+    EXPECT_NO_THROW(
+        generate("கட்டமைப்பு அ:\n    எ = 1\nகட்டமைப்பு ஆ(அ):\n    ஏ = அ()\n    செயல் துவக்கம்(தான், ம):\n"
+                 "        தான்.ஏ = ம\nக = ஆ(ஆ(1))\n"));
+}
+
 TEST(ReturnKinds, WhatPasses) {
     EXPECT_NO_THROW(generate("செயல் வரி_உரை(அ):\n    திரும்பு அ\n"));
     EXPECT_NO_THROW(generate("செயல் தொகை_எண்():\n    திரும்பு 5\n"));
