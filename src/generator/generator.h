@@ -165,6 +165,9 @@ private:
     ScreenConfig windowSize() const;
     std::string windowTitle() const;
     void writeLine(const std::string& text);
+    PozhilColor colourOf(const ColorExpression& colour);
+    /// The four channels as float literals, joined by commas.
+    std::string channelTexts(const ColorExpression& colour);
     void checkMediaFile(const Expression* value, const std::string& detail);
     void writePageColour(const Expression* value);
     void writePageImage(const Expression* value);

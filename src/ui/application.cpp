@@ -91,10 +91,7 @@ void Generator::writeLine(const std::string& text) {
 void Generator::writePageColour(const Expression* value) {
     const auto* colour = dynamic_cast<const ColorExpression*>(value);
     if (colour == nullptr) return;
-    const PozhilColor c =
-        parsePozhilColor(colour->isHex ? colour->hexValue : colour->colorName, colour->isHex);
-    writeLine("nvgFillColor(vg, nvgRGBAf(" + to_fstr(c.r) + ", " + to_fstr(c.g) + ", " +
-              to_fstr(c.b) + ", " + to_fstr(c.a) + "));");
+    writeLine("nvgFillColor(vg, nvgRGBAf(" + channelTexts(*colour) + "));");
     writeLine("nvgFill(vg);");
     writeLine("bgSet = true;");
 }
@@ -158,10 +155,7 @@ void Generator::generateHeader(const Statement* statement) {
               (title == nullptr ? "பொழில் தளம்" : title->value) + "\"));");
     const auto* colour = dynamic_cast<const ColorExpression*>(property(header, "பின்னணி"));
     if (colour != nullptr) {
-        const PozhilColor c =
-            parsePozhilColor(colour->isHex ? colour->hexValue : colour->colorName, colour->isHex);
-        writeLine("glClearColor(" + to_fstr(c.r) + ", " + to_fstr(c.g) + ", " + to_fstr(c.b) +
-                  ", " + to_fstr(c.a) + ");");
+        writeLine("glClearColor(" + channelTexts(*colour) + ");");
     }
     for (const char* key : {"சின்னம்", "பின்னணிபடம்", "பின்னணிகாணொளி"}) {
         checkMediaFile(property(header, key), "ஊடகப் பிழை: முகவரி சரியாக இல்லை (");

@@ -44,10 +44,18 @@ PozhilColor Generator::parsePozhilColor(std::string value, bool isHex) {
     return {part(red), part(green), part(blue), part(alpha)};
 }
 
+PozhilColor Generator::colourOf(const ColorExpression& colour) {
+    return parsePozhilColor(colour.isHex ? colour.hexValue : colour.colorName, colour.isHex);
+}
+
+std::string Generator::channelTexts(const ColorExpression& colour) {
+    const PozhilColor c = colourOf(colour);
+    return to_fstr(c.r) + ", " + to_fstr(c.g) + ", " + to_fstr(c.b) + ", " + to_fstr(c.a);
+}
+
 /// "#ff8000"  ->  nvgRGBA(255, 128, 0, 255)
 void Generator::visitColorExpression(const ColorExpression* colour) {
-    const PozhilColor c =
-        parsePozhilColor(colour->isHex ? colour->hexValue : colour->colorName, colour->isHex);
+    const PozhilColor c = colourOf(*colour);
     out << "nvgRGBA(" << channel(c.r) << ", " << channel(c.g) << ", " << channel(c.b) << ", "
         << channel(c.a) << ")";
 }
