@@ -30,6 +30,12 @@ build() {
 # The value of a count in the head of a report in JUnit's form.
 count() { grep -o "\b$2=\"[0-9]*\"" "$1" | head -n 1 | tr -dc 0-9; }
 
+# The failed tests of a report with what they printed: the last things to read in a long log.
+failed_tests() {
+    awk '/<testcase .*status="fail"/ { on = 1 } on && n++ < 80; /<\/testcase>/ { on = 0 }' "$1" |
+        sed 's/&quot;/"/g; s/&lt;/</g; s/&gt;/>/g; s/&amp;/\&/g'
+}
+
 # run_tests NAME PRESET [CTEST OPTION...]: counts every test that ctest ran. None is a failure.
 run_tests() {
     local name=$1 report=$PWD/build/$2/tests.xml status=0 total=0 bad=0 unrun=0 unbuilt
@@ -47,7 +53,7 @@ run_tests() {
     passed=$((passed + total - bad - unrun))
     skipped=$((skipped + unrun))
     if [ "$status" -ne 0 ] || [ "$total" -eq 0 ]; then
-        failures+=("$name")
+        failures+=("$name"$'\n'"$([ ! -f "$report" ] || failed_tests "$report")")
         [ "$bad" -gt 0 ] || bad=1 # what failed was no test
     fi
     failed=$((failed + bad))
