@@ -92,6 +92,60 @@ void render_frame() {
     g_overlays.clear();
     g_inside_overlay = false;
 
+    const bool* snackbarShows = std::any_cast<bool>(&global_vars["active_sb"]);
+    if (snackbarShows && *snackbarShows) {
+        const double* startTime = std::any_cast<double>(&global_vars["sb_start_time"]);
+        const float* storedY = std::any_cast<float>(&global_vars["sb_y_pos"]);
+        const std::string* message = std::any_cast<std::string>(&global_vars["sb_msg"]);
+        double elapsed = emscripten_get_now() - (startTime ? *startTime : 0.0);
+        nvgSave(vg);
+        nvgResetScissor(vg);
+        float targetY = elapsed > 2500.0 ? -100.0f : 40.0f;
+        float currentY = storedY ? *storedY : -100.0f;
+        currentY += (targetY - currentY) * 0.25f;
+        global_vars["sb_y_pos"] = currentY;
+        if (elapsed > 2500.0 && currentY < -90.0f) {
+            global_vars["active_sb"] = false;
+        } else {
+            const char* shownText = message ? message->c_str() : "";
+            float txtW = (float)EM_ASM_DOUBLE({
+                var layer = document.getElementById('textCanvas');
+                if (!layer) return 400;
+                var ctx = layer.getContext('2d');
+                ctx.font = '400 16px "Noto Sans Tamil", Arial, sans-serif';
+                return ctx.measureText(UTF8ToString($0)).width;
+            }, shownText);
+            float barW = txtW + 80.0f;
+            if (barW < 300.0f) barW = 300.0f;
+            if (barW > winWidth - 40.0f) barW = winWidth - 40.0f;
+            float barH = 55.0f;
+            float barX = (winWidth - barW) / 2.0f;
+
+            nvgBeginPath(vg);
+            nvgRect(vg, barX - 20, currentY - 20, barW + 40, barH + 40);
+            nvgFillPaint(vg, nvgBoxGradient(vg, barX, currentY + 5, barW, barH, 12, 15,
+                                            nvgRGBA(0, 0, 0, 100), nvgRGBA(0, 0, 0, 0)));
+            nvgFill(vg);
+            int channels[3] = {50, 50, 50};
+            const char* channelNames[3] = {"sb_bg_r", "sb_bg_g", "sb_bg_b"};
+            for (int i = 0; i < 3; i++) {
+                const int* channel = std::any_cast<int>(&global_vars[channelNames[i]]);
+                if (channel) channels[i] = *channel;
+            }
+            nvgBeginPath(vg);
+            nvgRoundedRect(vg, barX, currentY, barW, barH, 12.0f);
+            nvgFillColor(vg, nvgRGBA(channels[0], channels[1], channels[2], 255));
+            nvgFill(vg);
+            EM_ASM({
+                var layer = document.getElementById('textCanvas');
+                if (layer) layer.getContext('2d').clearRect($0 - 10, $1 - 10, $2 + 20, $3 + 20);
+            }, barX, currentY, barW, barH);
+            drawFixedText(barX + barW / 2.0f, currentY + 18.0f, shownText, "#FFFFFF", 16.0f,
+                          "center");
+        }
+        nvgRestore(vg);
+    }
+
     nvgRestore(vg);
     nvgEndFrame(vg);
     EM_ASM({
