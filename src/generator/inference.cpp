@@ -6,22 +6,24 @@
 namespace {
 
 struct ResultRow {
-    const char* name;
+    const char* name;  ///< Null for the name of any structure.
     VarType kind;
 };
 
-// Results of the built-in calls whose kind doesn't depend on their arguments.
+// Results of the calls whose kind doesn't depend on their arguments, in the order of the search: a
+// structure comes before the functions of texts and files.
 const ResultRow kResults[] = {
-    {"உள்ளீடு", VarType::String},        {"நீளம்", VarType::Integer},
-    {"எடு", VarType::Dynamic},         {"வர்க்கமூலம்", VarType::Decimal},
-    {"அடுக்கு", VarType::Decimal},      {"சைன்", VarType::Decimal},
-    {"காஸ்", VarType::Decimal},         {"டேன்", VarType::Decimal},
-    {"மடக்கு", VarType::Decimal},       {"மேல்எண்", VarType::Integer},
-    {"கீழ்எண்", VarType::Integer},        {"இப்போதுநேரம்", VarType::Time},
-    {"வரம்பு", VarType::Dynamic},       {"பிளவு", VarType::List},
-    {"பதில்", VarType::String},         {"பெரியஎ", VarType::String},
-    {"சிறியஎ", VarType::String},       {"கோப்பு_படி", VarType::String},
-    {"கோப்பு_உள்ளதா", VarType::Boolean}, {"கோப்பு_அழி", VarType::Boolean},
+    {"உள்ளீடு", VarType::String},      {"நீளம்", VarType::Integer},
+    {"எடு", VarType::Dynamic},       {"வர்க்கமூலம்", VarType::Decimal},
+    {"அடுக்கு", VarType::Decimal},    {"சைன்", VarType::Decimal},
+    {"காஸ்", VarType::Decimal},       {"டேன்", VarType::Decimal},
+    {"மடக்கு", VarType::Decimal},     {"மேல்எண்", VarType::Integer},
+    {"கீழ்எண்", VarType::Integer},      {"இப்போதுநேரம்", VarType::Time},
+    {"வரம்பு", VarType::Dynamic},     {nullptr, VarType::Object},
+    {"பிளவு", VarType::List},        {"பதில்", VarType::String},
+    {"பெரியஎ", VarType::String},     {"சிறியஎ", VarType::String},
+    {"கோப்பு_படி", VarType::String},  {"கோப்பு_உள்ளதா", VarType::Boolean},
+    {"கோப்பு_அழி", VarType::Boolean},
 };
 
 const char* const kTruthOperators[] = {
@@ -66,9 +68,11 @@ VarType Generator::inferCall(const CallExpression& call) {
                                           : inferExpressionType(call.arguments[0].get());
         }
         for (const ResultRow& row : kResults) {
-            if (name == row.name) return row.kind;
+            if (row.name == nullptr ? structNames.count(name) != 0 : name == row.name) {
+                return row.kind;
+            }
         }
-        return structNames.count(name) != 0 ? VarType::Object : VarType::Dynamic;
+        return VarType::Dynamic;
     }
     if (const auto* callee = dynamic_cast<const GetExpression*>(call.callee.get())) {
         const std::string& member = callee->name.text;
