@@ -1,6 +1,8 @@
 // The parts of an application's text that no whole source leads to, and what is refused.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <stdexcept>
 
 #include "support/front_end.h"
@@ -40,6 +42,70 @@ TEST(Head, MissingFilesAreRefused) {
 TEST(Head, IsWrittenByNoPass) {
     const std::string text = generate("வலைதளம் அ(\n    தலைமை(பின்னணி: \"#FF0000\")\n" + kBody);
     EXPECT_EQ(text.find("glClearColor(1.000f"), std::string::npos);
+}
+
+/// What the browser's main asks of the window for one application after the other.
+std::string windowOf(std::vector<std::unique_ptr<Statement>> headers) {
+    Program program;
+    for (auto& header : headers) {
+        const std::string name = "தளம்" + std::to_string(program.statements.size());
+        program.statements.push_back(
+            std::make_unique<WebAppNode>(name, nullptr, std::move(header), nullptr, nullptr));
+    }
+    const std::string text = Generator(program, {}, {}, {}, "", "").generate();
+    const std::size_t at = text.find("glfwCreateWindow(");
+    return text.substr(at, text.find(';', at) - at);
+}
+
+std::unique_ptr<Statement> headerOf(const ScreenConfig& screen) {
+    return std::make_unique<HeaderNode>("தலைமை", PropertyMap(),
+                                        std::vector<std::unique_ptr<Statement>>(), screen, false);
+}
+
+TEST(Window, HasTheSizeThatTheFirstApplicationDeclares) {
+    std::vector<std::unique_ptr<Statement>> headers;
+    headers.push_back(headerOf({false, 800, 600.5F}));
+    headers.push_back(headerOf({false, 1, 2}));
+    EXPECT_EQ(windowOf(std::move(headers)),
+              "glfwCreateWindow((int)800, (int)600.5, \"தளம்0\", NULL, NULL)");
+}
+
+TEST(Window, HasTheDefaultSizeOtherwise) {
+    const std::string text = "glfwCreateWindow((int)1280, (int)720, \"தளம்0\", NULL, NULL)";
+    std::vector<std::unique_ptr<Statement>> headers;
+    headers.push_back(headerOf({true, 800, 600}));
+    EXPECT_EQ(windowOf(std::move(headers)), text) << "the flag holds, not the numbers";
+    headers.clear();
+    headers.push_back(std::make_unique<PassStatement>());
+    EXPECT_EQ(windowOf(std::move(headers)), text) << "no head";
+}
+
+TEST(PageVideo, OfAFileThatIsThere) {
+    const std::string path = POZHIL_BUILD_DIR "/page_video.mp4";
+    std::ofstream(std::filesystem::u8path(path)) << "video";
+    const std::string text =
+        generate("வலைதளம் அ(\n    தலைமை(பின்னணிகாணொளி: \"" + path + "\")\n" + kBody);
+    EXPECT_NE(text.find("        bool bgSet = false;\n"
+                        "        {\n"
+                        "            std::string videoPath = "
+                        "fn_any_to_string(std::string(u8\"" +
+                        path +
+                        "\"));\n"
+                        "            startBackgroundVideo(videoPath.c_str());\n"
+                        "        }\n"
+                        "        nvgFillColor(vg, nvgRGBA(0, 0, 0, 0));\n"
+                        "        bgSet = true;\n"
+                        "        if (!bgSet) nvgFillColor(vg, nvgRGBA(245, 245, 245, 255));\n"
+                        "        nvgFill(vg);\n"),
+              std::string::npos);
+}
+
+TEST(Application, CarriesTheRuntimeOfAConsoleProgram) {
+    const auto runtime = [](const std::string& source) {
+        const std::string text = generate(source);
+        return text.substr(0, text.find("void init_globals() {\n"));
+    };
+    EXPECT_EQ(runtime("வலைதளம் அ(\n    தலைமை()\n" + kBody), runtime(""));
 }
 
 TEST(Application, WithADatabaseIsRefusedForNow) {

@@ -66,6 +66,8 @@ const ReportRow kAccessRows[] = {
     {"அ = 1\nஅ.பெயர் = 1\n", "பொழில்-304", 2, "இந்த வகைக்குள் பண்புகளை மாற்ற முடியாது"},
     {"மாறிலி = 1\nமாறிலி = 2\n", "பொழில்-315", 2, ""},
     {"மாறிலி_எல்லை = 1\nமாறிலி_எல்லை = 2\n", "பொழில்-315", 2, ""},
+    // A list walk writes its body twice, and with it the assignment.
+    {"ஒவ்வொன்றாக இ இல் அ:\n    மாறிலி_எல்லை = 1\n", "பொழில்-315", 2, ""},
 };
 INSTANTIATE_TEST_SUITE_P(Access, Reports, testing::ValuesIn(kAccessRows));
 
