@@ -64,6 +64,23 @@ TEST(Colours, SevenDigitsReadThreeChannels) {
 
 TEST(Colours, WhatCannotBeReadStaysZero) { expectColour(colour("#ffzz00", true), 1, 0, 0, 1); }
 
+TEST(Colours, MarkMayBeCutAlready) { expectColour(colour("ff8000", true), 1, 128 / 255.0F, 0, 1); }
+
+std::string written(const std::string& value, bool isHex) {
+    const Program program;
+    Generator generator(program, {}, {}, {}, "", "");
+    const ColorExpression expression(value, isHex);
+    generator.visitExpression(&expression);
+    return generator.out.str();
+}
+
+TEST(ColourText, HoldsWholeChannelsCutDownwards) {
+    EXPECT_EQ(written("சாம்பல்", false), "nvgRGBA(127, 127, 127, 255)");
+    EXPECT_EQ(written("ஆரஞ்சு", false), "nvgRGBA(255, 164, 0, 255)");
+    EXPECT_EQ(written("#00ff0080", true), "nvgRGBA(0, 255, 0, 128)");
+    EXPECT_EQ(written("எதுவோ", false), "nvgRGBA(0, 0, 0, 255)");
+}
+
 TEST(Colours, HexWithoutMarkIsAName) { expectColour(colour("ff8000", false), 0, 0, 0, 1); }
 
 }  // namespace

@@ -43,6 +43,12 @@ TEST(GeneratedFile, HoldsItsSectionsInOrder) {
         "#define NANOSVGRAST_IMPLEMENTATION\n",
         "#include \"nanosvgrast.h\"\n",
         "#endif\n",
+        "void setupAndClearTextLayer() {\n",
+        "void drawFixedText(float x, float y, const char* text, const char* color, float fontSize,",
+        "float getTextWidth(const char* text, float fontSize) {\n",
+        "void copyToClipboard(const char* text) {\n",
+        "void setupClipboardListener() {\n",
+        "#endif\n",
         "std::map<std::string, std::any> global_vars;\n",
         " g_inputErrors;\n",
         " g_kaatchi_nilai;\n",
@@ -64,6 +70,19 @@ TEST(GeneratedFile, HoldsItsSectionsInOrder) {
         " g_inputCursorPos;\n",
         " g_focusedInput",
         " g_inputSelected;\n",
+        "#ifdef __EMSCRIPTEN__\nvoid நகர்த்து(std::string id);\n",
+        "extern \"C\" {\n",
+        "void set_input_value(const char* id, const char* val) {",
+        "void clear_input_error(const char* id) {",
+        "#endif\n",
+        "#ifdef __EMSCRIPTEN__\nEMSCRIPTEN_BINDINGS(scroll_logic)",
+        "emscripten::function(\"நகர்த்து\", &நகர்த்து);",
+        "#endif\n",
+        "#ifdef __EMSCRIPTEN__\nextern \"C\" {\n",
+        "void on_paste_text(const char* text) {\n",
+        "#endif\n",
+        "#ifdef __EMSCRIPTEN__\nEM_BOOL key_callback(",
+        "#endif\n",
         "struct _PozhilChar {",
         "struct _StructBase {",
         "#include \"error_codes.h\"\n",
@@ -129,6 +148,15 @@ TEST(GeneratedFile, HoldsItsSectionsInOrder) {
         "#include <emscripten.h>\n",
         "#define NANOVG_GLES2_IMPLEMENTATION\n",
         "#include \"nanovg_gl.h\"\n",
+        "NVGcontext* vg = NULL;\n",
+        "GLFWwindow* window = NULL;\n",
+        "float g_currentClipX = -1.0f;\n",
+        "float g_currentClipY = -1.0f;\n",
+        "float g_currentClipW = -1.0f;\n",
+        "float g_currentClipH = -1.0f;\n",
+        "bool g_isHoveringH = false;\n",
+        "bool g_nextHoveringH = false;\n",
+        "bool g_mouseClicked = false;\n",
         "#endif\n",
         "void init_globals() {\n",
         "int main() {\n",
@@ -180,8 +208,14 @@ std::string withoutPath(std::string text, const std::string& path) {
 }
 
 TEST(GeneratedFile, DependsOnThePathOnlyWhereItIsQuoted) {
-    const std::string first = generate("அச்சிடு(1)", "one/அ.பொழில்");
-    const std::string second = generate("அச்சிடு(1)", "another/place/ஆ.பொழில்");
+    const std::string source =
+        "கட்டமைப்பு கணக்கு:\n    இருப்பு = 5\n    செயல் சொல்(தான்):\n        திரும்பு தான்.இருப்பு\n"
+        "செயல் பார்(ப):\n    ஒவ்வொன்றாக இ இல் ப:\n        அச்சிடு(இ)\n"
+        "க = கணக்கு()\nக.இருப்பு = 1\nஅச்சிடு(க.சொல்())\nப = [1]\nப[0] = 2\nஅச்சிடு(ப[0])\n"
+        "ப.சேர்(3)\nநீக்கு(ப, 3)\nவை(ப, 0, 1)\nகோப்பு_எழுது(\"a\", 1)\nகோப்பு_சேர்(\"a\", 1)\n"
+        "அச்சிடு(கோப்பு_படி(\"a\"), எண்(\"1\"))\n";
+    const std::string first = generate(source, "one/அ.பொழில்");
+    const std::string second = generate(source, "another/place/ஆ.பொழில்");
     EXPECT_EQ(withoutPath(first, "\"one/அ.பொழில்\""),
               withoutPath(second, "\"another/place/ஆ.பொழில்\""));
 }
