@@ -88,7 +88,10 @@ void render_frame() {
         }) != 0;
     }
     g_inside_overlay = true;
-    for (auto& overlay : g_overlays) overlay();
+    for (size_t i = 0; i < g_overlays.size(); i++) {
+        auto overlay = g_overlays[i];
+        overlay();
+    }
     g_overlays.clear();
     g_inside_overlay = false;
 

@@ -78,6 +78,12 @@ test('an overlay hides the pointer and the wheel from the page and takes the cli
     assert.equal(overlay.clicks, 1);
 });
 
+test('what an overlay pushes is drawn in the same frame', async () => {
+    const {overlay: {pushed}} = await seen();
+    assert.ok(pushed > 0);
+    assert.equal(pushed % 100, 0);
+});
+
 test('a click under the overlay is lost to the page also later', async () => {
     await page.mouse.click(320, 200);
     await untilSeen(({page}) => page.clicks === 2, 'a click that follows');
