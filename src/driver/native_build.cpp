@@ -10,8 +10,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string inQuotes(const std::string& path) { return "\"" + path + "\""; }
-
 /// The diagnostics object that every program links. Never rebuilt while it exists, whatever the
 /// age of its source; its status isn't looked at, since the link fails without it.
 void buildReportObject(const std::string& appDirectory, const std::string& object,

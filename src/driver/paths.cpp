@@ -4,9 +4,7 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <sstream>
 
 namespace fs = std::filesystem;
 
@@ -33,21 +31,4 @@ int run_command(const std::string& command) {
     return std::system(command.c_str());
 }
 
-bool hasEnding(const std::string& text, const std::string& ending) {
-    return text.size() >= ending.size() &&
-           text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
-}
-
-bool fileExists(const std::string& name) { return fs::exists(fs::u8path(name)); }
-
-bool readFile(const std::string& path, std::string& text) {
-    const fs::path file = fs::u8path(path);
-    std::error_code ignored;
-    if (fs::is_directory(file, ignored)) return false;  // a stream opens it and reads nothing
-    std::ifstream stream(file);
-    if (!stream.is_open()) return false;
-    std::stringstream content;
-    content << stream.rdbuf();
-    text = content.str();
-    return true;
-}
+std::string inQuotes(const std::string& path) { return "\"" + path + "\""; }

@@ -1,7 +1,9 @@
-// Paths and commands of the outside world. Names are Tamil, so paths are built with u8path.
+// Paths, files and commands of the outside world.
 #pragma once
 
 #include <string>
+
+#include "files.h"  // the driver has them from here
 
 /// Directory of the running compiler, without a trailing separator.
 std::string getAppDirectory();
@@ -20,10 +22,5 @@ std::string prepareCacheDirectory();
 /// before is flushed first, so that it stands before what the command prints.
 int run_command(const std::string& command);
 
-/// True if `text` ends in `ending`, byte by byte.
-bool hasEnding(const std::string& text, const std::string& ending);
-
-bool fileExists(const std::string& name);
-
-/// The whole file `path` into `text`. False if it can't be opened for reading; a directory can't.
-bool readFile(const std::string& path, std::string& text);
+/// `path` as one word of such a command.
+std::string inQuotes(const std::string& path);

@@ -25,8 +25,6 @@ constexpr const char* kOutputFiles[] = {
     "வெளியீடு/index.data",
 };
 
-std::string inQuotes(const std::string& path) { return "\"" + path + "\""; }
-
 /// `command` for system(), with nothing printed whatever happens.
 std::string inSilentBash(const std::string& command) {
     std::string escaped;

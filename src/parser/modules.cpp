@@ -1,28 +1,18 @@
 // Modules: an import parses another source and merges what it defines into this parse. It leaves
 // no node.
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
+#include "files.h"
 #include "lexer/lexer.h"
 #include "parser/parser.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
 /// The second place where a module is looked for; set by the build.
 const char* const kLibraryDirectory = POZHIL_LIBRARY_DIR;
 
-bool endsIn(const std::string& text, const std::string& ending) {
-    return text.size() >= ending.size() &&
-           text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
-}
-
 /// The file that an import's text names.
 std::string moduleFile(std::string path) {
     if (path == "வலைதளம்") path = "தொகுப்புகள்/வலைதளம்/வலைதளம்.பொழில்";
-    if (!endsIn(path, ".pozhil") && !endsIn(path, ".பொழில்")) path += ".பொழில்";
+    if (!hasEnding(path, ".pozhil") && !hasEnding(path, ".பொழில்")) path += ".பொழில்";
     return path;
 }
 
@@ -57,15 +47,9 @@ std::unique_ptr<Statement> Parser::parseImportStatement() {
 /// The text of the first candidate that opens: as it stands, then in the library. The importing
 /// file's own directory isn't consulted. Meant.
 std::string Parser::readModule(const std::string& path, int line) {
+    std::string text;
     for (const std::string& candidate : {path, kLibraryDirectory + path}) {
-        const fs::path file = fs::u8path(candidate);
-        std::error_code ignored;
-        if (fs::is_directory(file, ignored)) continue;  // a stream opens it and reads nothing
-        std::ifstream stream(file);
-        if (!stream.is_open()) continue;
-        std::stringstream text;
-        text << stream.rdbuf();
-        return text.str();
+        if (readFile(candidate, text)) return text;
     }
     பிழை("பொழில்-281", line);
 }

@@ -1,0 +1,26 @@
+#include "files.h"
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+bool hasEnding(const std::string& text, const std::string& ending) {
+    return text.size() >= ending.size() &&
+           text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
+}
+
+bool fileExists(const std::string& name) { return fs::exists(fs::u8path(name)); }
+
+bool readFile(const std::string& path, std::string& text) {
+    const fs::path file = fs::u8path(path);
+    std::error_code ignored;
+    if (fs::is_directory(file, ignored)) return false;  // a stream opens it and reads nothing
+    std::ifstream stream(file);
+    if (!stream.is_open()) return false;
+    std::stringstream content;
+    content << stream.rdbuf();
+    text = content.str();
+    return true;
+}

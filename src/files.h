@@ -1,0 +1,13 @@
+// Files by their names, for every room that reads one. Names are Tamil, so paths are built with
+// u8path.
+#pragma once
+
+#include <string>
+
+/// True if `text` ends in `ending`, byte by byte.
+bool hasEnding(const std::string& text, const std::string& ending);
+
+bool fileExists(const std::string& name);
+
+/// The whole file `path` into `text`. False if it can't be opened for reading; a directory can't.
+bool readFile(const std::string& path, std::string& text);
