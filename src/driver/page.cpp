@@ -1,10 +1,5 @@
 #include "driver/page.h"
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <vector>
-
 #include "driver/media.h"
 #include "driver/paths.h"
 #include "syntax/application.h"
@@ -83,11 +78,10 @@ const char* iconType(const std::string& path) {
 
 /// The icon as a data address, so that the page carries it inside itself.
 std::string iconAddress(const std::string& path) {
-    if (path.empty()) return kDefaultIcon;
-    std::ifstream file(std::filesystem::u8path(path), std::ios::binary);
-    if (!file.is_open()) return kDefaultIcon;
-    const std::vector<unsigned char> bytes{std::istreambuf_iterator<char>(file), {}};
-    return std::string("data:") + iconType(path) + ";base64," + base64_encode_logo(bytes);
+    std::string bytes;
+    if (path.empty() || !readFile(path, bytes)) return kDefaultIcon;
+    return std::string("data:") + iconType(path) + ";base64," +
+           base64_encode_logo({bytes.begin(), bytes.end()});
 }
 
 void insertScript(std::string& page) {

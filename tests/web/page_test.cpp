@@ -123,6 +123,8 @@ TEST_F(Page, IconTravelsInsideThePage) {
     EXPECT_EQ(icon("a.jpeg"), "data:image/jpeg;base64,YWJj");
     EXPECT_EQ(icon("a.bmp"), "data:image/png;base64,") << "any other ending";
     EXPECT_EQ(icon("இல்லை.png"), "file-icon.png");
+    std::filesystem::create_directory("folder.png");
+    EXPECT_EQ(icon("folder.png"), "file-icon.png") << "opens, but can't be read";
 }
 
 TEST_F(Page, HeadIsReadByItsThreeKeys) {
