@@ -11,7 +11,10 @@ bool hasEnding(const std::string& text, const std::string& ending) {
            text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
 }
 
-bool fileExists(const std::string& name) { return fs::exists(fs::u8path(name)); }
+bool fileExists(const std::string& name) {
+    std::error_code ignored;  // a name that no file can have names none
+    return fs::exists(fs::u8path(name), ignored);
+}
 
 bool readFile(const std::string& path, std::string& text) {
     const fs::path file = fs::u8path(path);

@@ -145,6 +145,13 @@ TEST_F(Preload, MissingFileIsPassedOverWithoutAWord) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
+TEST_F(Preload, NameThatNoFileCanHaveIsMissing) {
+    const std::string name = std::string(300, 'a') + ".png";  // longer than a name can be
+    EXPECT_EQ(flags(images({name, "b.png/c.png"})), "");
+    write("b.png", "x");
+    EXPECT_EQ(flags(images({name, "b.png/c.png", "b.png"})), " --preload-file b.png");
+}
+
 TEST_F(Preload, VideoStandsLastWhateverItsEnding) {
     write("a.png", "x");
     write("v.webm", "x");
