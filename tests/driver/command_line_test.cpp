@@ -82,6 +82,7 @@ TEST_F(CommandLine, VersionScreen) {
     expectRun({"--version"}, 0, kVersionScreen, "");
     expectRun({"--பதிப்பு"}, 0, kVersionScreen, "");
     expectRun({"-v"}, 0, kVersionScreen, "");
+    expectRun({"--வலை", "-v"}, 0, kVersionScreen, "");
 }
 
 TEST_F(CommandLine, VersionScreenOpensNoSource) {

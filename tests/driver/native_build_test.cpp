@@ -63,6 +63,18 @@ TEST_F(NativeBuild, FailedBuildLeavesTheLastExecutable) {
     EXPECT_FALSE(fs::exists(object));
 }
 
+TEST_F(NativeBuild, SwapThatFailsIsPassedOver) {
+    fakeCompiler("echo ஓடக்கூடாது");
+    writeFileText(object, "");
+    fs::create_directories(cache / "பொழில்_செயலி" / "full");
+    const ProcessResult run = compile({"a.பொழில்"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.out, kBanner + titleOf("a.பொழில்"));
+    EXPECT_NE(run.err, "") << "the shell can't run a directory";
+    EXPECT_EQ(run.err.find(kBuildFailure), std::string::npos) << "the build itself was good";
+    EXPECT_TRUE(fs::exists(cache / "pozhil_temp_app"));
+}
+
 TEST_F(NativeBuild, TitleTakesTwentyMillisecondsAByte) {
     fakeCompiler("true");
     writeFileText(object, "");

@@ -1,6 +1,4 @@
 // What a first build shows for an exception of each phase, and for a diagnostic.
-#include "driver/console_texts.h"
-#include "driver/phases.h"
 #include "driver/workplace.h"
 
 namespace {
@@ -22,6 +20,15 @@ TEST_F(PhaseFailure, ScanOfATextThatEndsInATab) {
     EXPECT_EQ(run.err, kScanLine);
 }
 
+TEST_F(PhaseFailure, ParseOfAShareThatNoNumberHolds) {
+    write("a.பொழில்", kShareTooLarge);
+    const ProcessResult run = compile({"a.பொழில்"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, kParseLine);
+    EXPECT_FALSE(std::filesystem::exists(cache));
+}
+
 TEST_F(PhaseFailure, GenerateOfTamilDigits) {
     write("a.பொழில்", "அச்சிடு(௧௨)\n");
     const ProcessResult run = compile({"a.பொழில்"});
@@ -30,18 +37,6 @@ TEST_F(PhaseFailure, GenerateOfTamilDigits) {
     EXPECT_EQ(run.err, kGenerateLine);
     EXPECT_TRUE(std::filesystem::is_directory(cache)) << "made before the generator runs";
     EXPECT_FALSE(std::filesystem::exists(cache / "generated.cpp"));
-}
-
-// No source makes the parser throw: its numbers are converted later, its codes are all there. So
-// its line is shown by the function that main runs each phase with.
-TEST(Phases, ExceptionIsShownByTheLineAlone) {
-    testing::internal::CaptureStderr();
-    EXPECT_FALSE(runPhase([] { throw std::runtime_error("உள்ளே"); }, kParseFailure));
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), kParseLine);
-
-    testing::internal::CaptureStderr();
-    EXPECT_TRUE(runPhase([] {}, kParseFailure));
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST_F(PhaseFailure, DiagnosticGoesToStandardOutput) {

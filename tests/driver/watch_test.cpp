@@ -74,6 +74,8 @@ TEST_F(Watch, GoesOnAfterAnExceptionAndEndsAtADiagnostic) {
     save("\t", hours(1));
     ASSERT_TRUE(live.waitForErr("லெக்சர் பிழை: basic_string::compare")) << live.err();
     EXPECT_EQ(live.err().back(), '\n');
+    save(kShareTooLarge, hours(1));
+    ASSERT_TRUE(live.waitForErr("\nபார்சர் பிழை: stoi\n")) << live.err();
     save("அச்சிடு(௧௨)\n", hours(1));
     ASSERT_TRUE(live.waitForErr("\nஜெனரேட்டர் பிழை: stoull\n")) << live.err();
     fakeCompiler("echo ஓடக்கூடாது", 1);
@@ -84,7 +86,8 @@ TEST_F(Watch, GoesOnAfterAnExceptionAndEndsAtADiagnostic) {
         << live.err();
     fakeCompiler("echo மீண்டும்; exit 5");
     save("அச்சிடு(4)\n", hours(1));
-    const std::string expected = opening + kChanged + kChanged + kChanged + kChanged + "மீண்டும்\n";
+    const std::string expected =
+        opening + kChanged + kChanged + kChanged + kChanged + kChanged + "மீண்டும்\n";
     ASSERT_TRUE(live.waitForOut(expected)) << live.out();
 
     save("அச்சிடு(\"\n", hours(1));

@@ -15,6 +15,9 @@ const std::string kBanner =
     " └──────────────────────────────────────────────────────────┘\n"
     "\033[1;32m    [ பதிப்பு: 0.2-முதல்_பதிப்பு | படைப்பாளி: Velanar ]\033[0m\n\n";
 
+const std::string kShareTooLarge =
+    "வலைதளம் கணக்கி(\n    குமரி(\n        நெகிழ்வு(பங்கு: 99999999999)\n    )\n)\n";
+
 std::string titleOf(const std::string& source) {
     return "\033[1;36m✨ பொழில் -> " + source + " தொகுக்கப்படுகிறது...\033[0m\n";
 }

@@ -17,6 +17,9 @@ extern const std::string kBanner;
 /// The title of a build, with its colours and line end.
 std::string titleOf(const std::string& source);
 
+/// A source at which the parser throws: a share that is too large for an int.
+extern const std::string kShareTooLarge;
+
 class Workplace : public testing::Test {
 protected:
     Workplace();

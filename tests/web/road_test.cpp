@@ -207,6 +207,9 @@ TEST_F(WebRoad, GoesOnAfterAnException) {
         "சரிபார்க்கவும்!\033[0m\n";
     save("\t");
     ASSERT_TRUE(live.waitForErr(failures)) << live.out() << live.err();
+    failures += "\033[1;31m🚨 பார்சர் பிழை (இலக்கணப் பகுப்பாய்வு): நிரலின் கட்டமைப்பில் பிழை உள்ளது!\033[0m\n";
+    save(kShareTooLarge);
+    ASSERT_TRUE(live.waitForErr(failures)) << live.out() << live.err();
     failures +=
         "\033[1;31m🚨 ஜெனரேட்டர் பிழை (குறியீடு உருவாக்கம்): குறியீட்டை உருவாக்குவதில் சிக்கல்!"
         "\033[0m\n";
@@ -217,7 +220,7 @@ TEST_F(WebRoad, GoesOnAfterAnException) {
     EXPECT_EQ(body("/index.js"), "first") << "the last good program stays";
 
     save("அச்சிடு(3)\n");
-    expected += kChanged + kChanged + kChanged + kRenewed;
+    expected += kChanged + kChanged + kChanged + kChanged + kRenewed;
     ASSERT_TRUE(live.waitForOut(expected)) << live.out();
     EXPECT_EQ(body("/version"), "3");
 }
@@ -304,6 +307,11 @@ TEST_F(WebRoad, OpensBeforeAPhaseFails) {
     const ProcessResult scan = compile({"--வலை", "a.பொழில்"});
     EXPECT_EQ(scan.out, kOpening);
     EXPECT_EQ(scan.exitCode, 1);
+
+    write("a.பொழில்", kShareTooLarge);
+    const ProcessResult parse = compile({"--வலை", "a.பொழில்"});
+    EXPECT_EQ(parse.out, kOpening);
+    EXPECT_EQ(parse.exitCode, 1);
 
     write("a.பொழில்", "அச்சிடு(௧)\n");
     const ProcessResult generate = compile({"--வலை", "a.பொழில்"});
