@@ -1,12 +1,20 @@
 // The server's answers, byte for byte, through real sockets.
+#include <linux/filter.h>
+#include <linux/seccomp.h>
 #include <netinet/in.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <cstddef>
 
 #include "driver/local_server.h"
 #include "driver/served_page.h"
+#include "support/subprocess.h"
 #include "web/client.h"
 #include "web/scratch_directory.h"
 
@@ -234,6 +242,39 @@ TEST(ServerSetUp, NoSocketToBeHad) {
     startLocalServer(1);  // returns
     ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "🚨 சாக்கெட் உருவாக்க முடியவில்லை!\n");
+}
+
+constexpr int kNoFilter = 77;
+
+/// Starts the server in a process whose kernel refuses the system call `number`.
+ProcessResult startWithout(long number) {
+    return runForked([number] {
+        sock_filter steps[] = {
+            BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+            BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(number), 0, 1),
+            BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EADDRINUSE),
+            BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+        };
+        const sock_fprog filter = {4, steps};
+        if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0) return kNoFilter;
+        if (prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) != 0) return kNoFilter;
+        startLocalServer(freePort());  // returns
+        return 0;
+    });
+}
+
+TEST(ServerSetUp, OptionRefused) {
+    const ProcessResult run = startWithout(SYS_setsockopt);
+    if (run.exitCode == kNoFilter) GTEST_SKIP() << "no filter of system calls here";
+    EXPECT_EQ(run.err, "🚨 சாக்கெட் ஆப்ஷன் பிழை!\n");
+    EXPECT_EQ(run.exitCode, 0);
+}
+
+TEST(ServerSetUp, ListeningRefused) {
+    const ProcessResult run = startWithout(SYS_listen);
+    if (run.exitCode == kNoFilter) GTEST_SKIP() << "no filter of system calls here";
+    EXPECT_EQ(run.err, "🚨 சர்வர் கவனிப்பதில் பிழை!\n");
+    EXPECT_EQ(run.exitCode, 0);
 }
 
 TEST_F(Server, ListensOnAllInterfaces) {
