@@ -1,6 +1,7 @@
 // What an application needs at run time: the walk over its tree, Base64, and the preload flags.
 #include "driver/media.h"
 
+#include "support/front_end.h"
 #include "web/scratch_directory.h"
 #include "web/tree.h"
 
@@ -166,6 +167,28 @@ TEST_F(Preload, MissingVideoIsWarnedOf) {
               "\n⚠️ எச்சரிக்கை: v.mp4 என்ற கோப்பு "
               "காணப்படவில்லை! "
               "\n");
+}
+
+TEST_F(Preload, WhatASourceNames) {
+    for (const char* name : {"deep.jpg", "f.ttf", "head.png", "v.mp4", "logo.bmp"}) {
+        write(name, "x");
+    }
+    const Parsed source = parse(
+        "வலைதளம் கணக்கி(\n"
+        "    தலைமை(சின்னம்: \"head.png\" பின்னணிகாணொளி: \"v.mp4\")\n"
+        "    குமரி(\n"
+        "        நெடுவரிசை(\n"
+        "            படம்(பாதை: \"deep.jpg\")\n"
+        "            படம்(பாதை: \"logo.bmp\")\n"
+        "            படம்(பாதை: கோப்பு_பெயர்)\n"
+        "            உரை(\"வணக்கம்\", உரைபாணி(எழுத்துரு: \"f.ttf\"))\n"
+        "        )\n"
+        "    )\n"
+        "    வரையறை()\n"
+        ")\n");
+    EXPECT_EQ(preloadFlags(source.program),
+              " --preload-file deep.jpg --preload-file f.ttf --preload-file head.png"
+              " --preload-file v.mp4");
 }
 
 TEST_F(Preload, AllTopLevelStatementsAreWalked) {

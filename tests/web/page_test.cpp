@@ -1,6 +1,7 @@
 // The page, from a template and an application's head.
 #include "driver/page.h"
 
+#include "support/front_end.h"
 #include "web/scratch_directory.h"
 #include "web/tree.h"
 
@@ -134,6 +135,20 @@ TEST_F(Page, HeadIsReadByItsThreeKeys) {
     EXPECT_EQ(read.title, "த");
     EXPECT_EQ(read.icon, "a.png");
     EXPECT_EQ(read.background, "நீலம்");
+}
+
+TEST_F(Page, HeadOfASource) {
+    const auto headOf = [](const std::string& items) {
+        return readPageHead(
+            parse("வலைதளம் கணக்கி(\n    தலைமை(" + items + ")\n    குமரி() வரையறை()\n)\n").program);
+    };
+    const PageHead full = headOf("இணைய_தலைப்பு: \"என் தளம்\" சின்னம்: \"a.svg\" பின்னணி: \"#12ab34\"");
+    EXPECT_EQ(full.title, "என் தளம்");
+    EXPECT_EQ(full.icon, "a.svg");
+    EXPECT_EQ(full.background, "#12ab34");
+    EXPECT_EQ(headOf("பின்னணி: வண்ணம்.சிவப்பு").background, "") << "no literal: the default";
+    const PageHead none = headOf("");
+    EXPECT_EQ(none.title + none.icon + none.background, "");
 }
 
 }  // namespace
