@@ -1,9 +1,15 @@
 // Clients that say nothing, hang up, read slowly or come all at once: the server goes on.
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <chrono>
 #include <future>
 #include <thread>
 #include <vector>
 
+#include "driver/local_server.h"
 #include "driver/served_page.h"
 #include "web/client.h"
 #include "web/scratch_directory.h"
@@ -156,6 +162,24 @@ TEST_F(DifficultClients, PageMayChangeWhileItIsRead) {
     }
     done = true;
     writer.join();
+}
+
+TEST(FewDescriptors, OldestSilentOnesMakeRoom) {
+    const int port = freePort();
+    const pid_t server = fork();
+    if (server == 0) {
+        const rlimit few = {30, 30};
+        if (setrlimit(RLIMIT_NOFILE, &few) == 0) startLocalServer(port);
+        _exit(1);
+    }
+    std::vector<Client> silent;
+    for (int i = 0; i < 35; i++) silent.emplace_back(port);
+    EXPECT_NE(get(port, "/version").find("200 OK"), std::string::npos);
+    EXPECT_EQ(silent.front().readToEnd(1), "");
+    EXPECT_TRUE(silent.front().sawEnd());
+    EXPECT_EQ(waitpid(server, nullptr, WNOHANG), 0) << "and on it goes";
+    kill(server, SIGKILL);
+    waitpid(server, nullptr, 0);
 }
 
 }  // namespace
