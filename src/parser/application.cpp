@@ -32,9 +32,9 @@ std::unique_ptr<Statement> Parser::parseWebApp() {
     bracketLoop(line, [&] {
         if (parsePropertyItem(properties, keys)) return;
         if (check(TokenType::DATABASE_MANAGER)) {
-            databaseManager = parseDatabaseManager();
+            drop(std::exchange(databaseManager, parseDatabaseManager()));
         } else if (check(TokenType::HEADER)) {
-            header = parseHeader();
+            drop(std::exchange(header, parseHeader()));
         } else if (check(TokenType::BODY)) {
             drop(std::exchange(body, parseUIBody()));
             bodySeen = true;
@@ -79,18 +79,18 @@ void Parser::parseHeaderItem(PropertyMap& properties, ScreenConfig& screen) {
             !is<GetExpression>(*value)) {
             பிழை("பொழில்-362", word.line);
         }
-        properties["பின்னணி"] = std::move(value);
+        setProperty(properties, "பின்னணி", std::move(value));
     } else if (kind == TokenType::BACKGROUND_IMAGE || kind == TokenType::BACKGROUND_VIDEO) {
         auto value = parseValue();
         if (!is<StringLiteral>(*value)) பிழை("பொழில்-303", word.line);
-        properties[word.text] = std::move(value);
+        setProperty(properties, word.text, std::move(value));
     } else if (kind == TokenType::PAGE) {
-        properties[word.text] = parseValue();
+        parseValueOf(properties, word.text);
     } else if (kind == TokenType::IDENTIFIER) {
         auto value = parseValue();
-        if (word.text != "இணைய_தலைப்பு" && word.text != "சின்னம்") return;
+        if (word.text != "இணைய_தலைப்பு" && word.text != "சின்னம்") return drop(std::move(value));
         if (!is<StringLiteral>(*value)) பிழை("பொழில்-402", word.line);
-        properties[word.text] = std::move(value);
+        setProperty(properties, word.text, std::move(value));
     }
 }
 
@@ -151,7 +151,7 @@ std::unique_ptr<Statement> Parser::parseDatabaseManager() {
     std::unique_ptr<Statement> config;
     bracketLoop(line, [&] {
         if (check(TokenType::FIREBASE_CONFIG)) {
-            config = parseFirebaseConfig();
+            drop(std::exchange(config, parseFirebaseConfig()));
         } else {
             advance();
         }

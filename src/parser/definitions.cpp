@@ -71,7 +71,7 @@ std::unique_ptr<Statement> Parser::parseAbstractStructStatement() {
     }
     closeBody();
     auto node = std::make_unique<AbstractStructDefinitionStatement>(name, std::move(methods));
-    abstractStructDefinitions[name.text] = node.get();
+    define(&Parser::abstractStructDefinitions, node.get());
     return node;
 }
 

@@ -1,6 +1,8 @@
 // The layout widgets. Columns, rows, stacks, wraps and lists share one shape: a group of children,
 // or a group of properties and, if wanted, one of children behind it. A grid always has both; the
 // others take everything in one group. Every missing parenthesis is told at the widget's word.
+#include <utility>
+
 #include "parser/number_text.h"
 #include "parser/parser.h"
 #include "parser/token_predicates.h"
@@ -226,7 +228,7 @@ std::unique_ptr<Statement> Parser::parseFlexible(int line) {
         }
         advance();
     });
-    parts.properties.clear();
+    drop(std::exchange(parts.properties, {}));
     auto node = std::make_unique<FlexibleNode>(flex, std::move(parts.children));
     return finishWidget(std::move(node), std::move(parts));
 }
@@ -236,10 +238,11 @@ std::unique_ptr<Statement> Parser::parseFlexible(int line) {
 bool Parser::parseFlexItem(int& flex) {
     if (!checkWord(TokenType::SHARE, "பங்கு") && !check(TokenType::ASPECT_RATIO)) return false;
     advance();
-    const auto value = parseValue();
+    auto value = parseValue();
     if (const auto* number = dynamic_cast<const NumberLiteral*>(value.get())) {
         flex = std::stoi(number->value);
     }
+    drop(std::move(value));
     return true;
 }
 
@@ -328,10 +331,10 @@ bool Parser::parseTextButtonLabel(WidgetParts& parts) {
     advance();
     if (check(TokenType::LEFT_PAREN)) {
         advance();
-        parts.properties["உரை"] = parseExpression();
+        setProperty(parts.properties, "உரை", parseExpression());
         consume(TokenType::RIGHT_PAREN, "பொழில்-204");
     } else if (check(TokenType::STRING)) {
-        parts.properties["உரை"] = parseExpression();
+        setProperty(parts.properties, "உரை", parseExpression());
     }
     return true;
 }
@@ -388,13 +391,13 @@ void Parser::parseSnackBarItem(SnackBarNode& node, int line) {
     const auto* number = dynamic_cast<const NumberLiteral*>(value.get());
     if (key == "பின்னணி" && text != nullptr) node.backgroundColor = text->value;
     if (key == "காலம்" && number != nullptr) node.durationMs = std::stoi(number->value);
-    node.properties[key] = std::move(value);
+    setProperty(node.properties, key, std::move(value));
 }
 
 /// A message is a widget or a value. No section word is a widget word, so the refusal isn't met.
 void Parser::parseSnackBarMessage(SnackBarNode& node, int line) {
     if (!isWidgetToken(peek())) {
-        node.properties["செய்தி"] = parseExpression();
+        setProperty(node.properties, "செய்தி", parseExpression());
         return;
     }
     if (checkSectionWord()) பிழை("பொழில்-204", line);

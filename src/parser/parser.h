@@ -5,6 +5,7 @@
 // database.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -291,6 +292,8 @@ private:
     }
     void openParenthesis(int line = -1);
     std::unique_ptr<Expression> parseValue();
+    void setProperty(PropertyMap& properties, const std::string& key,
+                     std::unique_ptr<Expression> value);
     void parseValueOf(PropertyMap& properties, const std::string& key);
     bool parsePropertyItem(PropertyMap& properties, const Kinds& kinds);
     bool parseChildItem(WidgetParts& parts, const Kinds& furtherKinds);
@@ -349,9 +352,18 @@ private:
     std::string readModule(const std::string& path, int line);
     void mergeModule(Parser& module, Program program);
 
-    /// Takes a parsed statement out of the tree. It lives on: the tables may point at definitions
+    /// Enters a structure under its name.
+    template <typename Node>
+    void define(std::map<std::string, Node*> Parser::*table, Node* node);
+    void takeBackDefinitions(std::size_t from);
+    /// Takes back one entry each, in the order in which they were made.
+    std::vector<std::function<void(Parser&)>> definitions;
+
+    /// Takes what was parsed out of the tree. It lives on: the tables may point at definitions
     /// inside it.
     void drop(std::unique_ptr<Statement> statement);
+    void drop(std::unique_ptr<Expression> expression);
+    void drop(PropertyMap properties);
     std::vector<std::unique_ptr<Statement>> dropped;
 
     int nesting = 0;          ///< Statements and expressions around the cursor.
@@ -374,6 +386,20 @@ private:
         int end = 0;
     } closeScan;
 };
+
+template <typename Node>
+void Parser::define(std::map<std::string, Node*> Parser::*table, Node* node) {
+    const std::string& name = node->name.text;
+    Node*& entry = (this->*table)[name];
+    definitions.emplace_back([table, name, before = entry](Parser& parser) {
+        if (before == nullptr) {
+            (parser.*table).erase(name);
+        } else {
+            (parser.*table)[name] = before;
+        }
+    });
+    entry = node;
+}
 
 /// { item } ")", over as many lines as the author likes, with indentation counted away from
 /// `depth` on. Raises 204 at `line` for a missing parenthesis, 291 for an item that takes nothing

@@ -1,5 +1,7 @@
 // What stands between a widget's parentheses, whichever widget it is: the bracket loop, properties,
 // children, animation, press handler. Alignment and styles stand in widget_styles.cpp.
+#include <utility>
+
 #include "lexer/holds.h"
 #include "parser/parser.h"
 #include "parser/token_predicates.h"
@@ -43,8 +45,13 @@ std::unique_ptr<Expression> Parser::parseValue() {
 }
 
 /// A key written twice keeps the later value.
+void Parser::setProperty(PropertyMap& properties, const std::string& key,
+                         std::unique_ptr<Expression> value) {
+    drop(std::exchange(properties[key], std::move(value)));
+}
+
 void Parser::parseValueOf(PropertyMap& properties, const std::string& key) {
-    properties[key] = parseValue();
+    setProperty(properties, key, parseValue());
 }
 
 /// property = word ":" expression
@@ -106,7 +113,7 @@ bool Parser::parsePressItem(WidgetParts& parts, PressForm form) {
         });
         return true;
     }
-    parts.properties[key] = parseExpression();
+    setProperty(parts.properties, key, parseExpression());
     skipLines();
     consume(TokenType::RIGHT_PAREN, "பொழில்-204", line);
     return true;

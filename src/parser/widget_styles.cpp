@@ -124,10 +124,12 @@ const ButtonStyleRow* buttonStyleRow(const Token& token) {
 bool Parser::parseAlignmentItem(WidgetParts& parts) {
     if (!checkWord("சீரமைப்பு")) return false;
     advance();
-    const std::string word = wordOf(*parseValue());
+    auto value = parseValue();
+    const std::string word = wordOf(*value);
     for (const AlignmentRow& row : kAlignments) {
         if (word == row.word) parts.alignment = row.alignment;
     }
+    drop(std::move(value));
     return true;
 }
 
@@ -186,9 +188,10 @@ void Parser::parseTextStyleEntry(WidgetParts& parts) {
         if (row.set != nullptr) {
             row.set(parts.textStyle, *value);
         } else {
-            parts.properties["style_" + key] = std::move(value);
+            setProperty(parts.properties, "style_" + key, std::move(value));
         }
         break;
     }
+    drop(std::move(value));
     takeComma();
 }

@@ -131,14 +131,16 @@ void Parser::parseGenericItem(WidgetParts& parts, int& positional) {
 void Parser::parsePositionalItem(WidgetParts& parts, int& positional) {
     const int deepestBefore = deepestPart;
     const int functionDepthBefore = functionDepth;
+    const std::size_t definitionsBefore = definitions.size();
     try {
         auto value = parseExpression();
         const std::string key = positional == 0 ? "உரை" : "arg" + std::to_string(positional);
-        parts.properties[key] = std::move(value);
+        setProperty(parts.properties, key, std::move(value));
         positional++;
     } catch (const std::exception&) {
         deepestPart = std::max(deepestPart, deepestBefore);
         functionDepth = functionDepthBefore;
+        takeBackDefinitions(definitionsBefore);
         if (!is_at_end()) advance();
     }
 }
