@@ -14,6 +14,10 @@ const Token kOpen = mark(TokenType::LEFT_PAREN, 4);
 const Token kClose = mark(TokenType::RIGHT_PAREN, 6);
 const Token kEquals = mark(TokenType::EQUALS, 5);
 
+const std::vector<Token> kLineEnds = {kLineEnd, kLineEnd};
+const std::vector<Token> kMethod = {word("செயல்", 4), name("ஆ", 4), kOpen, name("தான்", 4), kClose};
+const std::vector<Token> kMethodBody = {kColon, kLineEnd, kIndent, word("விடு", 5), kDedent};
+
 std::vector<Token> operator+(std::vector<Token> left, const std::vector<Token>& right) {
     left.insert(left.end(), right.begin(), right.end());
     return left;
@@ -126,6 +130,8 @@ TEST(Structure, LowersTheDepthBehindEachMethod) {
 TEST(Structure, NeedsItsDedent) {
     EXPECT_TRUE(refusedTokens(opening("கட்டமைப்பு"), "பொழில்-292", 9));
     EXPECT_TRUE(refusedTokens(opening("கட்டமைப்பு") + std::vector<Token>{kLineEnd}, "பொழில்-201", 9));
+    EXPECT_TRUE(
+        refusedTokens(opening("கட்டமைப்பு") + kMethod + kMethodBody + kLineEnds, "பொழில்-292", 9));
 }
 
 TEST(Structure, ChecksItsParentBehindItsBody) {
@@ -216,6 +222,7 @@ TEST(AbstractStructure, KeepsMethodsAndParameters) {
 TEST(AbstractStructure, NeedsItsDedent) {
     EXPECT_TRUE(refusedTokens(opening("வடிவமைப்பு"), "பொழில்-292", 9));
     EXPECT_TRUE(refusedTokens(opening("வடிவமைப்பு") + std::vector<Token>{kLineEnd}, "பொழில்-210", 9));
+    EXPECT_TRUE(refusedTokens(opening("வடிவமைப்பு") + kMethod + kLineEnds, "பொழில்-292", 9));
 }
 
 TEST(AbstractStructure, RefusesParenthesesAtTwoLines) {

@@ -32,6 +32,13 @@ TEST(List, WithoutACommaIsRefusedAtTheNextToken) {
     EXPECT_TRUE(refusedAt(5, "பொழில்-207", "[1, 2 => 3]"));
 }
 
+TEST(List, LeftOpenWhereABlockEndsIsRefusedAtThatEnd) {
+    EXPECT_TRUE(refused("எனில் அ:\n    ஆ([1", "பொழில்-207", 2));
+    EXPECT_TRUE(refusedAt(
+        3, "பொழில்-207",
+        row({{TokenType::LEFT_BRACKET, "["}, {TokenType::NUMBER, "1"}, {TokenType::DEDENT, "0"}})));
+}
+
 TEST(List, LeftOpenIsRefusedAtItsBracket) {
     EXPECT_TRUE(refusedAt(1, "பொழில்-205", "[1"));
     EXPECT_TRUE(refusedAt(1, "பொழில்-205", "[1\n]"));

@@ -127,6 +127,16 @@ TEST(Primary, LookForAWidgetLeavesTheLineEnds) {
     EXPECT_EQ(shapeOf("உரை.a[0]"), "உரை.a[0]");
 }
 
+TEST(Primary, LookForAWidgetPassesLineEndsAlone) {
+    const std::vector<Token> over = row({{TokenType::TEXT, "உரை"},
+                                         {TokenType::INDENT, "4"},
+                                         {TokenType::LEFT_PAREN, "("},
+                                         {TokenType::RIGHT_PAREN, ")"}});
+    EXPECT_EQ(treeOf(over), "name உரை\n");
+    EXPECT_TRUE(refused("அ = உரை\n    (1)\n", "பொழில்-111", 2));
+    EXPECT_TRUE(accepted("அ = உரை\n(1)\n"));
+}
+
 TEST(Primary, WidgetKnownByTextAloneIsACall) {
     EXPECT_EQ(shapeOf("மடிப்பு(1)"), "மடிப்பு(1)");
     EXPECT_EQ(treeOf("மடிப்பு"), "name மடிப்பு @1\n");

@@ -63,6 +63,7 @@ TEST(Ternary, WithoutACloserIsRefused) {
 TEST(Ternary, WithoutABranchIsRefused) {
     EXPECT_TRUE(refusedAt(3, "பொழில்-201", "a ? : b"));
     EXPECT_TRUE(refusedAt(3, "பொழில்-201", "a ?"));
+    EXPECT_TRUE(refusedAt(3, "பொழில்-201", "a ?\nb : c"));
     EXPECT_TRUE(refusedAt(5, "பொழில்-201", "a ? b :"));
     EXPECT_TRUE(refusedAt(5, "பொழில்-201", "a எனில் b இல்லைஎனில்\nc"));
     EXPECT_TRUE(refusedAt(1, "பொழில்-201", "? a : b"));

@@ -221,6 +221,18 @@ TEST_F(Imports, BringEachTablesEntriesWithTheirNodes) {
     EXPECT_TRUE(parser.hoistedStatements.empty());
 }
 
+/// A definition that the module's tree dropped lives on with the importer.
+TEST_F(Imports, BringWhatAModuleDropped) {
+    writeFile("நூல்.பொழில்",
+              "கட்டமைப்பு அ:\n    பொது(\n        வடிவமைப்பு இயக்கம்:\n"
+              "            செயல் ஓடு(தான்)\n    )\n    ஆ = 1\n");
+    const Parsed parsed =
+        parse(importOf("நூல்") + "கட்டமைப்பு ஊர்தி(இயக்கம்):\n    செயல் ஓடு(தான்):\n        விடு\n");
+    EXPECT_EQ(printTables(*parsed.parser),
+              "structure அ: அ\nstructure ஊர்தி: ஊர்தி\nabstract structure இயக்கம்: இயக்கம்\n"
+              "imported நூல்.பொழில்\n");
+}
+
 TEST_F(Imports, FirstOfTwoModulesWins) {
     writeFile("அ.பொழில்", "செயல் கூடு(ஒரு):\n    விடு\n");
     writeFile("ஆ.பொழில்", "செயல் கூடு():\n    விடு\n");

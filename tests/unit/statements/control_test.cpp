@@ -114,6 +114,14 @@ TEST(Switch, RefusesItsHeaderAtTheWordsLine) {
         refusedTokens({choice, name("அ", 3), kColon, end, end, word("நிலை", 7)}, "பொழில்-202", 2));
 }
 
+TEST(Switch, PassesLineEndsBehindItsHeader) {
+    const Token end = mark(TokenType::NEWLINE, 2);
+    EXPECT_EQ(treeOf(parserOver({word("தேர்வு"), name("அ"), kColon, end, end, end,
+                                 mark(TokenType::INDENT), mark(TokenType::DEDENT)})
+                         .parseStatement(false)),
+              "switch\n  subject\n    name அ @1\n");
+}
+
 TEST(Switch, NeedsItsDedent) {
     EXPECT_TRUE(refusedTokens({word("தேர்வு"), name("அ"), kColon, mark(TokenType::NEWLINE),
                                mark(TokenType::INDENT), mark(TokenType::NEWLINE)},

@@ -86,6 +86,8 @@ TEST(Dispatch, GivesNullForLayoutAndLeavesIt) {
 TEST(Dispatch, RefusesIndentation) {
     EXPECT_TRUE(refusedTokens({mark(TokenType::INDENT, 4)}, "பொழில்-111", 4));
     EXPECT_TRUE(refusedTokens({mark(TokenType::INDENT, 4)}, "பொழில்-111", 4, true));
+    EXPECT_TRUE(refusedTokens(
+        {mark(TokenType::INDENT, 4), word("வினை", 4), mark(TokenType::COLON, 4)}, "பொழில்-111", 4));
 }
 
 TEST(Dispatch, RefusesTheEnd) { EXPECT_TRUE(refusedTokens({}, "பொழில்-201", 9)); }
