@@ -1,4 +1,6 @@
 // What a first build shows for an exception of each phase, and for a diagnostic.
+#include "driver/console_texts.h"
+#include "driver/phases.h"
 #include "driver/workplace.h"
 
 namespace {
@@ -37,6 +39,29 @@ TEST_F(PhaseFailure, GenerateOfTamilDigits) {
     EXPECT_EQ(run.err, kGenerateLine);
     EXPECT_TRUE(std::filesystem::is_directory(cache)) << "made before the generator runs";
     EXPECT_FALSE(std::filesystem::exists(cache / "generated.cpp"));
+}
+
+TEST_F(PhaseFailure, GenerateOfAStaticErrorDropsItsText) {
+    write("a.பொழில்", "அச்சிடு(வர்க்கமூலம்(1, 2))\n");
+    const ProcessResult run = compile({"a.பொழில்"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, kGenerateLine);
+}
+
+// A code that the catalogue lacks is in no source's power to raise. So what becomes of it is shown
+// by the function that main runs each phase with.
+TEST(Phases, CodeThatTheCatalogueLacksIsShownByTheLineAlone) {
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(runPhase([] { Lexer("", "").பிழை("பொழில்-999"); }, kScanFailure));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), kScanLine);
+
+    testing::internal::CaptureStderr();
+    const auto parse = [] {
+        Parser({Token{TokenType::END_OF_FILE, "", 1}}, "", "").பிழை("பொழில்-999", 1);
+    };
+    EXPECT_FALSE(runPhase(parse, kParseFailure));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), kParseLine);
 }
 
 TEST_F(PhaseFailure, DiagnosticGoesToStandardOutput) {
