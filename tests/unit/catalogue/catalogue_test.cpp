@@ -2,9 +2,10 @@
 // fix and who raises the code.
 #include <gtest/gtest.h>
 
-#include <iterator>
 #include <set>
 #include <sstream>
+#include <string>
+#include <vector>
 
 #include "error_codes.h"
 #include "support/case_files.h"
@@ -54,10 +55,12 @@ TEST(Catalogue, HoldsNothingMore) {
 }
 
 TEST(Catalogue, StandsInTheOrderOfItsCodes) {
+    const std::string header = readText(POZHIL_ROOT "/உள்ளடக்கம்/error_codes.h");
     const std::vector<Row> rows = readRows();
-    ASSERT_EQ(std::size(kDiagnosticRows), rows.size());
+    std::size_t at = 0;
     for (std::size_t i = 0; i < rows.size(); i++) {
-        EXPECT_EQ(kDiagnosticRows[i].code, rows[i].code);
+        at = header.find("{\"" + rows[i].code + "\",", at);
+        ASSERT_NE(at, std::string::npos) << rows[i].code;
         if (i > 0) {
             EXPECT_LT(rows[i - 1].code, rows[i].code);
         }
