@@ -3,6 +3,9 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <iostream>
+#include <streambuf>
+#include <string>
 
 #include "error_handler.h"
 #include "generator/generator.h"
@@ -109,6 +112,36 @@ TEST(Report, NumbersItsClasses) {
     EXPECT_EQ(SEMANTIC_ERROR, 2);
     EXPECT_EQ(OPERATION_ERROR, 3);
     EXPECT_EQ(RUNTIME_ERROR, 4);
+}
+
+/// Passes on what is written to it, with a mark wherever it is flushed.
+class FlushMarker : public std::streambuf {
+protected:
+    int_type overflow(int_type byte) override {
+        std::fputc(byte, stderr);
+        return byte;
+    }
+    int sync() override {
+        std::fputs("<flush>", stderr);
+        return 0;
+    }
+};
+
+int countOf(const std::string& part, const std::string& text) {
+    int count = 0;
+    for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) count++;
+    return count;
+}
+
+TEST(Report, FlushesAtTheEndOfEachRow) {
+    const ProcessResult result = runForked([]() -> int {
+        std::cout.rdbuf(new FlushMarker);  // lives on: the stream is flushed once more at the exit
+        ErrorHandler::அறிக்கை(SYNTAX_ERROR, "", "", "", 1, "", "");
+    });
+    // Sixteen rows, an empty line ahead of them and one behind; the one ahead isn't flushed.
+    EXPECT_EQ(countOf("\n", result.err), 18);
+    EXPECT_EQ(countOf("\n<flush>", result.err), 17);
+    EXPECT_EQ(result.err.find("\n\033[1;31m---"), 0U);
 }
 
 TEST(Report, RunsStaticDestructors) {

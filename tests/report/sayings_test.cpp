@@ -79,7 +79,7 @@ TEST(Sayings, WithQuotesAreMaskedWhole) {
 TEST(VisualWidth, CountsAColumnACharacter) {
     EXPECT_EQ(ErrorHandler::visualWidth(""), 0);
     EXPECT_EQ(ErrorHandler::visualWidth("abc 1"), 5);
-    EXPECT_EQ(ErrorHandler::visualWidth("é"), 1);
+    EXPECT_EQ(ErrorHandler::visualWidth("éa"), 2);
     EXPECT_EQ(ErrorHandler::visualWidth("தமிழ்"), 5);
     EXPECT_EQ(ErrorHandler::visualWidth("▲"), 1);
 }
