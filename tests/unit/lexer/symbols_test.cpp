@@ -49,7 +49,9 @@ TEST(StrayMark, GluedToAWordComesBehindIt) {
     const Token word = lexer.getNextToken();
     EXPECT_EQ(word.type, TokenType::IDENTIFIER);
     EXPECT_EQ(word.text, "அ");
+    EXPECT_EQ(lexer.position, 3);
     EXPECT_TRUE(refuses("பொழில்-101", 1, [&] { lexer.getNextToken(); }));
+    EXPECT_EQ(lexer.position, 4) << "passed before it is refused";
 }
 
 TEST(StrayMark, IsReportedWithItsLogicalLine) {

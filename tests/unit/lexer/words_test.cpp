@@ -57,6 +57,7 @@ TEST(DatabaseWords, WithAnyOtherTailAreNames) {
 TEST(DatabaseWords, TailGoesUnchecked) {
     EXPECT_EQ(describe(scan("நிகழ்நேர.+ஜ\"-/ a")),
               "IDENTIFIER:நிகழ்நேர.+ஜ\"-/ IDENTIFIER:a END_OF_FILE");
+    EXPECT_EQ(describe(scan("நிகழ்நேர.5%b")), "IDENTIFIER:நிகழ்நேர.5%b END_OF_FILE");
 }
 
 TEST(DatabaseWords, TailEndsAtATerminator) {

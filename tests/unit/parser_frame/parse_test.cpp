@@ -49,6 +49,12 @@ TEST(Parse, StopsAtTheFirstEndOfFile) {
     EXPECT_EQ(parsed.parser->current, 4);
 }
 
+TEST(Parse, FindsABlockOpenAtTheFirstEndOfFile) {
+    EXPECT_TRUE(refused("எனில் மெய்:\n    அச்சிடு(1) ", "பொழில்-292", 2));
+    EXPECT_TRUE(refused("எனில் மெய்:\n    அச்சிடு(1)\n    ", "பொழில்-292", 3));
+    EXPECT_TRUE(accepted("எனில் மெய்:\n    அச்சிடு(1)"));
+}
+
 TEST(Parse, DropsStrayTokens) {
     Program program =
         parserOver({mark(TokenType::DEDENT), mark(TokenType::NEWLINE), mark(TokenType::DEDENT),
@@ -77,6 +83,7 @@ TEST(ParseGuard, RefusesTheNext) { EXPECT_TRUE(refused(printLines(100002), "ப�
 
 TEST(ParseGuard, CountsDroppedTokensAsRounds) {
     std::vector<Token> tokens(100001, mark(TokenType::DEDENT, 5));
+    tokens.insert(tokens.begin(), mark(TokenType::NEWLINE));  // passed ahead of the first round
     EXPECT_TRUE(parserOver(tokens).parse().statements.empty());
     tokens.push_back(mark(TokenType::DEDENT, 6));
     EXPECT_TRUE(refuses("பொழில்-291", 6, [&] { parserOver(tokens).parse(); }));

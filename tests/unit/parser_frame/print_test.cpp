@@ -31,6 +31,7 @@ TEST(Print, MayPrintNothing) { EXPECT_EQ(valuesOf("அச்சிடு()\n"), 
 TEST(Print, AloneIsRefused) {
     EXPECT_TRUE(refused("அச்சிடு\n", "பொழில்-201", 1));
     EXPECT_TRUE(refused("அச்சிடு(1)\nஅச்சிடு", "பொழில்-201", 2));
+    EXPECT_TRUE(refused("அச்சிடு)\n", "பொழில்-201", 1));
 }
 
 TEST(Print, RefusesATrailingComma) {
