@@ -19,12 +19,15 @@ void Generator::visitFunctionDefinitionStatement(const FunctionDefinitionStateme
 }
 
 /// செயல் கூடு(a, மாற்று b):  ->  std::any fn_கூடு(std::any a, std::any& b) { ... }
-/// Of a structure's method the first parameter is the receiver.
+/// Of a structure's method the first parameter is the receiver. It starts at the margin, whatever
+/// stands around it.
 void Generator::writeTopLevelFunction(const FunctionDefinitionStatement& definition) {
     const bool isMethod = !currentStruct.empty();
     const std::string& name = definition.name.text;
     currentFunction = name;
     localVariables.clear();
+    const int levelAround = indentLevel;
+    indentLevel = 0;
 
     out << "std::any fn_" << (isMethod ? currentStruct + "_" : "") << name << "(";
     for (std::size_t i = 0; i < definition.parameters.size(); i++) {
@@ -47,6 +50,7 @@ void Generator::writeTopLevelFunction(const FunctionDefinitionStatement& definit
     indent();
     out << "return std::any(); // Default return\n";
     closeBrace("\n\n");
+    indentLevel = levelAround;
     currentFunction.clear();
     localVariables.clear();
 }
