@@ -133,7 +133,7 @@ bool isStorable(const Expression* target) {
 bool Generator::writeBuiltin(const CallExpression& call, const std::string& name) {
     const auto count = static_cast<int>(call.arguments.size());
     if (name == "_set_index_internal") {  // made by the parser, with three arguments
-        if (count != 3) throw_static_error("பொழில்-331", "'" + name + "'");
+        if (count < 3) throw_static_error("பொழில்-331", "'" + name + "'");
         writeIndexStore(call);
         return true;
     }
