@@ -33,6 +33,7 @@ std::string replaceAll(std::string text, const std::string& from, const std::str
 }  // namespace
 
 void Generator::visitCallExpression(const CallExpression* call) {
+    refuseEndlessText();
     const Expression* callee = call->callee.get();
     if (const auto* member = dynamic_cast<const GetExpression*>(callee)) {
         if (!writeInputCall(*call, *member)) writeMemberCall(*call, *member);

@@ -8,6 +8,7 @@
 
 #include "error_codes.h"
 #include "error_handler.h"
+#include "generator/static_error.h"
 
 Generator::Generator(
     const Program& program, const std::map<std::string, std::vector<Param>>& functionParameters,
@@ -20,6 +21,11 @@ Generator::Generator(
       functionParameters(functionParameters),
       sourceText(sourceText),
       filename(filename) {}
+
+void Generator::refuseEndlessText() {
+    constexpr std::streamoff kMaxTextBytes = 64L * 1024 * 1024;
+    if (out.tellp() > kMaxTextBytes) throw_static_error("பொழில்-291", "");
+}
 
 void Generator::indent() {
     for (int level = 0; level < indentLevel; level++) out << "    ";

@@ -239,6 +239,10 @@ private:
     void writeMethodBinding(const std::string& structName, const std::string& objectName,
                             const FunctionDefinitionStatement& method);
 
+    /// Raises 291 without a line for a text that no compiler would take: some forms write a part of
+    /// the source twice, and inside each other they double the text every time.
+    void refuseEndlessText();
+
     std::set<std::string> boundStructs;  ///< Structures whose members are being written.
     int collectionLoops = 0;  ///< List walks around the cursor; each doubles its body's text.
 };

@@ -4,6 +4,7 @@
 #include "generator/static_error.h"
 
 void Generator::visitStatement(const Statement* statement) {
+    refuseEndlessText();
     if (visitSimpleStatement(statement) || visitIndentingStatement(statement)) return;
     throw_static_error("பொழில்-399", "Unknown statement type in generator");
 }

@@ -51,6 +51,12 @@ const ReportRow kOperatorRows[] = {
     {"அ = 1.5 கழி \"a\"\n", "பொழில்-303", 1, ""},
     {"அ = 1\nஆ = \"a\"\nஇ = அ மீதி ஆ\n", "பொழில்-303", 3, ""},
     {"அ = 99999999999999999999\n", "பொழில்-305", 1, ""},
+    // What is no number at all comes first, then the zero, then text beside number.
+    {"அ = [1] வகு 0\n", "பொழில்-304", 1, ""},
+    {"அ = \"a\" வகு 0\n", "பொழில்-301", 1, ""},
+    {"அ = \"a\" வகு 2\n", "பொழில்-303", 1, ""},
+    {"அ = \"a\" கூட்டு {}\n", "பொழில்-304", 1, ""},
+    {"கட்டமைப்பு கருவி:\n    அளவை = 1\nஅ = கருவி() கூட்டு 1\n", "பொழில்-304", 3, ""},
 };
 INSTANTIATE_TEST_SUITE_P(Operators, Reports, testing::ValuesIn(kOperatorRows));
 
@@ -71,14 +77,30 @@ const ReportRow kAccessRows[] = {
     {"மாறிலி_எல்லை = 1\nமாறிலி_எல்லை = 2\n", "பொழில்-315", 2, ""},
     // A list walk writes its body twice, and with it the assignment.
     {"ஒவ்வொன்றாக இ இல் அ:\n    மாறிலி_எல்லை = 1\n", "பொழில்-315", 2, ""},
+    {"மாறிலி_எல்லை = 1\nமாறிலி_எல்லை கூட்டிசேர் 2\n", "பொழில்-315", 2, ""},
+    {"செயல் சே():\n    மாறிலி_எல்லை = 1\nமாறிலி_எல்லை = 2\n", "பொழில்-315", 3, ""},
+    {"செயல் சே(அ):\n    அ.பெயர் = 1\n", "பொழில்-304", 2, "இந்த வகைக்குள் பண்புகளை மாற்ற முடியாது"},
+    {"தான்.பெயர் = 1\n", "பொழில்-325", 1, ""},
+    {"\nஅச்சிடு(காட்சி_நிலை.அளவை)\n", "பொழில்-304", 2,
+     "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது."},
+    {"அ = [1]\nஅச்சிடு(அ[0].பெயர்)\n", "பொழில்-304", 2,
+     "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது."},
+    // The target has its new kind before the right side is written.
+    {"நே = இப்போதுநேரம்()\nநே = நே.ஆண்டு\n", "பொழில்-304", 2,
+     "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது."},
+    {"கட்டமைப்பு கருவி:\n    அளவை = 1\nக = கருவி()\nக = க.அளவை\n", "பொழில்-304", 4,
+     "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது."},
 };
 INSTANTIATE_TEST_SUITE_P(Access, Reports, testing::ValuesIn(kAccessRows));
 
 const char* const kAppendTwice = "அ = []\nஅ.சேர்(1, 2)\n";
 const ReportRow kCallRows[] = {
     {kAppendTwice, "பொழில்-331", 2, "'.சேர்()' 1 argument மட்டுமே ஏற்கும்."},
+    {"அ = []\nஅ.சேர்()\n", "பொழில்-331", 2, "'.சேர்()' 1 argument மட்டுமே ஏற்கும்."},
     {"செயல் கூடு(அ, ஆ):\n    விடு\nகூடு(1)\n", "பொழில்-331", 3,
      "'கூடு' 2 உள்ளீடுகளை ஏற்கும், ஆனால் 1 கொடுக்கப்பட்டுள்ளது."},
+    {"செயல் கூடு():\n    விடு\nகூடு(1, 2)\n", "பொழில்-331", 3,
+     "'கூடு' 0 உள்ளீடுகளை ஏற்கும், ஆனால் 2 கொடுக்கப்பட்டுள்ளது."},
     {"செயல் மாறு(மாற்று அ):\n    விடு\nமாறு(x கூட்டு 1)\n", "பொழில்-331", 3,
      "'மாற்று' parameter-க்கு ஒரு மாறி (Variable)-ஐ மட்டும் தான் அனுப்ப முடியும்."},
     {"அச்சிடு(என்னவகை())\n", "பொழில்-331", 1, "('என்னவகை' செயலுக்கு ஒரு மதிப்பு மட்டுமே தர வேண்டும்)"},
@@ -95,19 +117,39 @@ const ReportRow kCallRows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Calls, Reports, testing::ValuesIn(kCallRows));
 
+#define A_NUMBER(name) "'" name "' ஒரு 'எண்' (Number)-ஐ அனுப்ப வேண்டும், ஆனால் வேறொன்றை அனுப்பியுள்ளது."
+#define A_TEXT(name) "'" name "' ஒரு 'உரை' (String)-ஐ அனுப்ப வேண்டும், ஆனால் வேறொன்றை அனுப்பியுள்ளது."
+#define A_LIST(name) "'" name "' ஒரு 'பட்டியல்' (List)-ஐ அனுப்ப வேண்டும்."
+
 const ReportRow kReturnRows[] = {
-    {"செயல் தொகை_எண்():\n    திரும்பு \"அ\"\n", "பொழில்-334", 2,
-     "'தொகை_எண்' ஒரு 'எண்' (Number)-ஐ அனுப்ப வேண்டும், ஆனால் வேறொன்றை அனுப்பியுள்ளது."},
-    {"செயல் எண்():\n    திரும்பு []\n", "பொழில்-334", 2,
-     "'எண்' ஒரு 'எண்' (Number)-ஐ அனுப்ப வேண்டும், ஆனால் வேறொன்றை அனுப்பியுள்ளது."},
-    {"செயல் வரி_உரை():\n    திரும்பு 5\n", "பொழில்-334", 2,
-     "'வரி_உரை' ஒரு 'உரை' (String)-ஐ அனுப்ப வேண்டும், ஆனால் வேறொன்றை அனுப்பியுள்ளது."},
-    {"செயல் வரி_உரை():\n    திரும்பு 5.5\n", "பொழில்-334", 2,
-     "'வரி_உரை' ஒரு 'உரை' (String)-ஐ அனுப்ப வேண்டும், ஆனால் வேறொன்றை அனுப்பியுள்ளது."},
-    {"செயல் என்_பட்டியல்():\n    திரும்பு \"அ\"\n", "பொழில்-334", 2,
-     "'என்_பட்டியல்' ஒரு 'பட்டியல்' (List)-ஐ அனுப்ப வேண்டும்."},
-    {"செயல் பட்டியல்():\n    திரும்பு மெய்\n", "பொழில்-334", 2,
-     "'பட்டியல்' ஒரு 'பட்டியல்' (List)-ஐ அனுப்ப வேண்டும்."},
+    {"செயல் தொகை_எண்():\n    திரும்பு \"அ\"\n", "பொழில்-334", 2, A_NUMBER("தொகை_எண்")},
+    {"செயல் தொகை_எண்():\n    திரும்பு {}\n", "பொழில்-334", 2, A_NUMBER("தொகை_எண்")},
+    {"செயல் தொகை_எண்():\n    திரும்பு x => x\n", "பொழில்-334", 2, A_NUMBER("தொகை_எண்")},
+    {"செயல் எண்():\n    திரும்பு []\n", "பொழில்-334", 2, A_NUMBER("எண்")},
+    {"செயல் வரி_உரை():\n    திரும்பு 5\n", "பொழில்-334", 2, A_TEXT("வரி_உரை")},
+    {"செயல் வரி_உரை():\n    திரும்பு 5.5\n", "பொழில்-334", 2, A_TEXT("வரி_உரை")},
+    {"செயல் வரி_உரை():\n    திரும்பு [1]\n", "பொழில்-334", 2, A_TEXT("வரி_உரை")},
+    {"செயல் வரி_உரை():\n    திரும்பு {}\n", "பொழில்-334", 2, A_TEXT("வரி_உரை")},
+    {"செயல் என்_பட்டியல்():\n    திரும்பு \"அ\"\n", "பொழில்-334", 2, A_LIST("என்_பட்டியல்")},
+    {"செயல் என்_பட்டியல்():\n    திரும்பு {}\n", "பொழில்-334", 2, A_LIST("என்_பட்டியல்")},
+    {"செயல் என்_பட்டியல்():\n    திரும்பு x => x\n", "பொழில்-334", 2, A_LIST("என்_பட்டியல்")},
+    {"செயல் பட்டியல்():\n    திரும்பு மெய்\n", "பொழில்-334", 2, A_LIST("பட்டியல்")},
+    // The word may stand anywhere in the name, and the first rule that fits is the only one.
+    {"செயல் மொத்த_எண்ணிக்கை():\n    திரும்பு \"அ\"\n", "பொழில்-334", 2, A_NUMBER("மொத்த_எண்ணிக்கை")},
+    {"செயல் வரி_உரை_எண்():\n    திரும்பு \"அ\"\n", "பொழில்-334", 2, A_NUMBER("வரி_உரை_எண்")},
+    {"செயல் வரி_பட்டியல்_உரை():\n    திரும்பு [1]\n", "பொழில்-334", 2, A_TEXT("வரி_பட்டியல்_உரை")},
+    // A method and a nested function are asked by their own names.
+    {"கட்டமைப்பு கருவி:\n    செயல் தொகை_எண்(தான்):\n        திரும்பு \"அ\"\n", "பொழில்-334", 3,
+     A_NUMBER("தொகை_எண்")},
+    {"செயல் வரி_உரை():\n    செயல் தொகை_எண்():\n        திரும்பு \"அ\"\n    திரும்பு \"அ\"\n",
+     "பொழில்-334", 3, A_NUMBER("தொகை_எண்")},
+    {"செயல் தொகை_எண்():\n    செயல் உள்():\n        திரும்பு \"அ\"\n    திரும்பு \"அ\"\n", "பொழில்-334", 4,
+     A_NUMBER("தொகை_எண்")},
+    // The line is the value's own: a folded member of an enumeration has none.
+    {"வகை வண்ணங்கள்:\n    கருப்பு\n;\nசெயல் வரி_உரை():\n    திரும்பு வண்ணங்கள்.கருப்பு\n", "பொழில்-334", 0,
+     A_TEXT("வரி_உரை")},
+    {"செயல் தொகை_எண்():\n    திரும்பு {\n        \"அ\": 1\n    }\n", "பொழில்-334", 2,
+     A_NUMBER("தொகை_எண்")},
 };
 INSTANTIATE_TEST_SUITE_P(Returns, Reports, testing::ValuesIn(kReturnRows));
 
@@ -120,6 +162,21 @@ TEST(StructureReports, PrivateFieldThroughAnyOtherVariable) {
     const std::string other =
         std::string(kAccount) + "கட்டமைப்பு பணம்:\n    இருப்பு = 1\nப = பணம்()\nஅச்சிடு(ப.இருப்பு)\n";
     EXPECT_TRUE(refuses("பொழில்-321", 8, [&] { generate(other); }));
+}
+
+TEST(StructureReports, PrivateFieldIsReachedByWhatIsNoVariable) {
+    EXPECT_NO_THROW(
+        generate(std::string(kAccount) + "அச்சிடு(கணக்கு().இருப்பு)\nகணக்கு().இருப்பு = 1\n"));
+}
+
+TEST(StructureReports, PrivateFieldThatIsCalled) {
+    EXPECT_TRUE(refuses("பொழில்-321", 6,
+                        [] { generate(std::string(kAccount) + "க = கணக்கு()\nக.இருப்பு()\n"); }));
+}
+
+TEST(StructureReports, PrivateMethodIsReached) {
+    EXPECT_NO_THROW(generate(
+        "கட்டமைப்பு கருவி:\n    ரகசிய செயல் ஓடு(தான்):\n        விடு\nக = கருவி()\nக.ஓடு()\n"));
 }
 
 TEST(StructureReports, ReceiverReachesItsPrivateField) { EXPECT_NO_THROW(generate(kAccount)); }
@@ -168,11 +225,46 @@ TEST(StructureReports, FieldOfAnotherStructureAndArgumentsOfTheOwnPass) {
 }
 
 TEST(ReturnKinds, WhatPasses) {
-    EXPECT_NO_THROW(generate("செயல் வரி_உரை(அ):\n    திரும்பு அ\n"));
-    EXPECT_NO_THROW(generate("செயல் தொகை_எண்():\n    திரும்பு 5\n"));
-    EXPECT_NO_THROW(generate("செயல் என்_பட்டியல்(அ):\n    திரும்பு அ\n"));
-    EXPECT_NO_THROW(generate("செயல் என்_பட்டியல்():\n    திரும்பு [1]\n"));
-    EXPECT_NO_THROW(generate("செயல் சே():\n    திரும்பு \"அ\"\n"));
+    for (const char* source : {
+             "செயல் வரி_உரை(அ):\n    திரும்பு அ\n",
+             "செயல் வரி_உரை():\n    திரும்பு மெய்\n",
+             "செயல் வரி_உரை():\n    திரும்பு x => x\n",
+             "செயல் வரி_உரை():\n    திரும்பு இப்போதுநேரம்()\n",
+             "செயல் தொகை_எண்():\n    திரும்பு 5\n",
+             "செயல் தொகை_எண்():\n    திரும்பு 5.5\n",
+             "செயல் தொகை_எண்():\n    திரும்பு மெய்\n",
+             "செயல் தொகை_எண்():\n    திரும்பு இப்போதுநேரம்()\n",
+             "செயல் தொகை_எண்():\n    திரும்பு (\"அ\")\n",
+             "செயல் தொகை_எண்():\n    திரும்பு\n",
+             "செயல் வரி_உரை_பட்டியல்():\n    திரும்பு \"அ\"\n",
+             "செயல் என்_பட்டியல்(அ):\n    திரும்பு அ\n",
+             "செயல் என்_பட்டியல்():\n    திரும்பு [1]\n",
+             "செயல் எண்கள்():\n    திரும்பு \"அ\"\n",
+             "செயல் சே():\n    திரும்பு \"அ\"\n",
+         }) {
+        EXPECT_NO_THROW(generate(source)) << source;
+    }
+}
+
+TEST(OperatorKinds, WhatPasses) {
+    for (const char* source : {
+             "அ = \"a\" கழி \"b\"\n",
+             "அ = \"a\" கூட்டு மெய்\n",
+             "அ = \"a\" கூட்டு (1)\n",
+             "அ = \"a\" சமம் 1\n",
+             "அ = [1] சமம் [1]\n",
+             "அ = [1] இணை 1\n",
+             "அ = [1] பெருக்குஇருமை 1\n",
+             "அ = [1]\nஅ = அ கூட்டு 2\n",
+         }) {
+        EXPECT_NO_THROW(generate(source)) << source;
+    }
+}
+
+TEST(Constants, WhatPasses) {
+    EXPECT_NO_THROW(generate("மாறிலிகள் = 1\nமாறிலிகள் = 2\n"));
+    EXPECT_NO_THROW(generate("என்_மாறிலி = 1\nஎன்_மாறிலி = 2\n"));
+    EXPECT_NO_THROW(generate("மாறிலி_அ = 1\nமாறிலி_ஆ = 2\nமாறிலி = 3\n"));
 }
 
 struct StaticRow {
@@ -225,18 +317,26 @@ const StaticRow kStaticRows[] = {
     {"நேரம்.வினாடிகள்(1)\n", "பொழில்-331", "'நேரம்.வினாடிகள்()' arguments எதையும் ஏற்காது."},
     {"நே = நேரம்.உருவாக்கு(1)\n", "பொழில்-332", "'உருவாக்கு' என்பது ஒரு function இல்லை."},
     {"அ = 1\nஅ.ஓடு()\n", "பொழில்-332", "'ஓடு' என்பது ஒரு function இல்லை."},
+    {"நே = இப்போதுநேரம்()\nநே.ஆண்டு()\n", "பொழில்-332", "'ஆண்டு' என்பது ஒரு function இல்லை."},
+    {"நீளம்()\n", "பொழில்-331", "'நீளம்' 1 argument மட்டுமே ஏற்கும்."},
+    {"கட்டமைப்பு கருவி:\n    செயல் ஓடு(தான்):\n        விடு\nக = கருவி()\nக = க.ஓடு()\n", "பொழில்-332",
+     "'ஓடு' என்பது ஒரு function இல்லை."},
     {"எங்கும்_இல்லாதது()\n", "பொழில்-332", "'எங்கும்_இல்லாதது' என்பது ஒரு function இல்லை."},
     {"ஒவ்வொன்றாக இ இல் வரம்பு(1, 2, 3):\n    விடு\n", "பொழில்-331",
      "'வரம்பு' 1 அல்லது 2 arguments-ஐ மட்டுமே ஏற்கும்."},
     {"ஒவ்வொன்றாக இ இல் வரம்பு():\n    விடு\n", "பொழில்-331",
      "'வரம்பு' 1 அல்லது 2 arguments-ஐ மட்டுமே ஏற்கும்."},
     {"1()\n", "பொழில்-399", "Unknown call expression"},
+    {"க[0]()\n", "பொழில்-399", "Unknown call expression"},
+    {"க(1)(2)\n", "பொழில்-399", "Unknown call expression"},
+    {"அ = உரை(\"a\")\n", "பொழில்-399", "Unknown expression type in generator"},
     {"அ = 50%\n", "பொழில்-399", "Unknown expression type in generator"},
 };
 INSTANTIATE_TEST_SUITE_P(Generator, StaticRefusals, testing::ValuesIn(kStaticRows));
 
-TEST(Refusals, IndexStoreThatTheUserCallsByItsInnerName) {
+TEST(Refusals, IndexStoreThatTheUserCallsWithTooLittle) {
     EXPECT_THROW(generate("_set_index_internal(1)\n"), std::runtime_error);
+    EXPECT_THROW(generate("_set_index_internal(அ, 0)\n"), std::runtime_error);
 }
 
 TEST(Refusals, WalksInsideEachOtherWithoutEnd) {
@@ -247,6 +347,27 @@ TEST(Refusals, WalksInsideEachOtherWithoutEnd) {
     }
     source += std::string(13 * 4, ' ') + "விடு\n";
     EXPECT_THROW(generate(source), std::runtime_error);
+}
+
+/// Brings a doubling text to its limit in few steps.
+const std::string kLongText = '"' + std::string(100'000, 'a') + '"';
+
+/// A random number's lower end is written twice: inside itself it doubles the text every time.
+TEST(Refusals, RandomNumbersInsideEachOtherWithoutEnd) {
+    std::string number = kLongText;
+    for (int depth = 0; depth < 40; depth++) number = "சீரற்ற_எண்(" + number + ", 9)";
+    EXPECT_THROW(generate("அ = " + number + "\n"), std::runtime_error);
+}
+
+/// Two fields that make the structure before double the text from structure to structure.
+TEST(Refusals, StructuresThatMakeEachOtherWithoutEnd) {
+    std::string source = "கட்டமைப்பு வகுப்பு0:\n    எ = " + kLongText + "\n";
+    for (int count = 1; count < 40; count++) {
+        const std::string made = "வகுப்பு" + std::to_string(count - 1) + "()\n";
+        source +=
+            "கட்டமைப்பு வகுப்பு" + std::to_string(count) + ":\n    எ = " + made + "    ஏ = " + made;
+    }
+    EXPECT_THROW(generate(source + "க = வகுப்பு39()\n"), std::runtime_error);
 }
 
 TEST(Operators, UnknownWordIsRefusedAtLineZero) {
