@@ -236,6 +236,7 @@ private:
     void writeTopLevelFunction(const FunctionDefinitionStatement& definition);
     void writeNestedFunction(const FunctionDefinitionStatement& definition);
     void writeMemberComments(const StructDefinitionStatement& definition, bool isPrivate);
+    std::vector<const StructDefinitionStatement*> openAncestry(const std::string& name);
     void writeMethodBinding(const std::string& structName, const std::string& objectName,
                             const FunctionDefinitionStatement& method);
 

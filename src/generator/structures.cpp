@@ -52,30 +52,42 @@ void Generator::writeMemberComments(const StructDefinitionStatement& definition,
 }
 
 /// The parent's members first, so that the child's of the same name replace them.
-/// Raises 335 at the structure's line if a field makes the structure that it belongs to, directly
-/// or by way of others: the text would never end, and neither would the program.
 void Generator::bindPropertiesAndMethods(const std::string& structName,
                                          const std::string& objectName) {
-    const auto found = structDefinitions.find(structName);
-    if (found == structDefinitions.end()) {
-        if (abstractStructDefinitions.count(structName) != 0) return;
-        பிழை("பொழில்-323", 0, "'" + structName + "'");
+    const std::vector<const StructDefinitionStatement*> ancestry = openAncestry(structName);
+    for (auto at = ancestry.rbegin(); at != ancestry.rend(); ++at) {
+        const std::string& owner = (*at)->name.text;
+        for (const auto& field : (*at)->fields) {
+            indent();
+            out << objectName << "->properties[\"" << field->name << "\"] = ";
+            writeAny(field->initializer.get());
+            out << ";\n";
+        }
+        for (const auto& method : (*at)->methods) writeMethodBinding(owner, objectName, *method);
+        boundStructs.erase(owner);
     }
-    const StructDefinitionStatement& definition = *found->second;
-    if (!boundStructs.insert(structName).second) {
-        பிழை("பொழில்-335", definition.name.line, "'" + structName + "'");
+}
+
+/// The structure, its parent, and so on up to the first that is abstract or has none; all of them
+/// count as being written from here on. Raises 335 at the structure's line if a field makes the
+/// structure that it belongs to, directly or by way of others: the text would never end, and
+/// neither would the program.
+std::vector<const StructDefinitionStatement*> Generator::openAncestry(const std::string& name) {
+    std::vector<const StructDefinitionStatement*> ancestry;
+    for (const std::string* next = &name; next != nullptr;) {
+        const auto found = structDefinitions.find(*next);
+        if (found == structDefinitions.end()) {
+            if (abstractStructDefinitions.count(*next) != 0) break;
+            பிழை("பொழில்-323", 0, "'" + *next + "'");
+        }
+        const StructDefinitionStatement* definition = found->second;
+        if (!boundStructs.insert(*next).second) {
+            பிழை("பொழில்-335", definition->name.line, "'" + *next + "'");
+        }
+        ancestry.push_back(definition);
+        next = definition->hasParent ? &definition->parentName.text : nullptr;
     }
-    if (definition.hasParent) bindPropertiesAndMethods(definition.parentName.text, objectName);
-    for (const auto& field : definition.fields) {
-        indent();
-        out << objectName << "->properties[\"" << field->name << "\"] = ";
-        writeAny(field->initializer.get());
-        out << ";\n";
-    }
-    for (const auto& method : definition.methods) {
-        writeMethodBinding(structName, objectName, *method);
-    }
-    boundStructs.erase(structName);
+    return ancestry;
 }
 
 /// A method as a function value that holds its instance. All parameters go by value.

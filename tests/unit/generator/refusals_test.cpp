@@ -218,6 +218,28 @@ TEST(StructureReports, ParentsThatGoRoundInACircle) {
     }));
 }
 
+TEST(StructureReports, ParentsUpToAHundredThousandPass) {
+    std::vector<std::unique_ptr<StructDefinitionStatement>> line;
+    std::map<std::string, StructDefinitionStatement*> definitions;
+    for (int count = 0; count < 100'000; count++) {
+        const Token name{TokenType::IDENTIFIER, "வகுப்பு" + std::to_string(count), 1};
+        const Token parent = count == 0 ? name : line.back()->name;
+        std::vector<std::unique_ptr<VarDeclaration>> fields;
+        if (count == 0) {
+            fields.push_back(std::make_unique<VarDeclaration>(
+                "எ", std::make_unique<NumberLiteral>("1"), VarType::Unset, false));
+        }
+        line.push_back(std::make_unique<StructDefinitionStatement>(
+            name, parent, count > 0, std::move(fields),
+            std::vector<std::unique_ptr<FunctionDefinitionStatement>>(), false));
+        definitions[name.text] = line.back().get();
+    }
+    const Program program;
+    Generator generator(program, {}, definitions, {}, "", "test.பொழில்");
+    generator.bindPropertiesAndMethods(line.back()->name.text, "o");
+    EXPECT_EQ(generator.out.str(), "o->properties[\"எ\"] = std::any(1LL);\n");
+}
+
 TEST(StructureReports, FieldOfAnotherStructureAndArgumentsOfTheOwnPass) {
     EXPECT_NO_THROW(
         generate("கட்டமைப்பு அ:\n    எ = 1\nகட்டமைப்பு ஆ(அ):\n    ஏ = அ()\n    செயல் துவக்கம்(தான், ம):\n"
