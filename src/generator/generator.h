@@ -14,6 +14,7 @@
 #include "syntax/definitions.h"
 #include "syntax/expressions.h"
 #include "syntax/literals.h"
+#include "syntax/nesting.h"
 #include "syntax/node.h"
 #include "syntax/statements.h"
 #include "syntax/var_type.h"
@@ -244,6 +245,7 @@ private:
     /// the source twice, and inside each other they double the text every time.
     void refuseEndlessText();
 
+    StackBounds stack;
     std::set<std::string> boundStructs;  ///< Structures whose members are being written.
     int collectionLoops = 0;  ///< List walks around the cursor; each doubles its body's text.
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "generator/generator.h"
+#include "generator/static_error.h"
 
 void Generator::visitStructDefinitionStatement(const StructDefinitionStatement* definition) {
     const std::string& name = definition->name.text;
@@ -108,8 +109,11 @@ void Generator::writeMethodBinding(const std::string& structName, const std::str
 }
 
 /// S(1)  ->  an immediately invoked lambda that makes, fills and starts the instance.
-/// An inherited `துவக்கம்` is found. Raises 333 for arguments that no `துவக்கம்` takes.
+/// An inherited `துவக்கம்` is found. Raises 333 for arguments that no `துவக்கம்` takes, and 291
+/// without a line for structures whose fields make structures beyond what the stack holds: the
+/// parser bounds the depth of a single expression alone.
 void Generator::writeConstructor(const CallExpression& call, const std::string& structName) {
+    if (stack.halfUsed()) throw_static_error("பொழில்-291", "");
     out << "[&]() -> std::any {\n";
     indentLevel++;
     indent();

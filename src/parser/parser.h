@@ -13,11 +13,11 @@
 #include <vector>
 
 #include "lexer/token.h"
-#include "parser/nesting.h"
 #include "syntax/application.h"
 #include "syntax/definitions.h"
 #include "syntax/expressions.h"
 #include "syntax/literals.h"
+#include "syntax/nesting.h"
 #include "syntax/statements.h"
 
 class Parser {

@@ -1,4 +1,4 @@
-#include "parser/nesting.h"
+#include "syntax/nesting.h"
 
 #include <pthread.h>
 
@@ -13,6 +13,7 @@ StackBounds::StackBounds() {
     std::size_t size = 0;
     if (pthread_attr_getstack(&attributes, &address, &size) == 0) {
         lowest = reinterpret_cast<std::size_t>(address);
+        middle = lowest + size / 2;
     }
     pthread_attr_destroy(&attributes);
 }
@@ -20,4 +21,8 @@ StackBounds::StackBounds() {
 bool StackBounds::nearlyFull() const {
     const auto here = reinterpret_cast<std::size_t>(__builtin_frame_address(0));
     return lowest != 0 && here < lowest + kReserveBytes;
+}
+
+bool StackBounds::halfUsed() const {
+    return reinterpret_cast<std::size_t>(__builtin_frame_address(0)) < middle;
 }

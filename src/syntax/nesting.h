@@ -15,7 +15,10 @@ public:
     StackBounds();
     /// True if less than a reserve for the report is left.
     bool nearlyFull() const;
+    /// True if more than half of the stack is in use.
+    bool halfUsed() const;
 
 private:
     std::size_t lowest = 0;  ///< Address; 0 if the bounds couldn't be read.
+    std::size_t middle = 0;  ///< Address; 0 likewise.
 };

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "error_codes.h"
+#include "support/deep_stack.h"
 #include "support/front_end.h"
 
 namespace {
@@ -390,6 +391,18 @@ TEST(Refusals, StructuresThatMakeEachOtherWithoutEnd) {
             "கட்டமைப்பு வகுப்பு" + std::to_string(count) + ":\n    எ = " + made + "    ஏ = " + made;
     }
     EXPECT_THROW(generate(source + "க = வகுப்பு39()\n"), std::runtime_error);
+}
+
+TEST(Refusals, FieldsThatMakeStructuresBeyondTheStack) {
+    const std::string open(100, '[');
+    const std::string close(100, ']');
+    std::string source = "கட்டமைப்பு வகுப்பு0:\n    எ = 1\n";
+    for (int count = 1; count < 400; count++) {
+        source += "கட்டமைப்பு வகுப்பு" + std::to_string(count) + ":\n    எ = " + open + "வகுப்பு" +
+                  std::to_string(count - 1) + "()" + close + "\n";
+    }
+    source += "க = வகுப்பு399()\n";
+    runOnStack(8 * kMebibyte, [&] { EXPECT_THROW(generate(source), std::runtime_error); });
 }
 
 TEST(Operators, UnknownWordIsRefusedAtLineZero) {
