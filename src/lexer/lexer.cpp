@@ -2,6 +2,7 @@
 // token are tried. Numbers and words stand in files of their own.
 #include "lexer/lexer.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "error_codes.h"
@@ -31,7 +32,9 @@ const SymbolRow kSymbols[] = {
 }  // namespace
 
 Lexer::Lexer(const std::string& source, const std::string& filename)
-    : source(source), filename(filename) {}
+    : source(source),
+      filename(filename),
+      sourceLineEnd(std::min(this->source.find('\n'), this->source.size())) {}
 
 std::vector<Token> Lexer::tokenize() {
     std::vector<Token> tokens;
@@ -57,8 +60,9 @@ std::vector<Token> Lexer::tokenize() {
 bool Lexer::startLine(std::vector<Token>& tokens) {
     lineStart = position;
     const auto start = static_cast<std::size_t>(position);
-    const std::size_t end = source.find('\n', start);
-    currentLine = source.substr(start, end == std::string::npos ? end : end - start);
+    // Looked for once a line of the file, however many statements share it.
+    if (start > sourceLineEnd) sourceLineEnd = std::min(source.find('\n', start), source.size());
+    currentLine = std::string_view(source).substr(start, sourceLineEnd - start);
     checkMixedIndentation();
 
     // The width and not the byte count: each leading tab jumps three bytes further into the line.
@@ -211,8 +215,8 @@ void Lexer::skipWhitespace() {
 
 void Lexer::பிழை(const std::string& code) {
     const பிழைதகவல்& entry = பிழை_அகராதி.at(code);
-    ErrorHandler::அறிக்கை(LEXICAL_ERROR, code, entry.விளக்கம், filename, lineNumber, currentLine,
-                         entry.தீர்வு);
+    ErrorHandler::அறிக்கை(LEXICAL_ERROR, code, entry.விளக்கம், filename, lineNumber,
+                         std::string(currentLine), entry.தீர்வு);
 }
 
 /// Throws std::out_of_range if the cursor stands past the end of the text.

@@ -44,12 +44,14 @@ public:
     std::string filename;
     int position = 0;  ///< Byte offset of the cursor.
     int lineNumber = 1;
-    std::string currentLine;             ///< The logical line's text, for reports.
+    std::string_view currentLine;        ///< The logical line's text in `source`, for reports.
     std::vector<int> indentStack = {0};  ///< Widths of the open blocks.
     int lineStart = 0;                   ///< Byte offset where the logical line began.
     bool atLineStart = true;
 
 private:
+    std::size_t sourceLineEnd;  ///< Byte offset of the end of the file's line last begun.
+
     // tokenize
     bool startLine(std::vector<Token>& tokens);
     void emitIndentation(int indent, std::vector<Token>& tokens);
