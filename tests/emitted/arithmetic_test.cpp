@@ -73,6 +73,7 @@ TEST(Divide, ByZeroOfAnyCarrierThrows) {
 TEST(Divide, LooksForZeroBeforeItLooksAtTheLeftSide) {
     EXPECT_EQ(messageOf([] { fn_div_any(std::string("a"), 0LL); }), kByZero);
     EXPECT_EQ(messageOf([] { fn_div_any(std::any(), 0.0L); }), kByZero);
+    EXPECT_EQ(messageOf([] { fn_div_any(List{}, 0); }), kByZero);
 }
 
 TEST(Divide, OfWhatIsNoNumberIsABadCast) {

@@ -106,6 +106,14 @@ TEST_F(Files, ThatAreNotThereCantBeRead) {
     EXPECT_EQ(codeOfEnding([] { read("இல்லை.txt"); }), "பொழில்-341");
 }
 
+// It opens, and nothing comes out of it.
+TEST_F(Files, ThatAreDirectoriesReadAsTheEmptyText) {
+    fs::create_directory("அடைவு");
+    EXPECT_TRUE(exists("அடைவு"));
+    EXPECT_EQ(read("அடைவு"), "");
+    EXPECT_EQ(codeOfEnding([] { write("அடைவு", "x"); }), "பொழில்-343");
+}
+
 TEST_F(Files, InAMissingDirectoryCantBeWritten) {
     EXPECT_EQ(codeOfEnding([] { write("இல்லை/அ.txt", "x"); }), "பொழில்-343");
     EXPECT_EQ(codeOfEnding([] { append("இல்லை/அ.txt", "x"); }), "பொழில்-343");

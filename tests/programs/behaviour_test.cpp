@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 
@@ -47,9 +48,19 @@ TEST(Behaviour, TheOutputOfALineIsThereBeforeTheNextOneRuns) {
     EXPECT_NE(ran.signal, 0);
 }
 
+const std::vector<std::string> kInLittleMemory = {"sh", "-c", "ulimit -v 131072; exec \"$0\""};
+
+TEST(Behaviour, SplittingByTheEmptyTextFillsTheMemory) {
+    const NativeProgram program = build("split", "அச்சிடு(பிளவு(\"a\", \"\"))\n");
+    const ProcessResult ran = program.run("", kInLittleMemory);
+    EXPECT_EQ(ran.signal, SIGABRT);
+    EXPECT_EQ(ran.out, "");
+    EXPECT_NE(ran.err.find("std::bad_alloc"), std::string::npos) << ran.err;
+}
+
 TEST(Behaviour, AListThatFillsTheMemoryIsReported) {
     const NativeProgram program = build("memory", "அ = []\nசுற்று மெய்:\n    அ.சேர்(1)\n");
-    const ProcessResult ran = program.run("", {"sh", "-c", "ulimit -v 131072; exec \"$0\""});
+    const ProcessResult ran = program.run("", kInLittleMemory);
     EXPECT_EQ(ran.exitCode, 1);
     EXPECT_NE(ran.out.find("பொழில்-382"), std::string::npos) << ran.out;
     EXPECT_NE(ran.out.find("    03 |      அ.சேர்(1)\n"), std::string::npos) << ran.out;
