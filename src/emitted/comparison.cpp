@@ -47,22 +47,17 @@ const std::string* pozhil_text(const std::any& value, std::string& room) {
 
 // The column of the outcome in the table above, or -1 if the two can't be compared.
 int pozhil_outcome(const std::any& left, const std::any& right) {
-    const std::type_info* kind = &left.type();
-    const std::type_info* other = &right.type();
-    if (kind == &typeid(long long) && other == kind) {
-        long long i = *std::any_cast<long long>(&left);
-        long long j = *std::any_cast<long long>(&right);
-        return i < j ? 0 : i == j ? 1 : 2;
-    }
+    const long long* i = std::any_cast<long long>(&left);
+    const long long* j = std::any_cast<long long>(&right);
+    if (i != nullptr && j != nullptr) return *i < *j ? 0 : *i == *j ? 1 : 2;
     long double a, b;
     if (pozhil_number(left, a)) {
         if (!pozhil_number(right, b)) return -1;
         return a < b ? 0 : a == b ? 1 : a > b ? 2 : 3;
     }
-    if (kind == &typeid(bool)) {
-        if (other != kind) return -1;
-        return *std::any_cast<bool>(&left) == *std::any_cast<bool>(&right) ? 4 : 5;
-    }
+    const bool* c = std::any_cast<bool>(&left);
+    const bool* d = std::any_cast<bool>(&right);
+    if (c != nullptr && d != nullptr) return *c == *d ? 4 : 5;
     std::string room, otherRoom;
     const std::string* s = pozhil_text(left, room);
     const std::string* t = pozhil_text(right, otherRoom);
@@ -70,12 +65,23 @@ int pozhil_outcome(const std::any& left, const std::any& right) {
     return *s == *t ? 4 : 5;
 }
 
-bool fn_compare_any(const std::any& left, const std::any& right, std::string op) {
+bool pozhil_holds(const std::any& left, const std::any& right, const char* op, size_t bytes) {
     const int outcome = pozhil_outcome(left, right);
     if (outcome < 0) return false;
-    const size_t bytes = op.size();
     for (const auto& comparison : pozhil_comparisons) {
-        if (comparison.bytes == bytes && op == comparison.text) return comparison.holds[outcome];
+        if (comparison.bytes != bytes) continue;
+        if (std::char_traits<char>::compare(op, comparison.text, bytes) == 0) {
+            return comparison.holds[outcome];
+        }
     }
     return false;
+}
+
+bool fn_compare_any(const std::any& left, const std::any& right, std::string op) {
+    return pozhil_holds(left, right, op.data(), op.size());
+}
+
+// The same for an operator that stands in the generated text: no text is made of it first.
+bool fn_compare_any(const std::any& left, const std::any& right, const char* op) {
+    return pozhil_holds(left, right, op, std::char_traits<char>::length(op));
 }

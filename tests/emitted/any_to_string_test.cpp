@@ -28,6 +28,18 @@ TEST(AnyToString, OfTexts) {
     EXPECT_EQ(fn_any_to_string(std::string()), "");
 }
 
+// A text that isn't held in a std::any is taken by an overload; one that has a name is copied.
+TEST(AnyToString, OfTextsHoweverTheyAreGiven) {
+    const std::any held = std::string("நீளமான வாசகம் ஒன்று");
+    std::string named = "நீளமான வாசகம் ஒன்று";
+    const std::string constant = named;
+    EXPECT_EQ(fn_any_to_string(held), named);
+    EXPECT_EQ(fn_any_to_string(named), constant);
+    EXPECT_EQ(fn_any_to_string(constant), named);
+    EXPECT_EQ(fn_any_to_string(named + "!"), "நீளமான வாசகம் ஒன்று!");
+    EXPECT_EQ(named, constant);
+}
+
 TEST(AnyToString, OfCharacters) {
     EXPECT_EQ(fn_any_to_string(_PozhilChar{"அ"}), "அ");
     EXPECT_EQ(fn_any_to_string(_PozhilChar{"abc"}), "abc");

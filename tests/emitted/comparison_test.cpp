@@ -21,11 +21,14 @@ const Operator kGreaterEqual = {">=", "பெரிதுசமம்"};
 const Operator kLessEqual = {"<=", "சிறிதுசமம்"};
 const Operator kAll[] = {kEqual, kNotEqual, kGreater, kLess, kGreaterEqual, kLessEqual};
 
-/// Which operators hold between the two, in the order of kAll, as ones and zeros.
+/// Which operators hold between the two, in the order of kAll, as ones and zeros. An operator given
+/// as a literal is taken by an overload, which must say the same.
 std::string held(const std::any& left, const std::any& right) {
     std::string marks;
     for (const Operator& op : kAll) {
-        const bool holds = fn_compare_any(left, right, op.symbol);
+        const bool holds = fn_compare_any(left, right, std::string(op.symbol));
+        EXPECT_EQ(fn_compare_any(left, right, std::string(op.word)), holds) << op.word;
+        EXPECT_EQ(fn_compare_any(left, right, op.symbol), holds) << op.symbol;
         EXPECT_EQ(fn_compare_any(left, right, op.word), holds) << op.word;
         marks += holds ? '1' : '0';
     }
@@ -85,6 +88,7 @@ TEST(Comparison, OfTextsWithCharacters) {
 TEST(Comparison, OfTruthHasNoOrder) {
     EXPECT_EQ(held(true, true), kHeldIfSame);
     EXPECT_EQ(held(false, true), kHeldIfDifferent);
+    EXPECT_EQ(held(true, false), kHeldIfDifferent);
 }
 
 TEST(Comparison, OfDifferentKindsIsFalseAlsoForUnequal) {
@@ -110,6 +114,7 @@ TEST(Comparison, OfListsDictionariesObjectsAndNothingIsFalse) {
 TEST(Comparison, OfAnUnknownOperatorIsFalse) {
     for (const char* op : {"", "=", "===", "<>", "!", "கூட்டு", "சமம", "சமம் "}) {
         EXPECT_FALSE(fn_compare_any(1LL, 1LL, op)) << op;
+        EXPECT_FALSE(fn_compare_any(1LL, 1LL, std::string(op))) << op;
         EXPECT_FALSE(fn_compare_any(1LL, 2LL, op)) << op;
         EXPECT_FALSE(fn_compare_any(std::string("a"), std::string("a"), op)) << op;
     }
