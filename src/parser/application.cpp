@@ -117,14 +117,15 @@ void Parser::parseScreenSide(const char* word, float& side) {
 }
 
 /// body = "குமரி" "(" [ widget ] ")"
-/// Null for an empty body. A second widget is no `)`.
+/// Null for an empty body. A second widget is no `)`. At the end of the text a widget is still
+/// looked for, so 203 tells of its parenthesis.
 std::unique_ptr<Statement> Parser::parseUIBody() {
     const int line = consume(TokenType::BODY, "பொழில்-242").line;
     openParenthesis();
     skipNewlines();
     while (check(TokenType::INDENT)) advance();
     std::unique_ptr<Statement> root;
-    if (!check(TokenType::RIGHT_PAREN) && !is_at_end()) root = parseWidget();
+    if (!check(TokenType::RIGHT_PAREN)) root = parseWidget();
     skipNewlines();
     while (check(TokenType::DEDENT)) advance();
     consume(TokenType::RIGHT_PAREN, "பொழில்-204", line);

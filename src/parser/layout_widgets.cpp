@@ -273,11 +273,11 @@ void Parser::parseSpacerItem(WidgetParts& parts, int line) {
 }
 
 /// padding = "(" [ "அளவு" ":" expression ] ")" [ "(" { widget } ")" ]
-/// The scanner makes `அளவு` a HEIGHT, so from a source the first group is always empty. The second
-/// counts no indentation and knows no comma. Meant.
+/// The first parenthesis stands on the word's line. The scanner makes `அளவு` a HEIGHT, so from a
+/// source the first group is always empty. The second counts no indentation and knows no comma.
+/// Meant.
 std::unique_ptr<Statement> Parser::parsePadding(int line) {
     auto node = std::make_unique<PaddingNode>();
-    skipNewlines();
     openParenthesis(line);
     if (check(TokenType::IDENTIFIER) && peek().text == "அளவு") {
         const std::string key = advance().text;
