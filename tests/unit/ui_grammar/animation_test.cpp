@@ -98,6 +98,24 @@ TEST(Animation, CurveIsATextOrAPlainWord) {
     }
 }
 
+TEST(Animation, ReadsAValueOnALaterLine) {
+    const AnimationNode animation =
+        animationOf("(நிலைமை:\n\n\"hover\"\nகாலம்\n:\n5\nவகை:\n\"ease\"\nஇலக்கு:\n(விரிவு\n:\n2))");
+    EXPECT_EQ(animation.trigger, "hover");
+    EXPECT_EQ(animation.duration, 5);
+    EXPECT_EQ(animation.curve, "ease");
+    EXPECT_EQ(animation.numberTargets.at("விரிவு"), 2.0F);
+}
+
+/// What is passed over may be a word that would be read itself.
+TEST(Animation, PassesOverTheOneTokenBehindAnUnknownWord) {
+    for (const char* entry : {"மொழி: வகை", "மொழி:\nவகை", "மொழி வகை", "மொழி\nவகை"}) {
+        const AnimationNode animation = animationOf("(" + std::string(entry) + ", காலம்: 8)");
+        EXPECT_EQ(animation.duration, 8) << entry;
+        EXPECT_EQ(animation.curve, "linear") << entry;
+    }
+}
+
 TEST(Animation, TargetMayBeAnyWord) {
     for (const std::string name : {"விரிவு", "அகலம்", "நிறம்", "எனில்", "அறியாத", "5"}) {
         EXPECT_EQ(animationOf("(இலக்கு(" + name + ": 1.5))").numberTargets.at(name), 1.5F);
@@ -234,6 +252,15 @@ TEST(AnimationTarget, PassesOverAnythingElse) {
         targetOf(scanAs(TokenType::UNKNOWN, {}, "(அகலம்: 5, நிறம்: 6, துள்ளல், 7"));
     EXPECT_EQ(filledFields(target), 0);
     EXPECT_FALSE(target.color.has_value());
+}
+
+TEST(AnimationTarget, EndsBehindItsParenthesis) {
+    Parser parser = parserOver({mark(TokenType::LEFT_PAREN), mark(TokenType::GROW), number("2"),
+                                mark(TokenType::RIGHT_PAREN), mark(TokenType::SHRINK)});
+    const AnimationTargetNode target = parser.parseAnimationTarget();
+    EXPECT_EQ(target.grow->value, 2.0F);
+    EXPECT_FALSE(target.shrink.has_value());
+    EXPECT_TRUE(parser.check(TokenType::SHRINK));
 }
 
 TEST(AnimationTarget, EndsWithTheTokens) {

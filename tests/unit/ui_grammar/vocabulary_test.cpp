@@ -126,6 +126,28 @@ TEST(WidgetWord, IsKnownAsAPlainWord) {
     }
 }
 
+/// Their class is a generic widget's, but not what they make of an item: a generic widget would
+/// keep the value and its line.
+TEST(WidgetWord, WithItsOwnItemsIsKnownAsAPlainWord) {
+    for (const std::string word : {"வெற்றிடம்", "உரைபொத்தான்", "அட்டை", "பட்டியல்_உருப்படி", "எச்சரிக்கை"}) {
+        Parser parser = parserOver(scanAs(TokenType::IDENTIFIER, {word}, word + "(5)"));
+        const auto widget = parser.parseWidget();
+        EXPECT_TRUE(dynamic_cast<const WidgetNode&>(*widget).properties.empty()) << word;
+    }
+    Parser stack = parserOver(scanAs(TokenType::IDENTIFIER, {"அடுக்கி"}, "அடுக்கி()"));
+    EXPECT_EQ(stack.parseWidget()->line, 0);
+}
+
+/// The word's parenthesis may stand on a later line, a padding's alone may not.
+TEST(WidgetWord, MayStandAboveItsParenthesis) {
+    for (const WordRow& row : kWords) {
+        const std::string widget = row.word + ("\n\n" + groupsOf(row));
+        const std::string source = "நெடுவரிசை(\n" + widget + ")\n";
+        const bool isPadding = row.nodeClass == typeid(PaddingNode);
+        EXPECT_EQ(refusalOf(source), isPadding ? "பொழில்-203" : "none") << row.word;
+    }
+}
+
 TEST(WidgetWord, MayBeAnyTokenWhereAWidgetIsExpected) {
     for (const char* word : {"அறியாத", "5", "\"அ\"", "50%", "எனில்", "நிறம்", "காலம்", ":", "=>"}) {
         EXPECT_TRUE(accepted("நெடுவரிசை(" + std::string(word) + "())\n")) << word;
