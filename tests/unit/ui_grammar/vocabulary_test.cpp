@@ -148,6 +148,18 @@ TEST(WidgetWord, MayStandAboveItsParenthesis) {
     }
 }
 
+/// A layout widget tells of its missing parenthesis at its word, the others where it should stand.
+TEST(WidgetWord, NeedsItsParenthesisUnlessItIsASpacer) {
+    for (const WordRow& row : kWords) {
+        const std::string source = "நெடுவரிசை(\n" + std::string(row.word) + "\n)\n";
+        if (row.word == std::string("வெற்றிடம்")) {
+            EXPECT_TRUE(accepted(source));
+            continue;
+        }
+        EXPECT_TRUE(refused(source, "பொழில்-203", row.carriesLine ? 3 : 2)) << row.word;
+    }
+}
+
 TEST(WidgetWord, MayBeAnyTokenWhereAWidgetIsExpected) {
     for (const char* word : {"அறியாத", "5", "\"அ\"", "50%", "எனில்", "நிறம்", "காலம்", ":", "=>"}) {
         EXPECT_TRUE(accepted("நெடுவரிசை(" + std::string(word) + "())\n")) << word;
