@@ -104,6 +104,13 @@ TEST(Number, OfTamilDigitsInAValueIsPassedOver) {
     EXPECT_EQ(source.property("உரை"), "number 7 @1\n");
 }
 
+TEST(Number, InAGuardTakesOneTokenAlong) {
+    const WidgetSource source("உரை([உரை(உரைபாணி(அளவு: ௧௬ 5 7)");
+    EXPECT_EQ(source.keys(), "உரை");
+    EXPECT_EQ(source.property("உரை"), "number 7 @1\n");
+    EXPECT_EQ(refusalOf("உரை([உரை(உரைபாணி(அளவு: ௧௬"), "பொழில்-204");
+}
+
 TEST(Number, InAGuardDoesNotCountAsAValue) {
     const WidgetSource source("உரை(\"அ\", [உரை(உரைபாணி(அளவு: ௧௬, \"ஆ\")");
     EXPECT_EQ(source.keys(), "arg1 உரை");

@@ -176,6 +176,7 @@ TEST(Words, OfGridSpacerBoxAndButtonArePlainToo) {
         {"உரைபொத்தான்(உரைபொ_பாணி(அ: 5))", "style_அ"},
         {"அட்டை(அட்டை_பாணி(அ: 5))", "style_அ"},
         {"உரை(தேடல்_பாணி(அ: 5))", "style_அ"},
+        {"உரை(எச்சரிக்கை_பாணி(அ: 5))", "style_அ"},
         {"எச்சரிக்கை(எச்சரிக்கை_பாணி(அ: 5))", "style_அ"},
     };
     for (const auto& [source, key] : rows) {
@@ -188,6 +189,11 @@ TEST(Words, OfGridSpacerBoxAndButtonArePlainToo) {
         EXPECT_EQ(widget.properties.size(), 1U) << source;
         EXPECT_EQ(widget.properties.count(key), 1U) << source;
     }
+}
+
+TEST(Grid, OpensItsGapsWithAParenthesis) {
+    EXPECT_EQ(refusalOf("கட்டம்_காட்சி(இவெ உயரம்: 5))()"), "பொழில்-203");
+    EXPECT_EQ(refusalOf("கட்டம்_காட்சி(இவெ\n(உயரம்: 5))()"), "பொழில்-203");
 }
 
 TEST(Box, GivesItsAlignmentAGroupOfItsOwn) {

@@ -2,8 +2,10 @@
 // text; those whose word has a kind that no item takes are refused.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 
+#include "unit/parser_frame/handmade.h"
 #include "unit/ui_grammar/widget_sources.h"
 
 namespace {
@@ -83,6 +85,63 @@ TEST(PropertyKey, OfAGenericWidgetIsStoredUnderItsOwnText) {
         }
     }
     EXPECT_EQ(count, 135);
+}
+
+/// One word for each kind that may be a key; அழுத்தினால் is a step of its own.
+TEST(PropertyKey, MayBeAWordOfTwentyFiveKinds) {
+    std::istringstream keys(
+        "மொழி தலைப்பு அழுத்தினால் உரை உயரம் அகலம் குறிப்பு தத்தல்_தேர்வு அடிப்பகுதிதேர்வு பின்னணி "
+        "பெட்டிபின்னணி தேர்வு_நிறம் தேர்வற்ற_நிறம் வளைவு நிழல் விகிதம் கரை_அளவு கரை_நிறம் பக்கம் "
+        "எழுத்து_நிறம் தேடல்_குறிப்பு தேடல்_படம் அழி_படம் களப்பின்னணி எழுத்தளவு");
+    int count = 0;
+    for (std::string key; keys >> key; count++) {
+        EXPECT_EQ(WidgetSource("உரை(\n" + key + ": 5\n, \"அ\")").keys(), key == "உரை" ? "உரை"
+                                                                         : key < "உரை"
+                                                                             ? key + " உரை"
+                                                                             : "உரை " + key)
+            << key;
+    }
+    EXPECT_EQ(count, 25);
+}
+
+TEST(PropertyKey, OfAnyOtherKindIsNotStored) {
+    const TokenType kinds[] = {TokenType::IDENTIFIER,
+                               TokenType::TITLE,
+                               TokenType::TEXT,
+                               TokenType::HEIGHT,
+                               TokenType::WIDTH,
+                               TokenType::HINT,
+                               TokenType::TAB_SELECTION,
+                               TokenType::BACKGROUND,
+                               TokenType::BOTTOM_SELECTION,
+                               TokenType::BOX_BACKGROUND,
+                               TokenType::CORNER_CURVE,
+                               TokenType::SELECTED_COLOUR,
+                               TokenType::UNSELECTED_COLOUR,
+                               TokenType::SHADOW,
+                               TokenType::ASPECT_RATIO,
+                               TokenType::BORDER_SIZE,
+                               TokenType::BORDER_COLOUR,
+                               TokenType::PAGE,
+                               TokenType::TEXT_COLOUR,
+                               TokenType::SEARCH_HINT,
+                               TokenType::SEARCH_IMAGE,
+                               TokenType::CLEAR_IMAGE,
+                               TokenType::FONT_SIZE,
+                               TokenType::FIELD_BACKGROUND};
+    for (int kind = 0; kind < 144; kind++) {
+        const auto type = static_cast<TokenType>(kind);
+        const bool isKey = std::find(std::begin(kinds), std::end(kinds), type) != std::end(kinds);
+        Parser parser = parserOver(scanAs(type, {"abc"}, "மாற்றி(abc: 5)"));
+        bool isStored = false;
+        try {
+            const auto widget = parser.parseWidget();
+            isStored = dynamic_cast<const WidgetNode&>(*widget).properties.count("abc") == 1;
+        } catch (const Refusal&) {
+            isStored = false;
+        }
+        EXPECT_EQ(isStored, isKey) << kind;
+    }
 }
 
 TEST(PropertyKey, WhoseKindNoItemTakesIsRefused) {
