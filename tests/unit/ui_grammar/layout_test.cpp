@@ -152,6 +152,13 @@ TEST(Flexible, SharesAreWholeNumbers) {
     EXPECT_THROW(flexOf("பங்கு: 99999999999"), std::out_of_range);
 }
 
+/// A widget that is a property's value goes with the property; it is no child.
+TEST(Flexible, DropsItsProperties) {
+    const WidgetSource source("நெகிழ்வு(பங்கு: 2, அகலம்: 10, அடையாளம்: உரை(\"அ\"), உரை(\"ஆ\"))");
+    EXPECT_EQ(source.keys(), "");
+    EXPECT_EQ(source.node().children.size(), 1U);
+}
+
 TEST(Share, IsAPlainWordToo) {
     for (const std::string word : {"விரிவாக்கம்", "வெற்றிடம்"}) {
         const auto node =

@@ -64,6 +64,14 @@ TEST(Alignment, MayBeWrittenAsAKeyword) {
     EXPECT_EQ(static_cast<int>(dynamic_cast<WidgetNode&>(*column.children.at(0)).alignment), 8);
 }
 
+TEST(TextStyleWord, MayBeAPlainWordOrAKeyword) {
+    for (const TokenType kind : {TokenType::IDENTIFIER, TokenType::KEYWORD}) {
+        Parser parser = parserOver(scanAs(kind, {"உரைபாணி"}, "உரை(உரைபாணி(அளவு: 20))"));
+        const auto widget = parser.parseWidget();
+        EXPECT_EQ(dynamic_cast<const WidgetNode&>(*widget).textStyle.fontSize, 20.0F);
+    }
+}
+
 TextStyle styleOf(const std::string& entry) {
     return WidgetSource("உரை(உரைபாணி(" + entry + "))").node().textStyle;
 }
