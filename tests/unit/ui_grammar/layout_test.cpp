@@ -198,6 +198,10 @@ TEST(Words, OfGridSpacerBoxAndButtonArePlainToo) {
     }
 }
 
+TEST(Grid, OpensItsGroupWithAParenthesis) {
+    EXPECT_EQ(refusalOf(inRow("கட்டம்_காட்சி cols: 2)()")), "பொழில்-203");
+}
+
 TEST(Grid, OpensItsGapsWithAParenthesis) {
     EXPECT_EQ(refusalOf("கட்டம்_காட்சி(இவெ உயரம்: 5))()"), "பொழில்-203");
     EXPECT_EQ(refusalOf("கட்டம்_காட்சி(இவெ\n(உயரம்: 5))()"), "பொழில்-203");
