@@ -89,9 +89,10 @@ ProcessResult NativeProgram::compile() const {
     return runCommand(command, options);
 }
 
-ProcessResult NativeProgram::checkSyntax() const {
+ProcessResult NativeProgram::checkSyntax(const std::vector<std::string>& furtherOptions) const {
     std::vector<std::string> command = {"g++", "-fsyntax-only", folder + "generated.cpp"};
     for (const std::string& option : includeOptions(build)) command.push_back(option);
+    for (const std::string& option : furtherOptions) command.push_back(option);
     ProcessOptions options;
     options.timeoutSeconds = 200;
     options.environment = {"LC_ALL=C.UTF-8"};  // else Tamil names come out as numbers

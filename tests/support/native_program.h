@@ -28,7 +28,7 @@ public:
 
     ProcessResult compile() const;
     /// What g++ says of the generated text, without making an executable.
-    ProcessResult checkSyntax() const;
+    ProcessResult checkSyntax(const std::vector<std::string>& furtherOptions = {}) const;
     /// With a `wrapper`, the command that starts the program, whose path is its last argument.
     ProcessResult run(const std::string& input = "",
                       const std::vector<std::string>& wrapper = {}) const;
