@@ -17,7 +17,11 @@ const std::map<std::string, PozhilColor> pozhil_colors = {
     {"சுண்ணாம்பு", {0.0F, 1.0F, 0.0F, 1.0F}},   {"கடல்நீலம்", {0.0F, 0.41F, 0.58F, 1.0F}},
 };
 
-int channel(float value) { return static_cast<int>(value * 255); }
+/// A sign in a hexadecimal text reads as a channel beyond every int: it counts as full.
+int channel(float value) {
+    const float byte = value * 255;
+    return byte < 256 ? static_cast<int>(byte) : 255;
+}
 
 }  // namespace
 

@@ -81,6 +81,10 @@ TEST(ColourText, HoldsWholeChannelsCutDownwards) {
     EXPECT_EQ(written("எதுவோ", false), "nvgRGBA(0, 0, 0, 255)");
 }
 
+TEST(ColourText, OfASignAmongTheDigitsIsAFullChannel) {
+    EXPECT_EQ(written("#-ff8000", true), "nvgRGBA(255, 248, 0, 255)");
+}
+
 TEST(Colours, HexWithoutMarkIsAName) { expectColour(colour("ff8000", false), 0, 0, 0, 1); }
 
 }  // namespace
