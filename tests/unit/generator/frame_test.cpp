@@ -126,11 +126,13 @@ TEST(GeneratedFile, HoldsItsSectionsInOrder) {
         "int fn_நீளம்(std::any val)",
         "std::any fn_எடு(std::any obj, std::any key, std::string file, int line)",
         "std::any& fn_index_ref(std::any& obj, const std::any& key, std::string file = \"\", int "
-        "line",
+        "line = 0)",
         "std::any fn_index_ref(std::any&& obj, const std::any& key, std::string file = \"\", int "
-        "line",
-        "std::any fn_get_property(std::shared_ptr<_StructBase> obj, std::string prop, std::string ",
-        "std::any fn_set_property(std::any obj, std::string prop, std::any val, std::string file, ",
+        "line = 0)",
+        "std::any fn_get_property(std::shared_ptr<_StructBase> obj, std::string prop, std::string "
+        "file, int line)",
+        "std::any fn_set_property(std::any obj, std::string prop, std::any val, std::string file, "
+        "int line)",
         "long long fn_மேல்எண்(long double val)",
         "long long fn_கீழ்எண்(long double val)",
         "std::any fn_நீக்கு(std::any& lst_any, const std::any& item, std::string file, int line)",
