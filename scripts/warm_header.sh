@@ -1,15 +1,17 @@
 #!/usr/bin/env bash
 # warm_header.sh: precompiles the standard headers of the generated text and the catalogue, so that
-# g++ builds a program in a third of the time. g++ looks for iostream.gch beside each place where it looks for
-# <iostream>, the first header of every generated file, and passes over one that doesn't fit.
-# It also declares extern the template instances that the diagnostics object holds, if it does.
+# g++ builds a program in a third of the time. g++ looks for iostream.gch beside each place where it
+# looks for <iostream>, the first header of every generated file, and passes over one that doesn't
+# fit. It also declares extern the template instances that the diagnostics object holds, if it does:
+# so it lies in the second include folder of a program's build, where nothing but programs looks.
 # Remade when g++, the object or one of the headers changes; else it costs milliseconds.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 include=உள்ளடக்கம்
 object=திரட்டு/error_handler_native_linux.o
-warmed="$root/உள்ளடக்கம்/iostream.gch"
+warmed="$root/$include/nanovg/iostream.gch"
+plain="${warmed%.gch}"  # what g++ opens when a file asks for <iostream> once more
 stamp="$warmed.stamp"  # line 1: g++ and the list; then every file that was read, one a line
 
 # A program that is compiled with the declarations must be linked with the instances.
@@ -28,7 +30,8 @@ identity+=" $(stat -c '%s %Y' "$object" 2>/dev/null || true)"
 
 # By the time of the inode: packages carry the time at which they were made, not installed.
 is_fresh() {
-    [ -f "$warmed" ] && [ -f "$stamp" ] && [ "$(head -n 1 "$stamp")" = "$identity" ] || return 1
+    [ -f "$warmed" ] && [ -f "$plain" ] && [ -f "$stamp" ] || return 1
+    [ "$(head -n 1 "$stamp")" = "$identity" ] || return 1
     local changed
     # shellcheck disable=SC2185  # the paths come from the stamp
     changed=$(tail -n +2 "$stamp" | tr '\n' '\0' |
@@ -37,9 +40,10 @@ is_fresh() {
 }
 is_fresh && exit 0
 
+mkdir -p "$(dirname "$warmed")"
 work=$(mktemp -d "$warmed.XXXXXX")
 trap 'rm -rf "$work"' EXIT
-rm -f "$warmed" "$stamp"  # a stale one must not outlive a failure here
+rm -f "$warmed" "$plain" "$stamp"  # a stale one must not outlive a failure here
 # The flags that decide whether the header fits: those of the compiler's own g++ command.
 g++ -x c++-header "$headers" -o "$work/header" -std=c++17 -I"$include" -MD -MF "$work/read" -MT header
 {
@@ -47,5 +51,6 @@ g++ -x c++-header "$headers" -o "$work/header" -std=c++17 -I"$include" -MD -MF "
     tr ' ' '\n' <"$work/read" | grep '^/.*[^:]$' | sort -u
 } >"$work/stamp"
 chmod 644 "$work/header"
+echo '#include_next <iostream>' >"$plain"
 mv -f "$work/header" "$warmed"
 mv -f "$work/stamp" "$stamp"

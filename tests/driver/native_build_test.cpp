@@ -102,7 +102,7 @@ TEST_F(NativeBuild, RealCompilerWithTheWarmedHeader) {
     fs::create_directories(home / "scripts");
     fs::copy_file(POZHIL_ROOT "/scripts/warm_header.sh", home / "scripts" / "warm_header.sh");
     const std::string warm = (home / "scripts" / "warm_header.sh").u8string();
-    const fs::path header = home / "உள்ளடக்கம்" / "iostream.gch";
+    const fs::path header = home / "உள்ளடக்கம்" / "nanovg" / "iostream.gch";
     ASSERT_EQ(runCommand({"bash", warm}).exitCode, 0);
     ASSERT_TRUE(fs::exists(header));
 
@@ -151,20 +151,22 @@ protected:
 
     std::vector<std::string> filesMade() const {
         std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(home / "உள்ளடக்கம்")) {
-            if (entry.path().extension() != ".h") names.push_back(entry.path().filename());
+        for (const auto& entry : fs::directory_iterator(header.parent_path())) {
+            names.push_back(entry.path().filename());
         }
         std::sort(names.begin(), names.end());
         return names;
     }
 
     fs::path list = home / "src" / "emitted" / "includes.cpp";
+    fs::path header = home / "உள்ளடக்கம்" / "nanovg" / "iostream.gch";
     mutable ProcessResult lastRun;
 };
 
 TEST_F(WarmedHeader, MadeAgainOnlyWhenSomethingChanged) {
     EXPECT_TRUE(warm());
-    EXPECT_EQ(filesMade(), (std::vector<std::string>{"iostream.gch", "iostream.gch.stamp"}));
+    EXPECT_EQ(filesMade(),
+              (std::vector<std::string>{"iostream", "iostream.gch", "iostream.gch.stamp"}));
     EXPECT_FALSE(warm());
     writeFileText(list, "#include <cstdio>\n#include <cstdlib>\n");
     EXPECT_TRUE(warm());
@@ -172,7 +174,10 @@ TEST_F(WarmedHeader, MadeAgainOnlyWhenSomethingChanged) {
     writeFileText(root / "bin" / "version", "g++ 2\n");
     EXPECT_TRUE(warm());
     EXPECT_FALSE(warm());
-    fs::remove(home / "உள்ளடக்கம்" / "iostream.gch");
+    fs::remove(header);
+    EXPECT_TRUE(warm());
+    EXPECT_FALSE(warm());
+    fs::remove(header.parent_path() / "iostream");
     EXPECT_TRUE(warm());
     EXPECT_EQ(lastRun.exitCode, 0);
 }
@@ -201,6 +206,17 @@ protected:
         return runCommand({"bash", (home / "scripts" / script).u8string()}).exitCode;
     }
 
+    /// Builds a file of somebody's own and runs it; gives what it prints, or what g++ says.
+    std::string resultOf(const std::string& text, const std::vector<std::string>& options) const {
+        write("own.cpp", text);
+        std::vector<std::string> command = {"g++", (work / "own.cpp").u8string(), "-std=c++17",
+                                            "-o", (work / "own").u8string()};
+        command.insert(command.end(), options.begin(), options.end());
+        const ProcessResult built = runCommand(command);
+        if (built.exitCode != 0) return built.err;
+        return runCommand({(work / "own").u8string()}).out;
+    }
+
     void expectThatProgramsRun() const {
         const ProcessResult program = compile({"a.பொழில்"});
         EXPECT_EQ(program.out, kBanner + titleOf("a.பொழில்") + "விடை 422.500000மெய்\n");
@@ -212,9 +228,18 @@ protected:
 // One test of many steps, since the preparation takes its seconds.
 TEST_F(PreparedObjects, LinkInEveryState) {
     ASSERT_EQ(run("prepare_objects.sh"), 0);
-    const fs::path header = home / "உள்ளடக்கம்" / "iostream.gch";
+    const fs::path header = home / "உள்ளடக்கம்" / "nanovg" / "iostream.gch";
     ASSERT_TRUE(fs::exists(header));
     expectThatProgramsRun();
+
+    // Who includes <iostream> once more gets it, and who wants the catalogue alone needs no object.
+    const std::string folder = "-I" + (home / "உள்ளடக்கம்").u8string();
+    const std::string hello = "int main() { std::cout << \"வணக்கம்\"; }\n";
+    EXPECT_EQ(resultOf("#include <iostream>\n#include <vector>\n#include <iostream>\n" + hello,
+                       {object.u8string(), folder, folder + "/nanovg"}),
+              "வணக்கம்");
+    EXPECT_EQ(resultOf("#include <iostream>\n#include \"error_codes.h\"\n" + hello, {folder}),
+              "வணக்கம்");
 
     fs::remove(object);  // the compiler makes it anew
     EXPECT_NE(compile({"a.பொழில்"}).out.find("விடை 42"), std::string::npos);
