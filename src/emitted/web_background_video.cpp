@@ -1,23 +1,26 @@
-// The video behind a page: created once, muted, below everything else.
+// The video behind a page: one muted element below everything else, which shows the video that was
+// started last.
 // clang-format off
 
 #ifdef __EMSCRIPTEN__
 void startBackgroundVideo(const char* path) {
     EM_ASM({
-        if (document.getElementById('pozhilVideo')) return;
-        var video = document.createElement('video');
-        video.id = 'pozhilVideo';
-        video.style.position = 'fixed';
-        video.style.top = '0';
-        video.style.left = '0';
-        video.style.width = '100vw';
-        video.style.height = '100vh';
-        video.style.objectFit = 'cover';
-        video.style.zIndex = '-1';
-        video.muted = true;
-        video.autoplay = true;
-        video.loop = true;
-        document.body.appendChild(video);
+        var video = document.getElementById('pozhilVideo');
+        if (!video) {
+            video = document.createElement('video');
+            video.id = 'pozhilVideo';
+            video.style.position = 'fixed';
+            video.style.top = '0';
+            video.style.left = '0';
+            video.style.width = '100vw';
+            video.style.height = '100vh';
+            video.style.objectFit = 'cover';
+            video.style.zIndex = '-1';
+            video.muted = true;
+            video.autoplay = true;
+            video.loop = true;
+            document.body.appendChild(video);
+        }
         try {
             var data = FS.readFile(UTF8ToString($0));
             video.src = URL.createObjectURL(new Blob([data], {type: 'video/mp4'}));

@@ -124,15 +124,20 @@ void Generator::checkMediaFile(const Expression* value, const std::string& detai
     பிழை("பொழில்-254", path->line, detail + path->value);
 }
 
+/// Each page starts its own once: one that is left and comes back doesn't start it again.
 void Generator::writePageVideo(const Expression* value) {
     if (value == nullptr) return;
     checkMediaFile(value, "ஊடகப் பிழை: காணொளியின் முகவரி சரியாக இல்லை (");
     openBrace("");
+    writeLine("static bool bgVideoStarted = false;");
+    openBrace("if (!bgVideoStarted) ");
+    writeLine("bgVideoStarted = true;");
     indent();
     out << "std::string videoPath = fn_any_to_string(";
     visitExpression(value);
     out << ");\n";
     writeLine("startBackgroundVideo(videoPath.c_str());");
+    closeBrace();
     closeBrace();
     writeLine("nvgFillColor(vg, nvgRGBA(0, 0, 0, 0));");
     writeLine("bgSet = true;");

@@ -1,7 +1,7 @@
-// The frame around the widgets: pages, overlays, the pointer that is hidden from the page under
-// them, and the snackbar. Statements written by hand stand in for widgets.
+// The frame around the widgets: pages and the videos behind them, overlays, the pointer that is
+// hidden from the page under them, and the snackbar. Statements written by hand stand in for widgets.
 import assert from 'node:assert/strict';
-import {readFileSync} from 'node:fs';
+import {mkdirSync, readFileSync, writeFileSync} from 'node:fs';
 import {dirname, join} from 'node:path';
 import {after, before, test} from 'node:test';
 import {fileURLToPath} from 'node:url';
@@ -27,9 +27,13 @@ let workplace, compiler, browser, page;
 before(async () => {
     workplace = makeWorkplace();
     workplace.drawByHand(readFileSync(join(here, 'drawn_by_hand.inc'), 'utf8'));
+    mkdirSync(join(workplace.work, 'assets'));
+    for (const name of ['one', 'two']) writeFileSync(join(workplace.work, `assets/${name}.mp4`), name);
     workplace.write('நிரல்.பொழில்',
         application('முதல்பக்கம்', ['பக்கம்: "அ"', 'பின்னணி: "#FFF3E0"']) +
-        application('அடுத்தபக்கம்', ['பக்கம்: "ஆ"', 'பின்னணி: "#E0F7FA"']));
+        application('அடுத்தபக்கம்', ['பக்கம்: "ஆ"', 'பின்னணி: "#E0F7FA"']) +
+        application('ஒருகாட்சி', ['பக்கம்: "இ"', 'பின்னணிகாணொளி: "assets/one.mp4"']) +
+        application('மறுகாட்சி', ['பக்கம்: "ஈ"', 'பின்னணிகாணொளி: "assets/two.mp4"']));
     compiler = startCompiler(workplace, 'நிரல்.பொழில்');
     await until(() => compiler.output.includes('🌍 பிரவுசர்') || compiler.ended, 'the first build', 120);
     assert.ok(compiler.output.includes('வெற்றி!'), compiler.output);
@@ -118,6 +122,25 @@ test('the snackbar goes by itself after two and a half seconds', async () => {
     const {snackbar: {shownFor}} = await seen();
     assert.ok(shownFor > 2500, `it showed for ${shownFor} ms`);
     assert.deepEqual(await pixel(page, 640, 45), [0xe0, 0xf7, 0xfa]);
+});
+
+const video = () => page.evaluate(async () => {
+    const elements = document.getElementsByTagName('video');
+    const {id, src, style} = elements[0];
+    return [elements.length, id, style.zIndex, await (await fetch(src)).text()];
+});
+
+test('each page starts its video once, in one element', async () => {
+    assert.equal(await page.locator('video').count(), 0);
+    await tell('go இ');
+    await untilSeen(({page}) => page.name === 'இ', 'the first page with a video');
+    assert.deepEqual(await video(), [1, 'pozhilVideo', '-1', 'one']);
+    await tell('go ஈ');
+    await untilSeen(({page}) => page.name === 'ஈ', 'the second page with a video');
+    assert.deepEqual(await video(), [1, 'pozhilVideo', '-1', 'two']);
+    await tell('go இ');
+    await untilSeen(({page}) => page.name === 'இ', 'the first page again');
+    assert.deepEqual(await video(), [1, 'pozhilVideo', '-1', 'two'], 'it has started before');
 });
 
 test('a page that is not there draws nothing', async () => {

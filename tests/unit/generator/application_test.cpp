@@ -87,11 +87,15 @@ TEST(PageVideo, OfAFileThatIsThere) {
         generate("வலைதளம் அ(\n    தலைமை(பின்னணிகாணொளி: \"" + path + "\")\n" + kBody);
     EXPECT_NE(text.find("        bool bgSet = false;\n"
                         "        {\n"
-                        "            std::string videoPath = "
+                        "            static bool bgVideoStarted = false;\n"
+                        "            if (!bgVideoStarted) {\n"
+                        "                bgVideoStarted = true;\n"
+                        "                std::string videoPath = "
                         "fn_any_to_string(std::string(u8\"" +
                         path +
                         "\"));\n"
-                        "            startBackgroundVideo(videoPath.c_str());\n"
+                        "                startBackgroundVideo(videoPath.c_str());\n"
+                        "            }\n"
                         "        }\n"
                         "        nvgFillColor(vg, nvgRGBA(0, 0, 0, 0));\n"
                         "        bgSet = true;\n"
