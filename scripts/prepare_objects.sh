@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # prepare_objects.sh: what a console program is linked and compiled with, made ahead of time: the
 # object of the diagnostics and the warmed header. The compiler itself never renews the object, and
-# makes a missing one without -O1: the instances in it are then as slow as the program's own text.
+# makes a missing one without -O2: the instances in it are then as slow as the program's own text.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
@@ -17,7 +17,7 @@ is_fresh() {
 }
 if ! is_fresh; then
     trap 'rm -f "$object.new"' EXIT
-    g++ -c src/error_handler.cpp -o "$object.new" -std=c++17 -O1 -I"$include"
+    g++ -c src/error_handler.cpp -o "$object.new" -std=c++17 -O2 -I"$include"
     mv -f "$object.new" "$object"
 fi
 
