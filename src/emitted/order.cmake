@@ -2,7 +2,6 @@
 # stands before it. Files for the browser alone are named web_*.
 set(EMITTED_NAMES
     includes
-    web_headers
     web_text_layer
     globals
     navigation

@@ -1,10 +1,21 @@
 // The text layer: a second, transparent 2D canvas over the GL canvas, since WebGL can't shape
-// Tamil and the browser can. And the clipboard.
+// Tamil and the browser can. And the clipboard. Before them, what all text for the browser needs.
 // The JavaScript inside EM_ASM is the preprocessor's argument: a comma outside parentheses would
 // end it.
 // clang-format off
 
 #ifdef __EMSCRIPTEN__
+#include <emscripten.h>
+#include <emscripten/html5.h>
+#include <emscripten/val.h>
+#include <emscripten/bind.h>
+#include <cstring>
+#include "nanovg.h"
+#define NANOSVG_IMPLEMENTATION
+#include "nanosvg.h"
+#define NANOSVGRAST_IMPLEMENTATION
+#include "nanosvgrast.h"
+
 void setupAndClearTextLayer() {
     EM_ASM({
         var layer = document.getElementById('textCanvas');
@@ -36,9 +47,7 @@ void setupAndClearTextLayer() {
     });
 }
 
-void drawFixedText(float x, float y, const char* text, const char* color, float fontSize,
-                   const char* align, const char* fontWeight = "400", bool isUnderline = false,
-                   const char* fontPath = "", float alpha = 1.0f, float offsetY = 0.0f) {
+void drawFixedText(float x, float y, const char* text, const char* color, float fontSize, const char* align, const char* fontWeight = "400", bool isUnderline = false, const char* fontPath = "", float alpha = 1.0f, float offsetY = 0.0f) {
     EM_ASM({
         var layer = document.getElementById('textCanvas');
         if (!layer) return;
@@ -95,8 +104,7 @@ void drawFixedText(float x, float y, const char* text, const char* color, float 
     }, x, y, text, color, fontSize, align, fontWeight, isUnderline, fontPath, alpha, offsetY);
 }
 
-void drawWebText(float x, float y, const char* text, const char* color, float size,
-                 const char* align) {
+void drawWebText(float x, float y, const char* text, const char* color, float size, const char* align) {
     EM_ASM({
         var element = document.createElement('div');
         element.textContent = UTF8ToString($2);

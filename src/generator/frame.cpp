@@ -22,7 +22,6 @@ std::string numberText(float value) {
 // Each section needs only what stands before it. An empty one keeps the place of text to come.
 const Generator::Section Generator::kSections[] = {
     {"includes", emitted::includes, nullptr},
-    {"web: headers", emitted::web_headers, nullptr},
     {"web: text layer and clipboard", emitted::web_text_layer, nullptr},
     {"globals", emitted::globals, nullptr},
     {"navigation", emitted::navigation, nullptr},

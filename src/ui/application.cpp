@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::string_view kPagesPlaceholder = "POZHIL_PAGES;";
+constexpr std::string_view kPagesPlaceholder = "    POZHIL_PAGES;\n";
 
 const Expression* property(const WidgetNode* widget, const std::string& key) {
     if (widget == nullptr) return nullptr;

@@ -28,6 +28,13 @@ TEST(GeneratedFile, BeginsWithTheIncludes) {
     EXPECT_EQ(generate("").substr(0, includes.size()), includes);
 }
 
+TEST(GeneratedFile, TextLayerStandsInOneBlockWithItsHeaders) {
+    const std::string text = generate("");
+    const std::size_t helper = text.find("void setupClipboardListener() {\n");
+    ASSERT_NE(helper, std::string::npos);
+    EXPECT_LT(helper, text.find("#endif\n"));
+}
+
 TEST(GeneratedFile, HoldsItsSectionsInOrder) {
     const char* const marks[] = {
         "#include <cstdlib>\n",
@@ -42,9 +49,10 @@ TEST(GeneratedFile, HoldsItsSectionsInOrder) {
         "#include \"nanosvg.h\"\n",
         "#define NANOSVGRAST_IMPLEMENTATION\n",
         "#include \"nanosvgrast.h\"\n",
-        "#endif\n",
         "void setupAndClearTextLayer() {\n",
-        "void drawFixedText(float x, float y, const char* text, const char* color, float fontSize,",
+        "void drawFixedText(float x, float y, const char* text, const char* color, float fontSize, "
+        "const char* align, const char* fontWeight = \"400\", bool isUnderline = false, "
+        "const char* fontPath = \"\", float alpha = 1.0f, float offsetY = 0.0f) {\n",
         "float getTextWidth(const char* text, float fontSize) {\n",
         "void copyToClipboard(const char* text) {\n",
         "void setupClipboardListener() {\n",
