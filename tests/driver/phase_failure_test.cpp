@@ -12,41 +12,33 @@ const std::string kParseLine =
 const std::string kGenerateLine =
     "\033[1;31m🚨 (குறியீடு உருவாக்கம்): குறியீட்டை உருவாக்குவதில் சிக்கல்!\033[0m\n";
 
-class PhaseFailure : public Workplace {};
+class PhaseFailure : public Workplace {
+protected:
+    /// The line of the phase is all that a run says.
+    void expectFailure(const std::string& source, const std::string& line) const {
+        write("a.பொழில்", source);
+        const ProcessResult run = compile({"a.பொழில்"});
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_EQ(run.out, "");
+        EXPECT_EQ(run.err, line);
+    }
+};
 
-TEST_F(PhaseFailure, ScanOfATextThatEndsInATab) {
-    write("a.பொழில்", "அச்சிடு(1)\n\t");
-    const ProcessResult run = compile({"a.பொழில்"});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err, kScanLine);
-}
+TEST_F(PhaseFailure, ScanOfATextThatEndsInATab) { expectFailure("அச்சிடு(1)\n\t", kScanLine); }
 
 TEST_F(PhaseFailure, ParseOfAShareThatNoNumberHolds) {
-    write("a.பொழில்", kShareTooLarge);
-    const ProcessResult run = compile({"a.பொழில்"});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err, kParseLine);
+    expectFailure(kShareTooLarge, kParseLine);
     EXPECT_FALSE(std::filesystem::exists(cache));
 }
 
 TEST_F(PhaseFailure, GenerateOfTamilDigits) {
-    write("a.பொழில்", "அச்சிடு(௧௨)\n");
-    const ProcessResult run = compile({"a.பொழில்"});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err, kGenerateLine);
+    expectFailure("அச்சிடு(௧௨)\n", kGenerateLine);
     EXPECT_TRUE(std::filesystem::is_directory(cache)) << "made before the generator runs";
     EXPECT_FALSE(std::filesystem::exists(cache / "generated.cpp"));
 }
 
 TEST_F(PhaseFailure, GenerateOfAStaticErrorDropsItsText) {
-    write("a.பொழில்", "அச்சிடு(வர்க்கமூலம்(1, 2))\n");
-    const ProcessResult run = compile({"a.பொழில்"});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err, kGenerateLine);
+    expectFailure("அச்சிடு(வர்க்கமூலம்(1, 2))\n", kGenerateLine);
 }
 
 // A code that the catalogue lacks is in no source's power to raise. So what becomes of it is shown
