@@ -1,22 +1,23 @@
 // Names, members and elements: reading and assigning them.
 #include "generator/generator.h"
+#include "writing/marks.h"
 
 namespace {
 
 struct TextRow {
     const char* word;
-    const char* text;  ///< ID stands for the object's name.
+    const char* text;  ///< $ID stands for the object's name.
 };
 
 // Properties of an input widget. The object's name is the widget's identifier: no variable is read.
 const TextRow kInputProperties[] = {
-    {"வெறுமை", "g_inputValues[\"ID\"].empty()"},
-    {"வெறுமைஇல்லை", "(!g_inputValues[\"ID\"].empty())"},
-    {"நீளம்", "std::any((long long)g_inputValues[\"ID\"].length())"},
-    {"பெரியஎழுத்து", "fn_பெரியஎ(std::string(g_inputValues[\"ID\"]))"},
-    {"சிறியஎழுத்து", "fn_சிறியஎ(std::string(g_inputValues[\"ID\"]))"},
-    {"சுத்தம்", "fn_சுத்தம்(std::string(g_inputValues[\"ID\"]))"},
-    {"உரைதரவு", "std::any(g_inputValues[\"ID\"])"},
+    {"வெறுமை", "g_inputValues[\"$ID\"].empty()"},
+    {"வெறுமைஇல்லை", "(!g_inputValues[\"$ID\"].empty())"},
+    {"நீளம்", "std::any((long long)g_inputValues[\"$ID\"].length())"},
+    {"பெரியஎழுத்து", "fn_பெரியஎ(std::string(g_inputValues[\"$ID\"]))"},
+    {"சிறியஎழுத்து", "fn_சிறியஎ(std::string(g_inputValues[\"$ID\"]))"},
+    {"சுத்தம்", "fn_சுத்தம்(std::string(g_inputValues[\"$ID\"]))"},
+    {"உரைதரவு", "std::any(g_inputValues[\"$ID\"])"},
 };
 
 const TextRow kTimeFields[] = {
@@ -116,8 +117,10 @@ bool Generator::writeInputProperty(const GetExpression& access) {
     if (object == nullptr) return false;
     for (const TextRow& row : kInputProperties) {
         if (access.name.text != row.word) continue;
-        std::string text = row.text;
-        out << text.replace(text.find("ID"), 2, object->name);
+        fillMarks(out, row.text, kTableMarks, [&](std::string_view) {
+            out << object->name;
+            return true;
+        });
         return true;
     }
     return false;

@@ -3,7 +3,8 @@
 #include <climits>
 
 #include "generator/generator.h"
-#include "generator/static_error.h"
+#include "static_error.h"
+#include "writing/marks.h"
 
 namespace {
 
@@ -33,7 +34,7 @@ constexpr CountRefusal kNone = {false, ""};
 struct BuiltinRow {
     const char* name;
     Arity arity;
-    const char* text;  ///< A, B, C stand for the arguments, FILE and LINE for the call's place.
+    const char* text;  ///< $A, $B, $C stand for the arguments, $FILE and $LINE for the place.
     CountRefusal refusal;
     const char* bareText = nullptr;  ///< Without arguments, where they are optional.
 };
@@ -43,81 +44,77 @@ struct BuiltinRow {
 // a function of one: the C++ compiler refuses both. All meant.
 const BuiltinRow kBuiltins[] = {
     {"இப்போதுநேரம்", kAny, "std::any(" TIME_NOW ")", kNone},
-    {"என்னவகை", exactly(1), "std::any(என்னவகை_கண்டுபிடி(A))",
+    {"என்னவகை", exactly(1), "std::any(என்னவகை_கண்டுபிடி($A))",
      atLine("('என்னவகை' செயலுக்கு ஒரு மதிப்பு மட்டுமே தர வேண்டும்)")},
     {"வரம்பு", kAny, "nullptr", kNone},
-    {"நீளம்", exactly(1), "std::any(fn_நீளம்(A))", withoutLine("'நீளம்' 1 argument மட்டுமே ஏற்கும்.")},
-    {"உள்ளீடு", kOptional, "fn_உள்ளீடு(std::any_cast<std::string>(A))",
+    {"நீளம்", exactly(1), "std::any(fn_நீளம்($A))", withoutLine("'நீளம்' 1 argument மட்டுமே ஏற்கும்.")},
+    {"உள்ளீடு", kOptional, "fn_உள்ளீடு(std::any_cast<std::string>($A))",
      withoutLine("'உள்ளீடு' 0 அல்லது 1 argument மட்டுமே ஏற்கும்."), "fn_உள்ளீடு()"},
-    {"எண்", exactly(1), "fn_cast_to_number(A, LINE)", atLine("")},
-    {"வை", exactly(3), "(fn_index_ref(A, std::any(B), FILE, LINE) = std::any(C))",
+    {"எண்", exactly(1), "fn_cast_to_number($A, $LINE)", atLine("")},
+    {"வை", exactly(3), "(fn_index_ref($A, std::any($B), $FILE, $LINE) = std::any($C))",
      atLine("('வை' செயலுக்கு 3 மதிப்புகள் தேவை: பட்டியல்/அகராதி, குறியீடு/சாவி, மதிப்பு)")},
-    {"நீக்கு", exactly(2), "fn_நீக்கு(A, std::any(B), FILE, LINE)", atLine("")},
-    {"செல்க", exactly(1), "(g_currentPage = std::any_cast<std::string>(A), g_mouseClicked = false)",
+    {"நீக்கு", exactly(2), "fn_நீக்கு($A, std::any($B), $FILE, $LINE)", atLine("")},
+    {"செல்க", exactly(1), "(g_currentPage = std::any_cast<std::string>($A), g_mouseClicked = false)",
      withoutLine("'செல்க' 1 argument only.")},
-    {"நகர்த்து", exactly(1), "fn_நகர்த்து(A)",
+    {"நகர்த்து", exactly(1), "fn_நகர்த்து($A)",
      withoutLine("'நகர்த்து' 1 argument மட்டுமே ஏற்கும் (அடையாளம்).")},
     {"சீரற்ற_எண்", exactly(2),
-     "std::any((long long)(std::rand() % (std::any_cast<long long>(B) - "
-     "std::any_cast<long long>(A) + 1) + std::any_cast<long long>(A)))",
+     "std::any((long long)(std::rand() % (std::any_cast<long long>($B) - "
+     "std::any_cast<long long>($A) + 1) + std::any_cast<long long>($A)))",
      withoutLine("'சீரற்ற_எண்' 2 arguments ஏற்கும் (min, max).")},
 
-    {"எடு", exactly(2), "fn_எடு( std::any(A), std::any(B))",
+    {"எடு", exactly(2), "fn_எடு( std::any($A), std::any($B))",
      withoutLine("'எடு' 2 arguments ஏற்கும் (object, index).")},
-    {"வர்க்கமூலம்", exactly(1), "std::any(std::sqrt(std::any_cast<long double>(A)))",
+    {"வர்க்கமூலம்", exactly(1), "std::any(std::sqrt(std::any_cast<long double>($A)))",
      withoutLine("'வர்க்கமூலம்' 1 argument மட்டுமே ஏற்கும்.")},
     {"அடுக்கு", exactly(2),
-     "std::any(std::pow(std::any_cast<long double>(A), std::any_cast<long double>(B)))",
+     "std::any(std::pow(std::any_cast<long double>($A), std::any_cast<long double>($B)))",
      withoutLine("'அடுக்கு' 2 arguments ஏற்கும் (அடி, அடுக்கு).")},
-    {"தனிமதிப்பு", exactly(1), "std::any(std::abs(std::any_cast<long double>(A)))",
+    {"தனிமதிப்பு", exactly(1), "std::any(std::abs(std::any_cast<long double>($A)))",
      withoutLine("'தனிமதிப்பு' 1 argument மட்டுமே ஏற்கும்.")},
-    {"மேல்எண்", exactly(1), "std::any(fn_மேல்எண்(std::any_cast<long double>(A)))",
+    {"மேல்எண்", exactly(1), "std::any(fn_மேல்எண்(std::any_cast<long double>($A)))",
      withoutLine("'மேல்எண்' 1 argument மட்டுமே ஏற்கும்.")},
-    {"கீழ்எண்", exactly(1), "std::any(fn_கீழ்எண்(std::any_cast<long double>(A)))",
+    {"கீழ்எண்", exactly(1), "std::any(fn_கீழ்எண்(std::any_cast<long double>($A)))",
      withoutLine("'கீழ்எண்' 1 argument மட்டுமே ஏற்கும்.")},
-    {"சைன்", exactly(1), "std::any(std::sin(std::any_cast<long double>(A)))",
+    {"சைன்", exactly(1), "std::any(std::sin(std::any_cast<long double>($A)))",
      withoutLine("'சைன்' 1 argument மட்டுமே ஏற்கும்.")},
-    {"காஸ்", exactly(1), "std::any(std::cos(std::any_cast<long double>(A)))",
+    {"காஸ்", exactly(1), "std::any(std::cos(std::any_cast<long double>($A)))",
      withoutLine("'காஸ்' 1 argument மட்டுமே ஏற்கும்.")},
-    {"டேன்", exactly(1), "std::any(std::tan(std::any_cast<long double>(A)))",
+    {"டேன்", exactly(1), "std::any(std::tan(std::any_cast<long double>($A)))",
      withoutLine("'டேன்' 1 argument மட்டுமே ஏற்கும்.")},
-    {"மடக்கு", exactly(1), "std::any(std::log(std::any_cast<long double>(A)))",
+    {"மடக்கு", exactly(1), "std::any(std::log(std::any_cast<long double>($A)))",
      withoutLine("'மடக்கு' 1 argument மட்டுமே ஏற்கும்.")},
-    {"பிளவு", exactly(2), "fn_பிளவு( std::any_cast<std::string>(A), std::any_cast<std::string>(B))",
+    {"பிளவு", exactly(2),
+     "fn_பிளவு( std::any_cast<std::string>($A), std::any_cast<std::string>($B))",
      withoutLine("'பிளவு' 2 arguments ஏற்கும் (string, delimiter).")},
     {"பதில்", exactly(3),
-     "fn_பதில்( std::any_cast<std::string>(A), std::any_cast<std::string>(B), "
-     "std::any_cast<std::string>(C))",
+     "fn_பதில்( std::any_cast<std::string>($A), std::any_cast<std::string>($B), "
+     "std::any_cast<std::string>($C))",
      withoutLine("'பதில்' 3 arguments ஏற்கும் (string, find, replace).")},
-    {"பெரியஎ", exactly(1), "fn_பெரியஎ( std::any_cast<std::string>(A))",
+    {"பெரியஎ", exactly(1), "fn_பெரியஎ( std::any_cast<std::string>($A))",
      withoutLine("'பெரியஎ' 1 argument மட்டுமே ஏற்கும்.")},
-    {"சிறியஎ", exactly(1), "fn_சிறியஎ( std::any_cast<std::string>(A))",
+    {"சிறியஎ", exactly(1), "fn_சிறியஎ( std::any_cast<std::string>($A))",
      withoutLine("'சிறியஎ' 1 argument மட்டுமே ஏற்கும்.")},
     {"கோப்பு_எழுது", exactly(2),
-     "fn_கோப்பு_எழுது( std::any_cast<std::string>(A), fn_any_to_string(B), FILE, LINE)",
+     "fn_கோப்பு_எழுது( std::any_cast<std::string>($A), fn_any_to_string($B), $FILE, $LINE)",
      atLine("'கோப்பு_எழுது' 2 உள்ளீடுகளை ஏற்கும் (path, content).")},
-    {"கோப்பு_படி", exactly(1), "fn_கோப்பு_படி( std::any_cast<std::string>(A), FILE, LINE)",
+    {"கோப்பு_படி", exactly(1), "fn_கோப்பு_படி( std::any_cast<std::string>($A), $FILE, $LINE)",
      atLine("'கோப்பு_படி' 1 உள்ளீட்டை ஏற்கும் (path).")},
     {"கோப்பு_சேர்", exactly(2),
-     "fn_கோப்பு_சேர்( std::any_cast<std::string>(A), fn_any_to_string(B), FILE, LINE)",
+     "fn_கோப்பு_சேர்( std::any_cast<std::string>($A), fn_any_to_string($B), $FILE, $LINE)",
      atLine("'கோப்பு_சேர்' 2 உள்ளீடுகளை ஏற்கும் (path, content).")},
-    {"கோப்பு_அழி", exactly(1), "fn_கோப்பு_அழி( std::any_cast<std::string>(A))",
+    {"கோப்பு_அழி", exactly(1), "fn_கோப்பு_அழி( std::any_cast<std::string>($A))",
      withoutLine("'கோப்பு_அழி' 1 argument ஏற்கும் (path).")},
-    {"கோப்பு_உள்ளதா", exactly(1), "fn_கோப்பு_உள்ளதா( std::any_cast<std::string>(A))",
+    {"கோப்பு_உள்ளதா", exactly(1), "fn_கோப்பு_உள்ளதா( std::any_cast<std::string>($A))",
      withoutLine("'கோப்பு_உள்ளதா' 1 argument ஏற்கும் (path).")},
-    {"தேதி", kOptional, "std::any(fn_தேதி(std::any_cast<std::tm*>(A)))",
+    {"தேதி", kOptional, "std::any(fn_தேதி(std::any_cast<std::tm*>($A)))",
      withoutLine("'தேதி' 0 அல்லது 1 argument-ஐ மட்டுமே ஏற்கும்."), "std::any(fn_தேதி(" TIME_NOW "))"},
-    {"நேரம்", kOptional, "std::any(fn_நேரம்(std::any_cast<std::tm*>(A)))",
+    {"நேரம்", kOptional, "std::any(fn_நேரம்(std::any_cast<std::tm*>($A)))",
      withoutLine("'நேரம்' 0 அல்லது 1 argument-ஐ மட்டுமே ஏற்கும்."), "std::any(fn_நேரம்(" TIME_NOW "))"},
-    {"முழுவதும்", kOptional, "std::any(fn_முழுவதும்(std::any_cast<std::tm*>(A)))",
+    {"முழுவதும்", kOptional, "std::any(fn_முழுவதும்(std::any_cast<std::tm*>($A)))",
      withoutLine("'முழுவதும்' 0 அல்லது 1 argument-ஐ மட்டுமே ஏற்கும்."),
      "std::any(fn_முழுவதும்(" TIME_NOW "))"},
 };
-
-bool isNameByte(char byte) {
-    return byte == '_' || (byte >= '0' && byte <= '9') || (byte >= 'a' && byte <= 'z') ||
-           (byte >= 'A' && byte <= 'Z') || static_cast<unsigned char>(byte) >= 0x80;
-}
 
 /// What `வை` may store into.
 bool isStorable(const Expression* target) {
@@ -154,25 +151,21 @@ bool Generator::writeBuiltin(const CallExpression& call, const std::string& name
     return false;
 }
 
-/// Writes a row's text with its words filled in; an argument that wasn't given leaves nothing.
-void Generator::writeFilled(std::string_view text, const CallExpression& call) {
-    bool inString = false;
-    for (std::size_t at = 0; at < text.size();) {
-        if (text[at] == '"') inString = !inString;
-        std::size_t end = at;
-        while (end < text.size() && isNameByte(text[end])) end++;
-        const std::string_view word = text.substr(at, end - at);
-        const bool isArgument = word == "A" || word == "B" || word == "C";
-        if (inString || (!isArgument && word != "FILE" && word != "LINE")) {
-            out << (word.empty() ? text.substr(at, 1) : word);
-        } else if (word == "FILE") {
-            out << quoted(filename);
-        } else if (word == "LINE") {
+/// Writes a row's text with its marks filled in; an argument that wasn't given leaves nothing.
+/// `id` is the name of an input widget.
+void Generator::writeFilled(std::string_view row, const CallExpression& call,
+                            const std::string& id) {
+    fillMarks(out, row, kTableMarks, [&](std::string_view name) {
+        if (name == "FILE") {
+            out << sourceFile;
+        } else if (name == "LINE") {
             out << call.line;
-        } else if (const auto index = static_cast<std::size_t>(word[0] - 'A');
+        } else if (name == "ID") {
+            out << id;
+        } else if (const auto index = static_cast<std::size_t>(name[0] - 'A');
                    index < call.arguments.size()) {
             visitExpression(call.arguments[index].get());
         }
-        at += word.empty() ? 1 : word.size();
-    }
+        return true;
+    });
 }

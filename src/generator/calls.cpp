@@ -1,34 +1,27 @@
 // Calls: which of the many things that can be called this one is, in the order of the tests, and
 // the text of each. The table of built-ins stands in builtins.cpp.
 #include "generator/generator.h"
-#include "generator/static_error.h"
+#include "static_error.h"
 
 namespace {
 
 struct InputCallRow {
     const char* member;
-    const char* text;  ///< ID stands for the object's name, A for the first argument.
+    const char* text;  ///< $ID stands for the object's name, $A for the first argument.
 };
 
 // Members of an input widget. The object's name is the widget's identifier: no variable is read.
 const InputCallRow kInputCalls[] = {
-    {"பிழைசெய்தி", "g_inputErrors[\"ID\"] = fn_any_to_string(A)"},
-    {"பிழை_அழி", "g_inputErrors.erase(\"ID\")"},
-    {"கொண்டுள்ளது", "std::any(g_inputValues[\"ID\"].find(fn_any_to_string(A)) != std::string::npos)"},
-    {"தொடக்கம்", "std::any(g_inputValues[\"ID\"].find(fn_any_to_string(A)) == 0)"},
+    {"பிழைசெய்தி", "g_inputErrors[\"$ID\"] = fn_any_to_string($A)"},
+    {"பிழை_அழி", "g_inputErrors.erase(\"$ID\")"},
+    {"கொண்டுள்ளது",
+     "std::any(g_inputValues[\"$ID\"].find(fn_any_to_string($A)) != std::string::npos)"},
+    {"தொடக்கம்", "std::any(g_inputValues[\"$ID\"].find(fn_any_to_string($A)) == 0)"},
     {"முடிவு",
-     "([&]() -> std::any { std::string s = g_inputValues[\"ID\"]; std::string sub = "
-     "fn_any_to_string(A); if (s.length() >= sub.length()) { return std::any(0 == "
+     "([&]() -> std::any { std::string s = g_inputValues[\"$ID\"]; std::string sub = "
+     "fn_any_to_string($A); if (s.length() >= sub.length()) { return std::any(0 == "
      "s.compare(s.length() - sub.length(), sub.length(), sub)); } return std::any(false); })()"},
 };
-
-std::string replaceAll(std::string text, const std::string& from, const std::string& to) {
-    for (std::size_t at = text.find(from); at != std::string::npos;
-         at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-    return text;
-}
 
 }  // namespace
 
@@ -65,7 +58,7 @@ bool Generator::writeInputCall(const CallExpression& call, const GetExpression& 
     if (object == nullptr) return false;
     for (const InputCallRow& row : kInputCalls) {
         if (callee.name.text != row.member) continue;
-        writeFilled(replaceAll(row.text, "\"ID\"", "\"" + object->name + "\""), call);
+        writeFilled(row.text, call, object->name);
         return true;
     }
     return false;

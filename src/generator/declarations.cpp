@@ -51,24 +51,9 @@ void Generator::writeStatementConstructor(const std::string& name, const CallExp
     bindPropertiesAndMethods(structName, object);
 
     const std::string instance = "std::static_pointer_cast<_StructBase>(" + object + ")";
-    bool hasConstructor = false;
     const auto definition = structDefinitions.find(structName);
-    if (definition != structDefinitions.end()) {
-        for (const auto& method : definition->second->methods) {
-            hasConstructor = hasConstructor || method->name.text == "துவக்கம்";
-        }
-    }
-    if (hasConstructor) {
-        indent();
-        out << "fn_" << structName << "_துவக்கம்(" << instance;
-        for (const auto& argument : call.arguments) {
-            out << ", ";
-            writeAny(argument.get());
-        }
-        out << ");\n";
-    } else if (!call.arguments.empty()) {
-        பிழை("பொழில்-333", call.line, "'" + structName + "' கட்டமைப்பில் 'துவக்கம்()' வரையறுக்கப்படவில்லை.");
-    }
+    const bool isOwn = definition != structDefinitions.end() && hasConstructor(*definition->second);
+    writeConstructorCall(call, structName, isOwn ? structName : "", instance);
     indent();
     out << (currentFunction.empty() ? "global_vars[\"" + name + "\"]" : name) << " = std::any("
         << instance << ")";

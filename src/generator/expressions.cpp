@@ -2,7 +2,7 @@
 // lambdas, the ternary. An expression's C++ type is whatever its text yields; the caller wraps it
 // in std::any where one is needed.
 #include "generator/generator.h"
-#include "generator/static_error.h"
+#include "static_error.h"
 
 void Generator::visitExpression(const Expression* expression) {
     if (visitValue(expression) || visitOperation(expression)) return;
@@ -79,7 +79,7 @@ void Generator::writeAnyList(const std::vector<std::unique_ptr<Expression>>& arg
     }
 }
 
-void Generator::writePlace(int line) { out << quoted(filename) << ", " << line; }
+void Generator::writePlace(int line) { out << sourceFile << ", " << line; }
 
 std::string Generator::functionType(int parameterCount) {
     std::string type = "std::function<std::any(";

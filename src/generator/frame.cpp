@@ -1,21 +1,17 @@
 // The generated file from top to bottom: the table of its sections, and the sections that depend
 // on the program.
+#include <stdexcept>
+
 #include "emitted_text.h"
 #include "generator/generator.h"
+#include "ui/web_form.h"
+#include "writing/marks.h"
 
 namespace {
 
 /// Guards the wrappers of statements at file scope. It is only ever cleared, so they are never
 /// written. Meant.
 bool g_isGlobalScope = false;
-
-/// A float as a stream writes it.
-std::string numberText(float value) {
-    std::ostringstream text;
-    text.imbue(std::locale::classic());
-    text << value;
-    return text.str();
-}
 
 }  // namespace
 
@@ -74,59 +70,21 @@ std::string Generator::generate() {
     return out.str();
 }
 
-/// Runtime text with its placeholders filled in, and a blank line behind it. What is filled in
-/// isn't looked at again: a file may be named like a placeholder.
-void Generator::writeText(std::string_view text) {
-    if (text.empty()) return;
-    struct Placeholder {
-        std::string_view name;
-        std::string value;
-    };
-    const Placeholder placeholders[] = {
-        {"POZHIL_SOURCE_FILE", quoted(filename)},
-        // As the source writes it, escapes included: so it equals the name in its page block.
-        {"POZHIL_INITIAL_PAGE", "\"" + initialPage() + "\""},
-        {"POZHIL_WINDOW_WIDTH", numberText(windowSize().width)},
-        {"POZHIL_WINDOW_HEIGHT", numberText(windowSize().height)},
-        {"POZHIL_WINDOW_TITLE", quoted(windowTitle())},
-    };
-    while (true) {
-        const Placeholder* next = nullptr;
-        std::size_t at = std::string_view::npos;
-        for (const Placeholder& placeholder : placeholders) {
-            const std::size_t found = text.find(placeholder.name);
-            if (found >= at) continue;
-            next = &placeholder;
-            at = found;
+/// Runtime text with its placeholders filled in, and a blank line behind it.
+void Generator::writeText(std::string_view section) {
+    if (section.empty()) return;
+    fillMarks(out, section, kCodeMarks, [this](std::string_view name) {
+        if (name == "SOURCE_FILE") {
+            out << sourceFile;
+        } else if (name == "INITIAL_PAGE") {
+            // As the source writes it, escapes included: so it equals the name in its page block.
+            out << '"' << web->head().initialPage << '"';
+        } else {
+            throw std::logic_error("placeholder " + std::string(name) + " isn't filled");
         }
-        out << text.substr(0, at);
-        if (next == nullptr) break;
-        out << next->value;
-        text.remove_prefix(at + next->name.size());
-    }
+        return true;
+    });
     out << "\n";
-}
-
-std::string Generator::initialPage() const {
-    std::string page;
-    for (const auto& statement : program.statements) {
-        const auto* app = dynamic_cast<const WebAppNode*>(statement.get());
-        if (app == nullptr) continue;
-        const auto* header = dynamic_cast<const WidgetNode*>(app->header.get());
-        if (header == nullptr) continue;
-
-        const auto named = header->properties.find("பக்கம்");
-        if (named == header->properties.end()) continue;
-        const auto* name = dynamic_cast<const StringLiteral*>(named->second.get());
-        if (name == nullptr) continue;
-        if (page.empty()) page = name->value;
-
-        const auto marked = header->properties.find("ஆரம்ப_பக்கம்");
-        if (marked == header->properties.end()) continue;
-        const auto* mark = dynamic_cast<const BooleanLiteral*>(marked->second.get());
-        if (mark != nullptr && mark->value == "மெய்") page = name->value;
-    }
-    return page.empty() ? "home" : page;
 }
 
 /// The definitions of one class: those at top level, then those that stand directly in an
@@ -159,21 +117,21 @@ void Generator::writeFunctions() {
 }
 
 void Generator::writeInitGlobals() {
-    out << "void init_globals() {\n";
-    indentLevel++;
-    g_isGlobalScope = false;
-    for (const auto& statement : program.statements) {
-        if (const auto* app = dynamic_cast<const WebAppNode*>(statement.get())) {
-            generateLogic(app->logic.get());
+    out << "void init_globals() ";
+    text.braces([this] {
+        g_isGlobalScope = false;
+        for (const auto& statement : program.statements) {
+            if (const auto* app = dynamic_cast<const WebAppNode*>(statement.get())) {
+                generateLogic(app->logic.get());
+            }
         }
-    }
-    indentLevel--;
-    out << "}\n\n";
+    });
+    out << "\n\n";
 }
 
 void Generator::writeMain() {
-    if (firstWebApp() != nullptr) {
-        writeWebForm();
+    if (web->head().isApplication) {
+        web->write();
     } else {
         writeConsoleMain();
     }
@@ -193,8 +151,8 @@ void Generator::writeConsoleMain() {
         visitStatement(node);
     }
     indentLevel--;
-    indent();
-    out << "return 0;\n}\n";
+    text.line("return 0;");  // at the margin
+    out << "}\n";
 }
 
 void Generator::generateLogic(const Statement* statement) {

@@ -41,18 +41,23 @@ void Generator::writeTopLevelFunction(const FunctionDefinitionStatement& definit
         }
         out << parameter.name.text;
     }
-    out << ") {\n";
-    indentLevel++;
-    indent();
-    out << "CallTracker _tracker(" << quoted(filename) << ");\n";
-    visitBlockStatement(definition.body.get());
-    out << "\n";
-    indent();
-    out << "return std::any(); // Default return\n";
-    closeBrace("\n\n");
+    out << ") ";
+    writeFunctionBody(definition, "return std::any(); // Default return");
+    out << "\n\n";
     indentLevel = levelAround;
     currentFunction.clear();
     localVariables.clear();
+}
+
+/// { ... } with what counts the call before the statements, and `lastLine` behind them.
+void Generator::writeFunctionBody(const FunctionDefinitionStatement& definition,
+                                  const char* lastLine) {
+    text.braces([&] {
+        text.line("CallTracker _tracker(" + sourceFile + ");");
+        visitBlockStatement(definition.body.get());
+        out << "\n";
+        text.line(lastLine);
+    });
 }
 
 /// Its name becomes a local only behind it, so it can't call itself; a call by name goes the way
@@ -65,10 +70,7 @@ void Generator::writeNestedFunction(const FunctionDefinitionStatement& definitio
     for (std::size_t i = 0; i < definition.parameters.size(); i++) {
         out << (i > 0 ? ", " : "") << "std::any " << definition.parameters[i].name.text;
     }
-    out << ") mutable -> std::any {\n";
-    indentLevel++;
-    indent();
-    out << "CallTracker _tracker(" << quoted(filename) << ");\n";
+    out << ") mutable -> std::any ";
 
     const std::string enclosingFunction = currentFunction;
     const auto enclosingLocals = localVariables;
@@ -76,11 +78,8 @@ void Generator::writeNestedFunction(const FunctionDefinitionStatement& definitio
     for (const Param& parameter : definition.parameters) {
         localVariables[parameter.name.text] = true;
     }
-    visitBlockStatement(definition.body.get());
-    out << "\n";
-    indent();
-    out << "return std::any();\n";
-    closeBrace("));\n");
+    writeFunctionBody(definition, "return std::any();");
+    out << "));\n";
     currentFunction = enclosingFunction;
     localVariables = enclosingLocals;
     localVariables[name] = true;

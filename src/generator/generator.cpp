@@ -1,14 +1,14 @@
-// What every visitor uses: construction, indentation, the two ways to refuse, text of floats and
-// strings.
+// What every visitor uses: construction, indentation, the ways to refuse.
 #include "generator/generator.h"
 
 #include <cstdlib>
-#include <iomanip>
 #include <iostream>
 
 #include "error_codes.h"
 #include "error_handler.h"
-#include "generator/static_error.h"
+#include "static_error.h"
+#include "ui/web_form.h"
+#include "writing/texts.h"
 
 Generator::Generator(
     const Program& program, const std::map<std::string, std::vector<Param>>& functionParameters,
@@ -20,16 +20,26 @@ Generator::Generator(
       abstractStructDefinitions(abstractStructDefinitions),
       functionParameters(functionParameters),
       sourceText(sourceText),
-      filename(filename) {}
+      filename(filename),
+      sourceFile(quoted(filename)),
+      web(std::make_unique<WebForm>(program, text, programText())) {}
+
+Generator::~Generator() = default;
+
+ProgramText Generator::programText() {
+    return {[this](const Expression* expression) { visitExpression(expression); },
+            [this](const Statement* statement) { visitStatement(statement); },
+            [this](const std::string& code, int line, const std::string& detail) {
+                பிழை(code, line, detail);
+            }};
+}
 
 void Generator::refuseEndlessText() {
     constexpr std::streamoff kMaxTextBytes = 64L * 1024 * 1024;
     if (out.tellp() > kMaxTextBytes) throw_static_error("பொழில்-291", "");
 }
 
-void Generator::indent() {
-    for (int level = 0; level < indentLevel; level++) out << "    ";
-}
+void Generator::indent() { text.indent(); }
 
 std::string Generator::getLineText(int line) {
     std::istringstream lines(sourceText);
@@ -50,20 +60,4 @@ void Generator::பிழை(const std::string& code, int line, const std::strin
     if (!detail.empty()) message += " (" + detail + ")";
     ErrorHandler::அறிக்கை(SEMANTIC_ERROR, code, message, filename, line, getLineText(line),
                          entry->second.தீர்வு);
-}
-
-std::string to_fstr(float value) {
-    std::ostringstream text;
-    text.imbue(std::locale::classic());
-    text << std::fixed << std::setprecision(3) << value << "f";
-    return text.str();
-}
-
-std::string quoted(const std::string& text) {
-    std::string literal = "\"";
-    for (const char byte : text) {
-        if (byte == '"' || byte == '\\') literal += '\\';
-        literal += byte;
-    }
-    return literal + "\"";
 }

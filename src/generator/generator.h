@@ -4,10 +4,12 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <set>
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "syntax/application.h"
@@ -18,7 +20,11 @@
 #include "syntax/node.h"
 #include "syntax/statements.h"
 #include "syntax/var_type.h"
-#include "ui/colours.h"
+#include "writing/text_writer.h"
+
+struct PozhilColor;
+struct ProgramText;
+class WebForm;
 
 class Generator {
 public:
@@ -29,6 +35,7 @@ public:
         const std::map<std::string, StructDefinitionStatement*>& structDefinitions,
         const std::map<std::string, AbstractStructDefinitionStatement*>& abstractStructDefinitions,
         const std::string& sourceText, const std::string& filename);
+    ~Generator();
 
     /// The whole translation. Called once. Throws std::runtime_error by throw_static_error, and
     /// lets the exceptions of number conversion through.
@@ -99,28 +106,21 @@ public:
     void visitGroupingExpression(const GroupingExpression* grouping);
     void visitCallExpression(const CallExpression* call);
 
-    /// The page shown first: the first application's page, or the last one marked as the start.
-    /// "home" if no application names a page.
-    std::string initialPage() const;
-
-    // ---- Web applications ----
+    // ---- Web applications: handed on to the web form ----
     void generateWebBoilerplate(const ScreenConfig& screen);
     void visitWebAppNode(const WebAppNode* app);
     void generateUI(const Statement* statement);
-    /// Title, clear colour and a check of the files that a head names. No pass calls it: each page
-    /// writes its own head.
     void generateHeader(const Statement* statement);
     void visitWidgetNode(const WidgetNode* widget);
     void genTextWidget(const WidgetNode* widget);
-    void genButtonWidget(const WidgetNode* widget);
     void genColumnWidget(const WidgetNode* widget);
     /// Draws a widget; `x` and `y` are C++ expressions for its place, in pixels.
     void generateWidgetCode(const WidgetNode* widget, const std::string& x, const std::string& y);
-    /// A colour by its hexadecimal text or by its name; black for what is neither.
     PozhilColor parsePozhilColor(std::string value, bool isHex);
     void visitColorExpression(const ColorExpression* colour);
 
     // Kept empty: a widget lays out, styles and listens where it is drawn.
+    void genButtonWidget(const WidgetNode*) {}
     void calculateLayout(const WidgetNode*) {}
     void applyStyles(const WidgetNode*) {}
     void generateEventHandlers(const WebAppNode*) {}
@@ -151,7 +151,8 @@ private:
     };
     static const Section kSections[];
 
-    void writeText(std::string_view text);
+    ProgramText programText();
+    void writeText(std::string_view section);
     template <typename Definition, typename Visit>
     void visitDefinitions(Visit visit);
     void writeStructures();
@@ -159,23 +160,6 @@ private:
     void writeInitGlobals();
     void writeMain();
     void writeConsoleMain();
-
-    // ---- Web form ----
-    void writeWebForm();
-    const WebAppNode* firstWebApp() const;
-    ScreenConfig windowSize() const;
-    std::string windowTitle() const;
-    void writeLine(const std::string& text);
-    PozhilColor colourOf(const ColorExpression& colour);
-    /// The four channels as float literals, joined by commas.
-    std::string channelTexts(const ColorExpression& colour);
-    void checkMediaFile(const Expression* value, const std::string& detail);
-    void writePageColour(const Expression* value);
-    void writePageImage(const Expression* value);
-    void writePageVideo(const Expression* value);
-    void writePageTitle(const Expression* value);
-    void writeTexts(const WidgetNode& widget, const std::string& x, const std::string& y,
-                    int& line);
 
     // ---- Pieces of text that many visitors write ----
     /// The visitor's text as a value of its own: std::any( ... )
@@ -187,24 +171,34 @@ private:
     /// The std::function type of a language function with that many parameters; a negative count
     /// is none.
     static std::string functionType(int parameterCount);
-    void openBrace(const std::string& head);
-    void closeBrace(const std::string& tail = "\n");
-    void writeIndentedBlock(const BlockStatement* block);
 
     // ---- Statements ----
     bool visitSimpleStatement(const Statement* statement);
     bool visitIndentingStatement(const Statement* statement);
-    void writeCountedLoop(const std::string& variable, const CallExpression& range);
+    void writeCountedLoop(const ForStatement& loop, const CallExpression& range);
     void writeCollectionLoop(const ForStatement& loop);
-    void writeLoopBody(const std::string& variable, const char* value, const ForStatement& loop);
+    void writeWalk(const std::string& head, const std::string& value, const ForStatement& loop);
+    void writeBraces(const BlockStatement* block);
     void writeStatementConstructor(const std::string& name, const CallExpression& call);
+    std::string constructorOwner(const std::string& structName) const;
+    static bool hasConstructor(const StructDefinitionStatement& definition);
+    void writeConstructorCall(const CallExpression& call, const std::string& structName,
+                              const std::string& owner, const std::string& instance);
     void checkReturnKind(const Expression& value);
 
     // ---- Kinds ----
     VarType inferCall(const CallExpression& call);
     VarType inferVariable(const VariableAccess& access);
     VarType inferMember(const GetExpression& access);
+    struct SideKinds {
+        VarType left;
+        VarType right;
+    };
+    using ChainKinds = std::unordered_map<const BinaryExpression*, SideKinds>;
     VarType inferBinary(const BinaryExpression& binary);
+    SideKinds inferChain(const BinaryExpression& outermost, ChainKinds* inner);
+    SideKinds takeSideKinds(const BinaryExpression& binary);
+    static VarType kindOfResult(const std::string& op, const SideKinds& sides);
 
     // ---- Expressions ----
     bool visitValue(const Expression* expression);
@@ -228,7 +222,7 @@ private:
     void writeConstructor(const CallExpression& call, const std::string& structName);
     void writeIndexStore(const CallExpression& call);
     bool writeBuiltin(const CallExpression& call, const std::string& name);
-    void writeFilled(std::string_view text, const CallExpression& call);
+    void writeFilled(std::string_view row, const CallExpression& call, const std::string& id = "");
     /// A call of a value that may be no function of this arity: reported at run time then.
     template <typename WriteCallee>
     void writeGuardedCall(const CallExpression& call, WriteCallee writeCallee);
@@ -236,6 +230,7 @@ private:
     // ---- Definitions ----
     void writeTopLevelFunction(const FunctionDefinitionStatement& definition);
     void writeNestedFunction(const FunctionDefinitionStatement& definition);
+    void writeFunctionBody(const FunctionDefinitionStatement& definition, const char* lastLine);
     void writeMemberComments(const StructDefinitionStatement& definition, bool isPrivate);
     std::vector<const StructDefinitionStatement*> openAncestry(const std::string& name);
     void writeMethodBinding(const std::string& structName, const std::string& objectName,
@@ -245,13 +240,11 @@ private:
     /// the source twice, and inside each other they double the text every time.
     void refuseEndlessText();
 
+    TextWriter text{out, indentLevel};
+    std::string sourceFile;  ///< `filename` as a string literal.
+    std::unique_ptr<WebForm> web;
+    ChainKinds chainKinds;  ///< Of a chain's operators that are still to be visited.
     StackBounds stack;
     std::set<std::string> boundStructs;  ///< Structures whose members are being written.
     int collectionLoops = 0;  ///< List walks around the cursor; each doubles its body's text.
 };
-
-/// A float as text for the emitted program: three decimals and the suffix `f`, in every locale.
-std::string to_fstr(float value);
-
-/// `text` as a C++ string literal, quotes included.
-std::string quoted(const std::string& text);

@@ -104,11 +104,42 @@ VarType Generator::inferMember(const GetExpression& access) {
     return isTime && holds(kTimeFields, access.name.text) ? VarType::Integer : VarType::Dynamic;
 }
 
-/// The order is meant: a comparison of two known integers counts as Integer.
 VarType Generator::inferBinary(const BinaryExpression& binary) {
-    const VarType left = inferExpressionType(binary.left.get());
-    const VarType right = inferExpressionType(binary.right.get());
-    const std::string& op = binary.op.text;
+    const SideKinds sides = inferChain(binary, nullptr);
+    return kindOfResult(binary.op.text, sides);
+}
+
+/// அ கூட்டு ஆ கூட்டு இ leans to the left: the kinds of a long chain's sides are found from its
+/// inner end in one walk, not anew for each of its operators. Returns those of the outermost;
+/// `inner`, if it is given, takes those of the others.
+Generator::SideKinds Generator::inferChain(const BinaryExpression& outermost, ChainKinds* inner) {
+    std::vector<const BinaryExpression*> chain = {&outermost};
+    while (const auto* left = dynamic_cast<const BinaryExpression*>(chain.back()->left.get())) {
+        chain.push_back(left);
+    }
+    SideKinds sides;
+    sides.left = inferExpressionType(chain.back()->left.get());
+    for (auto link = chain.rbegin();; ++link) {
+        sides.right = inferExpressionType((*link)->right.get());
+        if (*link == &outermost) return sides;
+        if (inner != nullptr) (*inner)[*link] = sides;
+        sides.left = kindOfResult((*link)->op.text, sides);
+    }
+}
+
+/// The kinds that a visitor asks for: a chain's inner operators are visited right behind the
+/// outermost, before anything that could change a name's kind.
+Generator::SideKinds Generator::takeSideKinds(const BinaryExpression& binary) {
+    const auto known = chainKinds.find(&binary);
+    if (known == chainKinds.end()) return inferChain(binary, &chainKinds);
+    const SideKinds sides = known->second;
+    chainKinds.erase(known);
+    return sides;
+}
+
+/// The order is meant: a comparison of two known integers counts as Integer.
+VarType Generator::kindOfResult(const std::string& op, const SideKinds& sides) {
+    const auto [left, right] = sides;
     const bool joins = op == "கூட்டு" || op == "இணை";
     if (joins && (left == VarType::String || right == VarType::String)) return VarType::String;
     if (left == VarType::Decimal || right == VarType::Decimal) return VarType::Decimal;

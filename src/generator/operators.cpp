@@ -54,8 +54,7 @@ void Generator::visitBinaryExpression(const BinaryExpression* binary) {
     const Expression* left = binary->left.get();
     const Expression* right = binary->right.get();
     const std::string& op = binary->op.text;
-    const VarType leftKind = inferExpressionType(left);
-    const VarType rightKind = inferExpressionType(right);
+    const auto [leftKind, rightKind] = takeSideKinds(*binary);
 
     const bool isArithmetic = holds(kArithmetic, op);
     if (isArithmetic && (isCompoundKind(leftKind) || isCompoundKind(rightKind))) {

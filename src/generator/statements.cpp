@@ -1,7 +1,7 @@
 // Statements: the dispatch over the nodes, and the plain ones. Control flow stands in
 // control_flow.cpp, declarations in declarations.cpp.
 #include "generator/generator.h"
-#include "generator/static_error.h"
+#include "static_error.h"
 
 void Generator::visitStatement(const Statement* statement) {
     refuseEndlessText();

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "generator/generator.h"
-#include "generator/static_error.h"
+#include "static_error.h"
 
 void Generator::visitStructDefinitionStatement(const StructDefinitionStatement* definition) {
     const std::string& name = definition->name.text;
@@ -114,35 +114,46 @@ void Generator::writeMethodBinding(const std::string& structName, const std::str
 /// parser bounds the depth of a single expression alone.
 void Generator::writeConstructor(const CallExpression& call, const std::string& structName) {
     if (stack.halfUsed()) throw_static_error("பொழில்-291", "");
-    out << "[&]() -> std::any {\n";
-    indentLevel++;
-    indent();
-    out << "auto temp_obj = std::make_shared<" << structName << ">();\n";
-    bindPropertiesAndMethods(structName, "temp_obj");
-
     const std::string instance = "std::static_pointer_cast<_StructBase>(temp_obj)";
-    std::string owner;
+    out << "[&]() -> std::any ";
+    text.braces([&] {
+        text.line("auto temp_obj = std::make_shared<" + structName + ">();");
+        bindPropertiesAndMethods(structName, "temp_obj");
+        writeConstructorCall(call, structName, constructorOwner(structName), instance);
+        text.line("return std::any(" + instance + ");");
+    });
+    out << "()";
+}
+
+/// The structure itself or the nearest ancestor that has a `துவக்கம்`; empty if none has.
+std::string Generator::constructorOwner(const std::string& structName) const {
     for (auto at = structDefinitions.find(structName); at != structDefinitions.end();) {
         const StructDefinitionStatement& candidate = *at->second;
-        const bool found =
-            std::any_of(candidate.methods.begin(), candidate.methods.end(),
-                        [](const auto& method) { return method->name.text == "துவக்கம்"; });
-        if (found) owner = at->first;
-        if (found || !candidate.hasParent) break;
+        if (hasConstructor(candidate)) return at->first;
+        if (!candidate.hasParent) break;
         at = structDefinitions.find(candidate.parentName.text);
     }
-    if (!owner.empty()) {
-        indent();
-        out << "fn_" << owner << "_துவக்கம்(" << instance;
-        for (const auto& argument : call.arguments) {
-            out << ", ";
-            writeAny(argument.get());
-        }
-        out << ");\n";
-    } else if (!call.arguments.empty()) {
+    return "";
+}
+
+bool Generator::hasConstructor(const StructDefinitionStatement& definition) {
+    const auto& methods = definition.methods;
+    return std::any_of(methods.begin(), methods.end(),
+                       [](const auto& method) { return method->name.text == "துவக்கம்"; });
+}
+
+/// The call of the `துவக்கம்` that `owner` has; of none if it is empty, which takes no arguments.
+void Generator::writeConstructorCall(const CallExpression& call, const std::string& structName,
+                                     const std::string& owner, const std::string& instance) {
+    if (owner.empty()) {
+        if (call.arguments.empty()) return;
         பிழை("பொழில்-333", call.line, "'" + structName + "' கட்டமைப்பில் 'துவக்கம்()' வரையறுக்கப்படவில்லை.");
     }
     indent();
-    out << "return std::any(" << instance << ");\n";
-    closeBrace("()");
+    out << "fn_" << owner << "_துவக்கம்(" << instance;
+    for (const auto& argument : call.arguments) {
+        out << ", ";
+        writeAny(argument.get());
+    }
+    out << ");\n";
 }

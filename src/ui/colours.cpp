@@ -1,8 +1,10 @@
 #include "ui/colours.h"
 
 #include <cstdio>
+#include <map>
 
-#include "generator/generator.h"
+#include "ui/properties.h"
+#include "writing/texts.h"
 
 namespace {
 
@@ -17,17 +19,21 @@ const std::map<std::string, PozhilColor> pozhil_colors = {
     {"சுண்ணாம்பு", {0.0F, 1.0F, 0.0F, 1.0F}},   {"கடல்நீலம்", {0.0F, 0.41F, 0.58F, 1.0F}},
 };
 
+}  // namespace
+
 /// A sign in a hexadecimal text reads as a channel beyond every int: it counts as full.
-int channel(float value) {
-    const float byte = value * 255;
+int channelByte(float channel) {
+    const float byte = channel * 255;
     return byte < 256 ? static_cast<int>(byte) : 255;
 }
 
-}  // namespace
+Rgb channelBytes(const PozhilColor& colour) {
+    return {channelByte(colour.r), channelByte(colour.g), channelByte(colour.b)};
+}
 
 /// Short hexadecimal forms aren't expanded: they stay black. Nor is an unknown name refused: it is
 /// black too. Meant.
-PozhilColor Generator::parsePozhilColor(std::string value, bool isHex) {
+PozhilColor parsePozhilColor(std::string value, bool isHex) {
     if (!isHex) {
         const auto found = pozhil_colors.find(value);
         return found == pozhil_colors.end() ? PozhilColor{0, 0, 0, 1} : found->second;
@@ -48,18 +54,32 @@ PozhilColor Generator::parsePozhilColor(std::string value, bool isHex) {
     return {part(red), part(green), part(blue), part(alpha)};
 }
 
-PozhilColor Generator::colourOf(const ColorExpression& colour) {
+PozhilColor colourOf(const ColorExpression& colour) {
     return parsePozhilColor(colour.isHex ? colour.hexValue : colour.colorName, colour.isHex);
 }
 
-std::string Generator::channelTexts(const ColorExpression& colour) {
-    const PozhilColor c = colourOf(colour);
-    return to_fstr(c.r) + ", " + to_fstr(c.g) + ", " + to_fstr(c.b) + ", " + to_fstr(c.a);
+std::optional<PozhilColor> colourProperty(const WidgetNode& widget, const std::string& key) {
+    const Expression* value = property(widget, key);
+    if (const auto* colour = dynamic_cast<const ColorExpression*>(value)) return colourOf(*colour);
+    if (const auto* text = dynamic_cast<const StringLiteral*>(value)) {
+        return parsePozhilColor(text->value, text->value.rfind('#', 0) == 0);
+    }
+    if (const auto* member = dynamic_cast<const GetExpression*>(value)) {
+        const auto* object = dynamic_cast<const VariableAccess*>(member->object.get());
+        if (object != nullptr && object->name == "நிறம்") {
+            return parsePozhilColor(member->name.text, false);
+        }
+    }
+    return std::nullopt;
 }
 
-/// "#ff8000"  ->  nvgRGBA(255, 128, 0, 255)
-void Generator::visitColorExpression(const ColorExpression* colour) {
-    const PozhilColor c = colourOf(*colour);
-    out << "nvgRGBA(" << channel(c.r) << ", " << channel(c.g) << ", " << channel(c.b) << ", "
-        << channel(c.a) << ")";
+std::string channelTexts(const PozhilColor& colour) {
+    return to_fstr(colour.r) + ", " + to_fstr(colour.g) + ", " + to_fstr(colour.b) + ", " +
+           to_fstr(colour.a);
+}
+
+std::string cssText(const PozhilColor& colour) {
+    const Rgb bytes = channelBytes(colour);
+    return "rgba(" + std::to_string(bytes.r) + "," + std::to_string(bytes.g) + "," +
+           std::to_string(bytes.b) + "," + sixDecimals(colour.a) + ")";
 }

@@ -1,6 +1,12 @@
 // Colours: resolved when the source is compiled, written into the text as literals.
 #pragma once
 
+#include <optional>
+#include <string>
+
+#include "syntax/expressions.h"
+#include "syntax/widgets.h"
+
 /// Four channels from 0 to 1.
 struct PozhilColor {
     float r = 0;
@@ -8,3 +14,29 @@ struct PozhilColor {
     float b = 0;
     float a = 1;
 };
+
+/// Three channels from 0 to 255.
+struct Rgb {
+    int r;
+    int g;
+    int b;
+};
+
+/// A colour by its hexadecimal text or by its name; black for what is neither.
+PozhilColor parsePozhilColor(std::string value, bool isHex);
+
+PozhilColor colourOf(const ColorExpression& colour);
+
+/// A colour property in one of its literal forms: a colour, a string with `#` or a name, a member
+/// of `நிறம்`. Nothing for any other value: the widget's default stays.
+std::optional<PozhilColor> colourProperty(const WidgetNode& widget, const std::string& key);
+
+/// A channel from 0 to 255, cut down to a whole number.
+int channelByte(float channel);
+Rgb channelBytes(const PozhilColor& colour);
+
+/// The four channels as float literals, joined by commas.
+std::string channelTexts(const PozhilColor& colour);
+
+/// "rgba(R,G,B,A)" for the text layer.
+std::string cssText(const PozhilColor& colour);

@@ -1,34 +1,31 @@
 // Widgets that stand as ordinary statements, outside the widget tree.
-#include "generator/generator.h"
+#include "ui/properties.h"
+#include "ui/web_form.h"
 
-/// Any other name writes nothing. Meant.
-void Generator::visitWidgetNode(const WidgetNode* widget) {
-    if (widget->name == "உரை") {
+/// Any other name writes nothing, a button neither. Meant.
+void WebForm::visitWidgetNode(const WidgetNode& widget) {
+    if (widget.name == "உரை") {
         genTextWidget(widget);
-    } else if (widget->name == "பொத்தான்") {
-        genButtonWidget(widget);
-    } else if (widget->name == "நெடுவரிசை") {
+    } else if (widget.name == "நெடுவரிசை") {
         genColumnWidget(widget);
     }
 }
 
-void Generator::genTextWidget(const WidgetNode* widget) {
-    const auto text = widget->properties.find("உரை");
-    out << "#ifdef __EMSCRIPTEN__\n";
-    indent();
-    out << "drawFixedText(50, 50, ";
-    if (text == widget->properties.end()) {
-        out << "\"\"";
+void WebForm::genTextWidget(const WidgetNode& widget) {
+    const Expression* content = property(widget, "உரை");
+    text.out << "#ifdef __EMSCRIPTEN__\n";
+    text.indent();
+    text.out << "drawFixedText(50, 50, ";
+    if (content == nullptr) {
+        text.out << "\"\"";
     } else {
-        out << "fn_any_to_string(";
-        visitExpression(text->second.get());
-        out << ").c_str()";
+        text.out << "fn_any_to_string(";
+        programText.visitExpression(content);
+        text.out << ").c_str()";
     }
-    out << ", \"black\", 20.0, \"left\");\n#endif\n";
+    text.out << ", \"black\", 20.0, \"left\");\n#endif\n";
 }
 
-void Generator::genButtonWidget(const WidgetNode*) {}
-
-void Generator::genColumnWidget(const WidgetNode* widget) {
-    for (const auto& child : widget->children) visitStatement(child.get());
+void WebForm::genColumnWidget(const WidgetNode& widget) {
+    for (const auto& child : widget.children) programText.visitStatement(child.get());
 }

@@ -1,5 +1,5 @@
 // Refusals that have no line: the text that the exception carries.
-#include "generator/static_error.h"
+#include "static_error.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,6 @@
 // Colours, by name and by hexadecimal text.
+#include "ui/colours.h"
+
 #include <gtest/gtest.h>
 
 #include "support/front_end.h"

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/front_end.h"
+#include "ui/application_head.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ protected:
         program.statements.push_back(
             std::make_unique<WebAppNode>("தளம்", nullptr, std::move(head), nullptr, nullptr));
     }
-    std::string page() const { return Generator(program, {}, {}, {}, "", "").initialPage(); }
+    std::string page() const { return readApplicationHead(program).initialPage; }
 
     Program program;
 };

@@ -1,4 +1,6 @@
 // Floats and strings as generated text, whatever the locale.
+#include "writing/texts.h"
+
 #include <gtest/gtest.h>
 
 #include <locale>

@@ -1,4 +1,4 @@
-#include "generator/static_error.h"
+#include "static_error.h"
 
 #include <stdexcept>
 

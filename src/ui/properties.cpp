@@ -1,0 +1,36 @@
+#include "ui/properties.h"
+
+const Expression* property(const WidgetNode& widget, const std::string& key) {
+    const auto found = widget.properties.find(key);
+    return found == widget.properties.end() ? nullptr : found->second.get();
+}
+
+const Expression* styledProperty(const WidgetNode& widget, const std::string& key) {
+    const Expression* styled = property(widget, "style_" + key);
+    return styled != nullptr ? styled : property(widget, key);
+}
+
+const std::string* stringProperty(const WidgetNode& widget, const std::string& key) {
+    const auto* literal = dynamic_cast<const StringLiteral*>(property(widget, key));
+    return literal == nullptr ? nullptr : &literal->value;
+}
+
+bool isTrueLiteral(const WidgetNode& widget, const std::string& key) {
+    const auto* literal = dynamic_cast<const BooleanLiteral*>(property(widget, key));
+    return literal != nullptr && literal->value == "மெய்";
+}
+
+const WidgetNode* firstWidget(const WidgetNode& widget) {
+    for (const auto& child : widget.children) {
+        if (const auto* node = dynamic_cast<const WidgetNode*>(child.get())) return node;
+    }
+    return nullptr;
+}
+
+const WidgetNode* childNamed(const WidgetNode& widget, const std::string& name) {
+    for (const auto& child : widget.children) {
+        const auto* node = dynamic_cast<const WidgetNode*>(child.get());
+        if (node != nullptr && node->name == name) return node;
+    }
+    return nullptr;
+}

@@ -1,0 +1,27 @@
+// Reading a widget's properties: each function takes one form of value, and what has another form
+// counts as absent.
+#pragma once
+
+#include <string>
+
+#include "syntax/expressions.h"
+#include "syntax/literals.h"
+#include "syntax/widgets.h"
+
+/// The value under `key`; null if there is none.
+const Expression* property(const WidgetNode& widget, const std::string& key);
+
+/// The value under the first of `key` behind "style_" and `key` alone that the widget has.
+const Expression* styledProperty(const WidgetNode& widget, const std::string& key);
+
+/// The text of a string literal; null for anything else.
+const std::string* stringProperty(const WidgetNode& widget, const std::string& key);
+
+/// True for the truth literal `மெய்`.
+bool isTrueLiteral(const WidgetNode& widget, const std::string& key);
+
+/// The first child that is a widget; null without one.
+const WidgetNode* firstWidget(const WidgetNode& widget);
+
+/// The first child that is a widget of that name; null without one.
+const WidgetNode* childNamed(const WidgetNode& widget, const std::string& name);

@@ -1,0 +1,77 @@
+#include "ui/sizes.h"
+
+#include <locale>
+#include <sstream>
+
+#include "files.h"
+#include "syntax/expressions.h"
+#include "syntax/literals.h"
+#include "writing/texts.h"
+
+namespace {
+
+struct OperatorRow {
+    const char* word;
+    const char* sign;
+};
+const OperatorRow kComparisons[] = {
+    {"சமம்", "=="},   {"சமமில்லை", "!="},   {"பெரிது", ">"},
+    {"சிறிது", "<"}, {"பெரிதுசமம்", ">="}, {"சிறிதுசமம்", "<="},
+};
+
+/// Any word that isn't a comparison reads as equality. Meant.
+const char* comparisonSign(const std::string& word) {
+    for (const OperatorRow& row : kComparisons) {
+        if (word == row.word) return row.sign;
+    }
+    return "==";
+}
+
+/// "50%"  ->  (base * 0.500000f)
+std::string percentText(const std::string& digits, const std::string& base) {
+    std::istringstream stream(digits);
+    stream.imbue(std::locale::classic());
+    float percent = 0;
+    if (!(stream >> percent)) return "";
+    return "(" + base + " * " + sixDecimals(percent / 100.0F) + "f)";
+}
+
+std::string numberSize(const std::string& digits) {
+    return digits + (digits.find('.') == std::string::npos ? ".0f" : "f");
+}
+
+std::string variableSize(const std::string& name) {
+    if (name == "திரை_அகலம்") return "winWidth";
+    if (name == "திரை_உயரம்") return "winHeight";
+    return "fn_get_double(global_vars[\"" + name + "\"])";
+}
+
+}  // namespace
+
+std::string processPercentage(const Expression* value, const std::string& base) {
+    const auto part = [&](const auto& inner) { return processPercentage(inner.get(), base); };
+    if (const auto* node = dynamic_cast<const PercentageLiteral*>(value)) {
+        return percentText(node->value, base);
+    }
+    if (const auto* node = dynamic_cast<const StringLiteral*>(value)) {
+        return hasEnding(node->value, "%") ? percentText(node->value, base) : "";
+    }
+    if (const auto* node = dynamic_cast<const NumberLiteral*>(value)) {
+        return numberSize(node->value);
+    }
+    if (const auto* node = dynamic_cast<const GroupingExpression*>(value)) {
+        return "(" + part(node->expression) + ")";
+    }
+    if (const auto* node = dynamic_cast<const TernaryExpression*>(value)) {
+        return "(" + part(node->condition) + " ? " + part(node->thenBranch) + " : " +
+               part(node->elseBranch) + ")";
+    }
+    if (const auto* node = dynamic_cast<const BinaryExpression*>(value)) {
+        return "(" + part(node->left) + " " + comparisonSign(node->op.text) + " " +
+               part(node->right) + ")";
+    }
+    if (const auto* node = dynamic_cast<const VariableAccess*>(value)) {
+        return variableSize(node->name);
+    }
+    return "";
+}

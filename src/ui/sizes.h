@@ -1,0 +1,10 @@
+// Size properties as C++ text.
+#pragma once
+
+#include <string>
+
+#include "syntax/node.h"
+
+/// The text of a C++ float expression for a size. `base` is the text of what 100 % means. Empty for
+/// a value that is no size: the widget's default stays.
+std::string processPercentage(const Expression* value, const std::string& base);

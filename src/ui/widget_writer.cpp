@@ -1,0 +1,85 @@
+#include "ui/widget_writer.h"
+
+#include <utility>
+
+#include "ui/properties.h"
+#include "ui/sizes.h"
+#include "writing/marks.h"
+
+namespace {
+
+bool names(std::string_view text, std::string_view name) {
+    for (Mark mark = findMark(text, kCodeMarks); mark.at != std::string_view::npos;
+         mark = findMark(text, kCodeMarks)) {
+        if (mark.name == name) return true;
+        text.remove_prefix(mark.at + mark.length);
+    }
+    return false;
+}
+
+}  // namespace
+
+WidgetWriter::WidgetWriter(TextWriter& text, ProgramText programText)
+    : text(text), programText(std::move(programText)) {}
+
+std::string WidgetWriter::identityOf(const WidgetNode& widget) {
+    const auto entry = identities.emplace(&widget, static_cast<int>(identities.size()) + 1);
+    return std::to_string(entry.first->second);
+}
+
+void WidgetWriter::fill(std::string_view widget, const Site& site, Fills fills) {
+    const Fill own[] = {{"X", site.x}, {"Y", site.y}, {"ID", site.id}};
+    for (const Fill& each : own) {
+        if (names(widget, each.name)) fills.push_back(each);
+    }
+    text.block("", [&] { text.fill(widget, fills); });
+}
+
+Fill WidgetWriter::expression(std::string_view name, const Expression* value) {
+    return {name, [this, value] { programText.visitExpression(value); }};
+}
+
+void WidgetWriter::assignSize(const char* local, const Expression* value, const std::string& base) {
+    if (value == nullptr) return;
+    const std::string size = processPercentage(value, base);
+    if (!size.empty()) text.line(std::string(local) + " = " + size + ";");
+}
+
+void WidgetWriter::writeSize(const Site& site, Side width, Side height, const char* margin) {
+    const std::string w = width.local;
+    const std::string h = height.local;
+    text.line("float " + w + " = " + width.fallback + ";");
+    assignSize(width.local, styledProperty(site.node, "அகலம்"),
+               "(forcedW > 0.0f ? forcedW : winWidth)");
+    text.line("float " + h + " = " + height.fallback + ";");
+    assignSize(height.local, styledProperty(site.node, "உயரம்"),
+               "(forcedH > 0.0f ? forcedH : winHeight)");
+    text.line("if (forcedW > 0.0f) " + w + " = forcedW;");
+    text.line("if (forcedH > 0.0f) " + h + " = forcedH;");
+    text.line(w + " = responsiveW(" + w + ", winWidth, " + margin + ");");
+}
+
+void WidgetWriter::writeChild(const WidgetNode& child, const std::string& x, const std::string& y) {
+    text.block("", [&] {
+        text.line("float oldForcedW = forcedW;");
+        text.line("float oldForcedH = forcedH;");
+        text.line("forcedW = -1.0f;");
+        text.line("forcedH = -1.0f;");
+        write(child, x, y);
+        text.line("forcedW = oldForcedW;");
+        text.line("forcedH = oldForcedH;");
+    });
+}
+
+void WidgetWriter::writeChannels(const Site& site, const std::string& prefix, Rgb fallback,
+                                 const char* key) {
+    const auto assignments = [&](const char* type, const Rgb& colour) {
+        const auto one = [&](const char* channel, int value) {
+            return type + prefix + channel + " = " + std::to_string(value) + ";";
+        };
+        return one("R", colour.r) + " " + one("G", colour.g) + " " + one("B", colour.b);
+    };
+    text.line(assignments("int ", fallback));
+    const auto colour = colourProperty(site.node, key);
+    if (colour) text.line(assignments("", channelBytes(*colour)));
+}

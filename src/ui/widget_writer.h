@@ -1,0 +1,61 @@
+// Writes widgets into the frame of an application: what all of them share, each idiom once. What
+// one kind draws stands in its template (src/emitted/widgets) and its function (src/ui/widgets).
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "syntax/widgets.h"
+#include "ui/colours.h"
+#include "ui/program_text.h"
+#include "writing/text_writer.h"
+
+/// Where a widget stands: the C++ texts of its place, in pixels, and what its statics are named by.
+struct Site {
+    const WidgetNode& node;
+    std::string x;
+    std::string y;
+    std::string id;
+};
+
+/// One side of a widget: the local that holds it, and the C++ text of its default.
+struct Side {
+    const char* local;
+    const char* fallback;
+};
+
+class WidgetWriter {
+public:
+    /// Keeps a reference to `text`, which must outlive it.
+    WidgetWriter(TextWriter& text, ProgramText programText);
+
+    /// Writes a widget and all below it: its identity, its visibility, its own block.
+    void write(const WidgetNode& widget, const std::string& x, const std::string& y);
+
+    /// A template as a brace block, with X, Y and ID of the site where it names them.
+    void fill(std::string_view text, const Site& site, Fills fills);
+    /// An expression of the program where the placeholder stands.
+    Fill expression(std::string_view name, const Expression* value);
+
+    /// Declares both sides, lets the properties for width and height set them, then the size that
+    /// a parent forces, and keeps the width within the window less `margin`, a C++ text.
+    void writeSize(const Site& site, Side width, Side height, const char* margin);
+    /// A child in a brace block of its own, at a place named by two locals, with no size forced.
+    void writeChild(const WidgetNode& child, const std::string& x, const std::string& y);
+    /// Three ints named `prefix` and R, G, B: `fallback`, then what the property `key` says.
+    void writeChannels(const Site& site, const std::string& prefix, Rgb fallback, const char* key);
+
+    TextWriter& text;
+
+private:
+    void registerPlace(const Site& site);
+    void writeVisible(const Site& site);
+    void dispatch(const Site& site);
+    void assignSize(const char* local, const Expression* value, const std::string& base);
+    /// A number of the node's own, in the order in which nodes are first written.
+    std::string identityOf(const WidgetNode& widget);
+
+    ProgramText programText;
+    std::map<const WidgetNode*, int> identities;
+};

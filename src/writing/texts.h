@@ -1,0 +1,16 @@
+// Values as C++ text, the same in every locale.
+#pragma once
+
+#include <string>
+
+/// A float with three decimals and the suffix `f`.
+std::string to_fstr(float value);
+
+/// A float with six decimals.
+std::string sixDecimals(float value);
+
+/// A float as a stream writes it.
+std::string numberText(float value);
+
+/// `text` as a C++ string literal, quotes included.
+std::string quoted(const std::string& text);
