@@ -1,17 +1,21 @@
 #include "driver/page.h"
 
+#include <sstream>
+#include <string_view>
+
 #include "driver/media.h"
 #include "driver/paths.h"
 #include "syntax/application.h"
 #include "syntax/expressions.h"
 #include "syntax/literals.h"
+#include "writing/marks.h"
 
 namespace {
 
-constexpr const char* kTitleMark = "{{{ இணைய_தலைப்பு }}}";
-constexpr const char* kIconMark = "{{{ சின்னம் }}}";
-constexpr const char* kBackgroundMark = "{{{ பின்னணி_நிறம் }}}";
-constexpr const char* kScriptMark = "{{{ SCRIPT }}}";
+constexpr std::string_view kTitleMark = "இணைய_தலைப்பு";
+constexpr std::string_view kIconMark = "சின்னம்";
+constexpr std::string_view kBackgroundMark = "பின்னணி_நிறம்";
+constexpr std::string_view kScriptMark = "SCRIPT";
 
 constexpr const char* kDefaultTitle = "பொழில் தளம்";
 constexpr const char* kDefaultIcon = "file-icon.png";
@@ -48,21 +52,25 @@ std::string orDefault(const std::string& text, const char* fallback) {
     return text.empty() ? fallback : text;
 }
 
-bool holds(const std::string& page, const std::string& mark) {
-    return page.find(mark) != std::string::npos;
+bool holds(const std::string& page, std::string_view mark) {
+    return page.find(std::string(kPageMarks.open) + std::string(mark) +
+                     std::string(kPageMarks.close)) != std::string::npos;
 }
 
-void replaceFirst(std::string& page, const std::string& mark, const std::string& value) {
-    const std::size_t at = page.find(mark);
-    if (at != std::string::npos) page.replace(at, mark.size(), value);
-}
+enum class Places { First, All };
 
-/// Moves past each value, so that one which holds the mark can't loop.
-void replaceAll(std::string& page, const std::string& mark, const std::string& value) {
-    for (std::size_t at = page.find(mark); at != std::string::npos;
-         at = page.find(mark, at + value.size())) {
-        page.replace(at, mark.size(), value);
-    }
+/// Each mark is replaced in a walk of its own: a value that holds a mark is filled by the walks
+/// that follow, and by its own never.
+void replaceMark(std::string& page, std::string_view mark, Places places, std::string_view value) {
+    bool isPlaced = false;
+    std::ostringstream filled;
+    fillMarks(filled, page, kPageMarks, [&](std::string_view name) {
+        if (name != mark || (isPlaced && places == Places::First)) return false;
+        isPlaced = true;
+        filled << value;
+        return true;
+    });
+    page = filled.str();
 }
 
 void insertBeforeBodyEnd(std::string& page, const std::string& text) {
@@ -86,7 +94,7 @@ std::string iconAddress(const std::string& path) {
 
 void insertScript(std::string& page) {
     if (holds(page, kScriptMark)) {
-        replaceFirst(page, kScriptMark, kScriptTag);
+        replaceMark(page, kScriptMark, Places::First, kScriptTag);
     } else {
         insertBeforeBodyEnd(page, std::string(kScriptTag) + "\n");
     }
@@ -118,9 +126,11 @@ PageHead readPageHead(const Program& program) {
 }
 
 std::string assemblePage(std::string page, const PageHead& head, int version) {
-    replaceFirst(page, kTitleMark, orDefault(head.title, kDefaultTitle));
-    if (holds(page, kIconMark)) replaceFirst(page, kIconMark, iconAddress(head.icon));
-    replaceAll(page, kBackgroundMark, orDefault(head.background, kDefaultBackground));
+    replaceMark(page, kTitleMark, Places::First, orDefault(head.title, kDefaultTitle));
+    if (holds(page, kIconMark)) {
+        replaceMark(page, kIconMark, Places::First, iconAddress(head.icon));
+    }
+    replaceMark(page, kBackgroundMark, Places::All, orDefault(head.background, kDefaultBackground));
     insertScript(page);
     insertBeforeBodyEnd(page, kLiveReloadHead + std::to_string(version) + kLiveReloadTail);
     return page;

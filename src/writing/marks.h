@@ -35,7 +35,10 @@ void fillMarks(std::ostream& out, std::string_view text, const MarkStyle& style,
         const Mark mark = findMark(text, style);
         out << text.substr(0, mark.at);
         if (mark.at == std::string_view::npos) return;
-        if (!write(mark.name)) out << text.substr(mark.at, mark.length);
-        text.remove_prefix(mark.at + mark.length);
+        const bool isFilled = write(mark.name);
+        // Inside a mark that isn't known another may begin.
+        const std::size_t taken = isFilled ? mark.length : style.open.size();
+        if (!isFilled) out << style.open;
+        text.remove_prefix(mark.at + taken);
     }
 }

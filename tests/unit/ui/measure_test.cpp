@@ -1,0 +1,49 @@
+// What widgets measure as far as the source tells.
+#include "ui/measure.h"
+
+#include <gtest/gtest.h>
+
+#include "support/front_end.h"
+
+namespace {
+
+struct Size {
+    float width;
+    float height;
+};
+bool operator==(const Size& a, const Size& b) { return a.width == b.width && a.height == b.height; }
+std::ostream& operator<<(std::ostream& out, const Size& size) {
+    return out << size.width << " x " << size.height;
+}
+
+Size measured(const std::string& widget) {
+    const Parsed parsed = parse(widget + "\n");
+    const Statement* statement = parsed.program.statements.at(0).get();
+    return {calculateWidgetWidth(statement), calculateWidgetHeight(statement)};
+}
+
+TEST(Measure, OfATextCountsCodePoints) {
+    EXPECT_EQ(measured("உரை(\"வணக்கம்\")"), (Size{7 * (0.65F * 16), 16}));
+    EXPECT_EQ(measured("உரை(அ)"), (Size{10 * (0.65F * 16), 16})) << "no string: ten";
+}
+
+TEST(Measure, OfATextCountsItsFirstStringByKey) {
+    EXPECT_EQ(measured("உரை(\"ஒன்று\", அடையாளம்: \"அ\")").width, 1 * (0.65F * 16));
+}
+
+TEST(Measure, OfACheckBox) {
+    EXPECT_EQ(measured("தேர்வுபெட்டி()"), (Size{24, 24}));
+    EXPECT_EQ(measured("தேர்வுபெட்டி(உரை(\"ஒன்று\"))"), (Size{24 + 12 + 5 * (0.65F * 16), 24}));
+    EXPECT_EQ(measured("தேர்வுபெட்டி(அகலம்: 40, உயரம்: 30)"), (Size{40, 30}));
+    EXPECT_EQ(measured("தேர்வுபெட்டி(அகலம்: 50%, உயரம்: \"50%\")"), (Size{0, 24}))
+        << "a percentage is the frame's; a string is none here";
+    EXPECT_EQ(measured("தேர்வுபெட்டி(அகலம்: அ)"), (Size{24, 24}));
+}
+
+TEST(Measure, OfWhatIsNoWidgetIsNothing) {
+    EXPECT_EQ(calculateWidgetWidth(nullptr), 0);
+    EXPECT_EQ(measured("அச்சிடு(1)"), (Size{0, 0}));
+    EXPECT_EQ(measured("பட்டியல்_காட்சி()"), (Size{0, 0}));
+}
+
+}  // namespace
