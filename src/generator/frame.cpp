@@ -6,6 +6,7 @@
 #include "generator/generator.h"
 #include "ui/web_form.h"
 #include "writing/marks.h"
+#include "writing/texts.h"
 
 namespace {
 
@@ -77,8 +78,7 @@ void Generator::writeText(std::string_view section) {
         if (name == "SOURCE_FILE") {
             out << sourceFile;
         } else if (name == "INITIAL_PAGE") {
-            // As the source writes it, escapes included: so it equals the name in its page block.
-            out << '"' << web->head().initialPage << '"';
+            out << asWritten(web->head().initialPage);
         } else {
             throw std::logic_error("placeholder " + std::string(name) + " isn't filled");
         }

@@ -91,8 +91,7 @@ void WebForm::visitWebAppNode(const WebAppNode& app) {
         expressionFill("TITLE", title),
         {"WIDGETS", [&] { generateUI(app.body.get()); }},
     };
-    // As the source writes it, escapes included: so it equals the name of the first page.
-    text.block("if (g_currentPage == \"" + (page == nullptr ? "home" : *page) + "\") ",
+    text.block("if (g_currentPage == " + asWritten(page == nullptr ? "home" : *page) + ") ",
                [&] { text.fill(widget_templates::page, fills); });
 }
 

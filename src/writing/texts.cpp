@@ -34,3 +34,5 @@ std::string quoted(const std::string& text) {
     }
     return literal + "\"";
 }
+
+std::string asWritten(const std::string& text) { return "\"" + text + "\""; }

@@ -14,3 +14,7 @@ std::string numberText(float value);
 
 /// `text` as a C++ string literal, quotes included.
 std::string quoted(const std::string& text);
+
+/// A string of the program as a C++ string literal: byte for byte, so that a backslash of the
+/// source acts as an escape of C++, as it does in all its strings.
+std::string asWritten(const std::string& text);

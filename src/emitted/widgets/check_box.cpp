@@ -8,7 +8,7 @@ void check_box() {
     float _txtW = 0.0f;
 #if POZHIL_HAS_LABEL_TEXT
     std::string _cbTxt = fn_any_to_string(POZHIL_LABEL_TEXT);
-    _txtW = getTextWidth(_cbTxt.c_str(), POZHIL_LABEL_SIZE);
+    _txtW = getTextWidth(_cbTxt.c_str(), responsiveTextSize(POZHIL_LABEL_SIZE, winWidth));
 #endif
     float hitW = cb_w + 15.0f + _txtW;
     static bool checked_POZHIL_ID = POZHIL_STARTS_CHECKED;

@@ -5,6 +5,11 @@
 
 using WriteWidget = void (*)(WidgetWriter&, const Site&);
 
+constexpr float kFontSize = 16;  ///< Pixels, where no style gives another.
+
+/// The size of a text as its style gives it, in pixels, before the window scales it.
+float fontSizeOf(const WidgetNode& text);
+
 void writeNothing(WidgetWriter& w, const Site& at);
 void writeText(WidgetWriter& w, const Site& at);
 void writeCheckBox(WidgetWriter& w, const Site& at);

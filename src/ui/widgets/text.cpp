@@ -6,13 +6,15 @@
 
 namespace {
 
-constexpr float kFontSize = 16;  // pixels
-
 std::string orDefault(const std::string& text, const char* fallback) {
     return text.empty() ? fallback : text;
 }
 
 }  // namespace
+
+float fontSizeOf(const WidgetNode& text) {
+    return text.textStyle.fontSize > 0 ? text.textStyle.fontSize : kFontSize;
+}
 
 void writeText(WidgetWriter& w, const Site& at) {
     const TextStyle& style = at.node.textStyle;
@@ -22,10 +24,10 @@ void writeText(WidgetWriter& w, const Site& at) {
     w.fill(widget_templates::text, at,
            {{"HAS_CONTENT", content != nullptr},
             w.expression("CONTENT", content),
-            {"FONT_SIZE", to_fstr(style.fontSize > 0 ? style.fontSize : kFontSize)},
+            {"FONT_SIZE", to_fstr(fontSizeOf(at.node))},
             {"IS_CENTRED", style.textAlign == "மையம்" || style.textAlign == "center"},
-            {"COLOUR", quoted(cssText(parsePozhilColor(colour, isHex)))},
-            {"WEIGHT", quoted(orDefault(style.fontWeight, "400"))},
+            {"COLOUR", asWritten(cssText(parsePozhilColor(colour, isHex)))},
+            {"WEIGHT", asWritten(orDefault(style.fontWeight, "400"))},
             {"UNDERLINE", style.underline ? "true" : "false"},
-            {"FONT", quoted(style.fontFamily)}});
+            {"FONT", asWritten(style.fontFamily)}});
 }
