@@ -2,11 +2,15 @@
 # bench.sh [programs]: measures, side by side in one run, the g++ step of a program with and without
 # the warmed header, the front end on growing sources, the scanner with and without its checks, and
 # the programs of bench/programs beside the same programs in Python. With `programs` those alone.
+[ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
+set +o posix  # sh may be bash
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 # shellcheck source=scripts/messages.sh
 . scripts/messages.sh
+# shellcheck source=scripts/build_directory.sh
+. scripts/build_directory.sh
 
 what=${1:-all}
 case "$what" in
@@ -21,8 +25,7 @@ mkdir "$work/times"
 runs=7
 
 build_measures() {
-    [ -f build/bench/build.ninja ] ||
-        run_quietly "அளவீட்டைத் தொடங்க முடியவில்லை (cmake)." cmake --preset bench
+    configure bench
     run_quietly "அளவீட்டு நிரல்களைக் கட்ட முடியவில்லை." cmake --build --preset bench
 }
 

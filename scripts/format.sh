@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # format.sh [--check]: formats all C++, or only tells which files are not formatted.
+[ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
+set +o posix  # sh may be bash
 set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/.."
+CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 tool=$(command -v clang-format-14 || command -v clang-format)
 options=(-i)

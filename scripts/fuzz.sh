@@ -2,17 +2,20 @@
 # fuzz.sh [SECONDS]: feeds scanner, parser and generator with made-up sources under the address and
 # undefined-behaviour sanitizers, starting from the test programs. Tells how many inputs were tried;
 # fails at the first crash, hang or leak and keeps the input that caused it in build/fuzz/findings.
+[ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
+set +o posix  # sh may be bash
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 # shellcheck source=scripts/messages.sh
 . scripts/messages.sh
+# shellcheck source=scripts/build_directory.sh
+. scripts/build_directory.sh
 seconds=${1:-60}
 [[ "$seconds" =~ ^[1-9][0-9]*$ ]] || refuse "எத்தனை வினாடிகள்? பயன்பாடு: scripts/fuzz.sh வினாடிகள்"
 
 scripts/install_packages.sh g++ cmake ninja-build clang libclang-rt-dev
-[ -f build/fuzz/build.ninja ] ||
-    run_quietly "சோதனையைத் தொடங்க முடியவில்லை (cmake)." cmake --preset fuzz
+configure fuzz
 run_quietly "சோதனை நிரலைக் கட்ட முடியவில்லை." cmake --build --preset fuzz --target front_end_fuzzer
 
 corpus="$root/build/fuzz/corpus"

@@ -1,11 +1,18 @@
 #!/usr/bin/env bash
 # lint.sh [FILE...]: clang-tidy over the compiler's sources, or over the files named. The emitted
 # text is left out: its rules are those of the generated programs.
+[ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
+set +o posix  # sh may be bash
 set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/.."
+CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+# shellcheck source=scripts/messages.sh
+. scripts/messages.sh
+# shellcheck source=scripts/build_directory.sh
+. scripts/build_directory.sh
 
 database=build/tests
-[ -f "$database/compile_commands.json" ] || cmake --preset tests >/dev/null
+configure tests
 # The embedded text is a header that the build makes.
 cmake --build "$database" --target generated/emitted_text.h >/dev/null
 

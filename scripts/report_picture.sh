@@ -2,7 +2,7 @@
 # report_picture.sh: makes docs/report.png, the picture of a report in the README, from what the
 # compiler really prints for docs/ஒருபிழை.பொழில்.
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 # shellcheck source=scripts/messages.sh
 . scripts/messages.sh

@@ -2,7 +2,7 @@
 # setup_browser_tests.sh: installs what the tests in the browser need: Chromium, Tamil fonts, Node
 # and the driver package. With nothing to do it takes a fraction of a second.
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # shellcheck source=scripts/messages.sh
 . "$root/scripts/messages.sh"
 

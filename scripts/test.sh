@@ -2,10 +2,14 @@
 # test.sh [fast]: installs what the tests need and runs all of them; with `fast` the fast lane
 # alone. A step that fails is remembered and the others run on. The last line counts all tests and
 # checks; the status tells whether all of them passed.
+[ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
+set +o posix  # sh may be bash
 set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/.."
+CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/messages.sh
 . scripts/messages.sh
+# shellcheck source=scripts/build_directory.sh
+. scripts/build_directory.sh
 
 passed=0 failed=0 skipped=0
 failures=()
@@ -24,7 +28,7 @@ check() {
 }
 
 build() {
-    cmake --preset "$1" >/dev/null && cmake --build "build/$1" -j "$(nproc)" -- -k 0
+    (configure "$1") && cmake --build "build/$1" -j "$(nproc)" -- -k 0
 }
 
 # The value of a count in the head of a report in JUnit's form.

@@ -1,0 +1,170 @@
+// The scripts that build, with a project of one target: they configure a directory once, afresh
+// where the checkout was moved, and leave alone what only others may write to.
+#include <unistd.h>
+
+#include <fstream>
+#include <regex>
+
+#include "driver/workplace.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const fs::path kScripts = fs::u8path(POZHIL_ROOT) / "scripts";
+
+/// Configuring leaves a line in `configured`, building writes where it was built into `built`.
+const std::string kProject =
+    "cmake_minimum_required(VERSION 3.22)\n"
+    "project(pozhil NONE)\n"
+    "file(APPEND configured \"${NOTE}\\n\")\n"
+    "add_custom_target(pozhil COMMAND echo ${CMAKE_SOURCE_DIR} > ${CMAKE_SOURCE_DIR}/built)\n";
+
+std::string presetsThatNote(const std::string& note) {
+    return R"({"version": 3, "configurePresets": [{"name": "release", "generator": "Ninja",)"
+           R"( "binaryDir": "${sourceDir}/build/release", "cacheVariables": {"NOTE": ")" +
+           note + R"("}}], "buildPresets": [{"name": "release", "configurePreset": "release"}]})";
+}
+
+class BuildScript : public Workplace {
+protected:
+    BuildScript() {
+        fs::create_directories(home / "scripts");
+        for (const char* script : {"build_release.sh", "build_directory.sh", "messages.sh"}) {
+            fs::copy_file(kScripts / script, home / "scripts" / script);
+        }
+        standIn(home / "scripts" / "prepare_objects.sh", "echo >>prepared");
+        writeFileText(home / "CMakeLists.txt", kProject);
+        writeFileText(home / "CMakePresets.json", presetsThatNote("first"));
+    }
+
+    static void standIn(const fs::path& path, const std::string& text) {
+        writeFileText(path, "#!/bin/sh\n" + text + "\n");
+        makeExecutable(path);
+    }
+
+    ProcessResult build(std::vector<std::string> command = {"bash"}) const {
+        command.push_back((home / "scripts" / "build_release.sh").u8string());
+        return runCommand(command,
+                          {work.u8string(), {"TMPDIR=" + (root / "tmp").u8string()}, "", 60});
+    }
+
+    void expectBuilt() const {
+        const ProcessResult result = build();
+        EXPECT_EQ(result.exitCode, 0) << result.err;
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(readFileText(home / "built"), home.u8string() + "\n");
+        EXPECT_TRUE(fs::remove(home / "prepared"));
+    }
+
+    std::string configured() const { return readFileText(home / "configured"); }
+};
+
+TEST_F(BuildScript, ConfiguresOnce) {
+    expectBuilt();
+    expectBuilt();
+    EXPECT_EQ(configured(), "first\n");
+}
+
+TEST_F(BuildScript, ConfiguresAfreshWhereTheCheckoutWasMoved) {
+    expectBuilt();
+    writeFileText(home / "build" / "release" / "kept", "");
+    fs::rename(home, root / "another name");
+    home = root / "another name";
+    expectBuilt();
+    EXPECT_EQ(configured(), "first\nfirst\n");
+    EXPECT_TRUE(fs::exists(home / "build" / "release" / "kept"));
+
+    // A copy whose original still stands.
+    fs::copy(home, root / "copy", fs::copy_options::recursive);
+    home = root / "copy";
+    fs::remove(home / "built");
+    expectBuilt();
+    EXPECT_EQ(configured(), "first\nfirst\nfirst\n");
+}
+
+TEST_F(BuildScript, TakesALinkForThePlaceItLeadsTo) {
+    expectBuilt();
+    fs::create_directory_symlink(home, root / "link");
+    home = root / "link";
+    EXPECT_EQ(build().exitCode, 0);
+    EXPECT_EQ(configured(), "first\n");
+}
+
+TEST_F(BuildScript, ConfiguresAgainWhenThePresetsChange) {
+    expectBuilt();
+    writeFileText(home / "CMakePresets.json", presetsThatNote("second"));
+    fs::last_write_time(home / "CMakePresets.json",
+                        fs::file_time_type::clock::now() + std::chrono::seconds(1));
+    expectBuilt();
+    EXPECT_EQ(configured(), "first\nsecond\n");
+}
+
+TEST_F(BuildScript, TellsWhatFailed) {
+    standIn(home / "scripts" / "prepare_objects.sh", "echo குறை >&2; exit 1");
+    ProcessResult result = build();
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_NE(result.err.find("குறை\n\033[1;31m🚨 பொழிலின் துணைக் கோப்புகளை உருவாக்க முடியவில்லை."),
+              std::string::npos)
+        << result.err;
+    writeFileText(home / "CMakeLists.txt", "இல்லை()\n");
+    standIn(home / "scripts" / "prepare_objects.sh", "");
+    result = build();
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_NE(result.err.find("🚨"), std::string::npos) << result.err;
+}
+
+class BuildScriptOfSomebodyElse : public BuildScript {
+protected:
+    BuildScriptOfSomebodyElse() {
+        fs::permissions(root / "tmp", fs::perms::all);
+        fs::permissions(home, static_cast<fs::perms>(0555));
+    }
+    ~BuildScriptOfSomebodyElse() override { fs::permissions(home, fs::perms::owner_all); }
+
+    // Permissions bind everyone but the superuser.
+    ProcessResult buildAsSomebodyElse() const {
+        if (geteuid() != 0) return build();
+        return build({"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "bash"});
+    }
+};
+
+TEST_F(BuildScriptOfSomebodyElse, TakesAFinishedCompilerAsItIs) {
+    writeFileText(object, "");
+    const ProcessResult result = buildAsSomebodyElse();
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.err, "");
+    EXPECT_FALSE(fs::exists(home / "prepared"));
+}
+
+TEST_F(BuildScriptOfSomebodyElse, SaysThatNothingCanBeBuilt) {
+    const ProcessResult result = buildAsSomebodyElse();
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_NE(result.err.find("எழுத உமக்கு உரிமை இல்லை"), std::string::npos) << result.err;
+}
+
+TEST(Scripts, ConfigureInOnePlace) {
+    std::vector<std::string> places;
+    for (const auto& entry : fs::directory_iterator(kScripts)) {
+        if (readFileText(entry.path()).find("cmake --preset") == std::string::npos) continue;
+        places.push_back(entry.path().filename());
+    }
+    EXPECT_EQ(places, std::vector<std::string>{"build_directory.sh"});
+}
+
+TEST(Scripts, NamedInTheDocumentsCanBeStarted) {
+    const std::string documents = readFileText(fs::u8path(POZHIL_ROOT) / "README.md") +
+                                  readFileText(fs::u8path(POZHIL_ROOT) / "CONTRIBUTING.md");
+    const std::regex name("scripts/[a-z_]+\\.sh");
+    int found = 0;
+    for (std::sregex_iterator i(documents.begin(), documents.end(), name), end; i != end; ++i) {
+        const fs::path script = fs::u8path(POZHIL_ROOT) / i->str();
+        EXPECT_EQ(access(script.c_str(), X_OK), 0) << script;
+        EXPECT_NE(fs::status(script).permissions() & fs::perms::others_exec, fs::perms::none)
+            << script;
+        ++found;
+    }
+    EXPECT_GE(found, 4);
+}
+
+}  // namespace
