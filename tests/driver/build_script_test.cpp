@@ -167,4 +167,33 @@ TEST(Scripts, NamedInTheDocumentsCanBeStarted) {
     EXPECT_GE(found, 4);
 }
 
+/// Configures the compiler itself, in a directory of its own; gives the folder of the library.
+std::string libraryFolder(const fs::path& directory, std::vector<std::string> command) {
+    command.insert(command.end(), {"-B", directory.u8string()});
+    const ProcessResult result = runCommand(command, {POZHIL_ROOT, {}, "", 120});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    const std::string name = "POZHIL_LIBRARY_DIR:STRING=";
+    std::ifstream cache(directory / "CMakeCache.txt");
+    for (std::string line; std::getline(cache, line);) {
+        if (line.rfind(name, 0) == 0) return line.substr(name.size());
+    }
+    return "not in the cache";
+}
+
+class LibraryFolder : public Workplace {};
+
+// An import names its module as it does in the checkout: "தொகுப்புகள்/எண்/எண்".
+TEST_F(LibraryFolder, IsTheCheckoutForAUser) {
+    const fs::path directory = root / "build";
+    EXPECT_EQ(libraryFolder(directory, {"cmake", "--preset", "release"}), POZHIL_ROOT "/");
+    const std::string commands = readFileText(directory / "compile_commands.json");
+    EXPECT_NE(commands.find("POZHIL_LIBRARY_DIR=\\\\\\\"" POZHIL_ROOT "/\\\\\\\""),
+              std::string::npos);
+}
+
+TEST_F(LibraryFolder, IsAFixedOneForWhoeverAsksForNothing) {
+    EXPECT_EQ(libraryFolder(root / "build", {"cmake", "-S", ".", "-G", "Ninja"}),
+              "/home/velanar/Pozhil/தொகுப்புகள்/");
+}
+
 }  // namespace
