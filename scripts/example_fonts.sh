@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # example_fonts.sh [DIRECTORY...]: puts the two fonts that every web application opens into
-# assets/font of each directory, or of every example. They are fetched once and never committed.
-# Without them an application runs all the same and warns.
+# assets/font of each directory, or of every example, where they are missing: an application's own
+# fonts of those names stay. They are fetched once and never committed. Without them an application
+# runs all the same and warns.
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # shellcheck source=scripts/messages.sh
 . "$root/scripts/messages.sh"
 
@@ -14,7 +15,7 @@ fetch_coiny() {
     local work
     work=$(mktemp -d) &&
         npm install --prefix "$work" --silent --no-audit --no-fund --ignore-scripts \
-            @expo-google-fonts/coiny &&
+            --fetch-retries=1 --fetch-timeout=20000 @expo-google-fonts/coiny &&
         find "$work" -name Coiny_400Regular.ttf -exec cp {} "$store/Coiny-Regular.ttf.new" \; &&
         mv "$store/Coiny-Regular.ttf.new" "$store/Coiny-Regular.ttf"
     local status=$?
@@ -40,10 +41,23 @@ directories=("$@")
 if [ $# -eq 0 ] && [ -d "$root/examples/web" ]; then
     mapfile -t directories < <(find "$root/examples/web" -name '*.பொழில்' -printf '%h\n' | sort -u)
 fi
-[ ${#directories[@]} -gt 0 ] || exit 0
+
+has_fonts() {
+    [ -f "$1/assets/font/Tamil-Regular.ttf" ] && [ -f "$1/assets/font/Coiny-Regular.ttf" ]
+}
+
+lacking=()
+for directory in "${directories[@]}"; do
+    has_fonts "$directory" || lacking+=("$directory")
+done
+[ ${#lacking[@]} -gt 0 ] || exit 0
 
 fill_store
-for directory in "${directories[@]}"; do
-    mkdir -p "$directory/assets/font"
-    cp -u "$store"/*.ttf "$directory/assets/font"
+for directory in "${lacking[@]}"; do
+    mkdir -p -- "$directory/assets/font"
+    for font in "$store"/*.ttf; do
+        name=$directory/assets/font/$(basename "$font")
+        [ -f "$name" ] || cp -- "$font" "$name"
+    done
+    say "🔤 எழுத்துருக்கள் வைக்கப்பட்டன: $(CDPATH="" cd -- "$directory" && pwd)/assets/font"
 done

@@ -3,7 +3,7 @@
 # உள்ளடக்கம்/nanovg, and the two objects in திரட்டு that every application links. Objects are remade
 # when em++ or a source changes. With nothing to do it takes a few milliseconds.
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 # shellcheck source=scripts/messages.sh
 . scripts/messages.sh
@@ -21,7 +21,8 @@ identity() {
     local compiler
     compiler=$(readlink -f "$(command -v em++)") || return 1
     stat -c '%n %s %Z' "$compiler" "${compiler%/*}/emscripten-version.txt" 2>/dev/null || true
-    cksum scripts/setup_web.sh "${own_sources[@]}" "$sources"/*
+    cksum scripts/setup_web.sh "${own_sources[@]}"
+    (cd "$sources" && cksum -- *)  # by name, not by path: the checkout may move
 }
 
 is_fresh() {
@@ -83,7 +84,8 @@ make_objects() {
 }
 
 is_fresh && exit 0
-mkdir -p build
+{ [ -w "$objects" ] && mkdir -p build 2>/dev/null && [ -w build ]; } ||
+    refuse "வலைதளங்களுக்கான துணைக் கோப்புகள் இல்லை; '$root' கோப்புறையில் எழுத உமக்கு உரிமை இல்லை."
 exec 8>build/web.lock
 flock 8  # two first runs at a time would build over each other
 is_fresh && exit 0

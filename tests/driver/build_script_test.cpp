@@ -196,4 +196,36 @@ TEST_F(LibraryFolder, IsAFixedOneForWhoeverAsksForNothing) {
               "/home/velanar/Pozhil/தொகுப்புகள்/");
 }
 
+class FontsScript : public Workplace {
+protected:
+    FontsScript() {
+        fs::create_directories(home / "scripts");
+        fs::create_directories(home / "build" / "fonts");
+        for (const char* script : {"example_fonts.sh", "messages.sh"}) {
+            fs::copy_file(kScripts / script, home / "scripts" / script);
+        }
+        for (const char* font : {"Tamil-Regular.ttf", "Coiny-Regular.ttf"}) {
+            writeFileText(home / "build" / "fonts" / font, "stored");
+        }
+    }
+
+    ProcessResult giveFonts() const {
+        return runCommand({"bash", (home / "scripts" / "example_fonts.sh").u8string(), "."},
+                          {work.u8string(), environment(), "", 60});
+    }
+};
+
+TEST_F(FontsScript, GivesWhatIsMissingAndNoMore) {
+    const fs::path fonts = work / "assets" / "font";
+    fs::create_directories(fonts);
+    writeFileText(fonts / "Tamil-Regular.ttf", "my own");
+    fs::last_write_time(fonts / "Tamil-Regular.ttf", fs::file_time_type::min());
+    const ProcessResult first = giveFonts();
+    EXPECT_EQ(first.exitCode, 0) << first.err;
+    EXPECT_NE(first.err.find((work / "assets" / "font").u8string()), std::string::npos);
+    EXPECT_EQ(readFileText(fonts / "Tamil-Regular.ttf"), "my own");
+    EXPECT_EQ(readFileText(fonts / "Coiny-Regular.ttf"), "stored");
+    EXPECT_EQ(giveFonts().err, "") << "nothing was missing";
+}
+
 }  // namespace
