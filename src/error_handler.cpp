@@ -148,7 +148,19 @@ int ErrorHandler::visualWidth(std::string text) {
     return width;
 }
 
-#if defined(__GLIBCXX__) && !defined(POZHIL_WITHOUT_INSTANCES)
+// Who makes the object anew is told by a note beside the warmed header that programs count on the
+// instances. Without one nobody does, and they would only ask of libstdc++ what another version may
+// not have: the note speaks of one version alone.
+#if defined(POZHIL_WITH_INSTANCES) || defined(POZHIL_WITHOUT_INSTANCES)
+// Whoever compiles this has decided.
+#elif __has_include("nanovg/held_instances.h")
+#include "nanovg/held_instances.h"
+#if defined(__GLIBCXX__) && POZHIL_HELD_INSTANCES == __GLIBCXX__
+#define POZHIL_WITH_INSTANCES
+#endif
+#endif
+
+#ifdef POZHIL_WITH_INSTANCES
 #include "emitted/includes.cpp"
 #include "error_codes.h"
 
