@@ -1,18 +1,21 @@
 # The build directories of the presets, to be sourced from the root behind messages.sh.
 # shellcheck shell=bash
 
-# configure PRESET: makes build/PRESET ready to be built, if it isn't. CMake refuses a directory
-# that was configured where the checkout stood before it was moved, renamed or copied: such a
-# directory forgets its configuration here, and keeps whatever else stands in it.
+# configure PRESET [OPTION...]: makes build/PRESET ready to be built, if it isn't; with options
+# always. CMake refuses a directory that was configured where the checkout stood before it was
+# moved, renamed or copied: such a directory forgets its configuration here, and keeps whatever else
+# stands in it.
 configure() {
-    local directory=build/$1
+    local directory=build/$1 preset=$1
+    shift
     local stamp=$directory/configured
     if [ -f "$directory/CMakeCache.txt" ] && ! was_configured_here "$directory"; then
         rm -rf "$directory"/{CMakeCache.txt,CMakeFiles,build.ninja,.ninja_deps,.ninja_log}
     fi
     # Presets that changed count for a directory that was configured before, too.
-    if [ ! -f "$directory/build.ninja" ] || [ ! "$stamp" -nt CMakePresets.json ]; then
-        run_quietly "'$directory' கட்டமைப்பைத் தொடங்க முடியவில்லை (cmake)." cmake --preset "$1"
+    if [ $# -gt 0 ] || [ ! -f "$directory/build.ninja" ] || [ ! "$stamp" -nt CMakePresets.json ]; then
+        run_quietly "'$directory' கட்டமைப்பைத் தொடங்க முடியவில்லை (cmake)." \
+            cmake --preset "$preset" "$@"
         touch "$stamp"
     fi
 }

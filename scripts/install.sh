@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# install.sh [PREFIX]: installs the compiler with its companions and the module library into
+# PREFIX/lib/pozhil and the command பொழில் into PREFIX/bin. Without a PREFIX that is /usr/local for
+# the superuser and ~/.local for everyone else. What web applications link goes along if it has been
+# made: scripts/setup_web.sh makes it.
+[ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
+set +o posix  # sh may be bash
+set -euo pipefail
+root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+# shellcheck source=scripts/messages.sh
+. "$root/scripts/messages.sh"
+# shellcheck source=scripts/build_directory.sh
+. "$root/scripts/build_directory.sh"
+
+if [ "$(id -u)" -eq 0 ]; then prefix=/usr/local; else prefix=${HOME:-}/.local; fi
+prefix=$(realpath -m -- "${1:-$prefix}")
+{ mkdir -p -- "$prefix" 2>/dev/null && [ -w "$prefix" ]; } ||
+    refuse "'$prefix' கோப்புறையில் எழுத உமக்கு உரிமை இல்லை. பயன்பாடு: scripts/install.sh கோப்புறை"
+
+cd "$root"
+scripts/build_release.sh
+# The compiler at the root looks for the library in this checkout, the installed one beside itself.
+configure install "-DCMAKE_INSTALL_PREFIX=$prefix" "-DPOZHIL_LIBRARY_DIR=$prefix/lib/pozhil/"
+run_quietly "பொழிலைக் கட்ட முடியவில்லை." cmake --build --preset install --target pozhil
+run_quietly "'$prefix' கோப்புறையில் நிறுவ முடியவில்லை." cmake --install build/install
+say "✅ நிறுவப்பட்டது: $prefix/bin/பொழில்"
