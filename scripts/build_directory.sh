@@ -8,15 +8,13 @@
 configure() {
     local directory=build/$1 preset=$1
     shift
-    local stamp=$directory/configured
     if [ -f "$directory/CMakeCache.txt" ] && ! was_configured_here "$directory"; then
         rm -rf "$directory"/{CMakeCache.txt,CMakeFiles,build.ninja,.ninja_deps,.ninja_log}
     fi
-    # Presets that changed count for a directory that was configured before, too.
-    if [ $# -gt 0 ] || [ ! -f "$directory/build.ninja" ] || [ ! "$stamp" -nt CMakePresets.json ]; then
+    if [ $# -gt 0 ] || [ ! -f "$directory/build.ninja" ] || is_older_than_presets "$directory"; then
         run_quietly "'$directory' கட்டமைப்பைத் தொடங்க முடியவில்லை (cmake)." \
             cmake --preset "$preset" "$@"
-        touch "$stamp"
+        touch "$directory/configured"
     fi
 }
 
@@ -25,4 +23,10 @@ was_configured_here() {
     local place
     place=$(sed -n 's/^CMAKE_CACHEFILE_DIR:INTERNAL=//p' "$1/CMakeCache.txt")
     [ -n "$place" ] && [ "$place" -ef "$1" ]
+}
+
+# Presets that changed count for a directory that was configured before, too. One that was configured
+# by hand since then keeps its options.
+is_older_than_presets() {
+    [ ! "$1/configured" -nt CMakePresets.json ] && [ ! "$1/CMakeCache.txt" -nt CMakePresets.json ]
 }

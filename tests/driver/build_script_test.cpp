@@ -100,6 +100,14 @@ TEST_F(BuildScript, ConfiguresAgainWhenThePresetsChange) {
     EXPECT_EQ(configured(), "first\nsecond\n");
 }
 
+TEST_F(BuildScript, KeepsWhatWasConfiguredByHand) {
+    const ProcessResult byHand = runCommand({"cmake", "--preset", "release", "-DNOTE=my own"},
+                                            {home.u8string(), {}, "", 60});
+    ASSERT_EQ(byHand.exitCode, 0) << byHand.err;
+    expectBuilt();
+    EXPECT_EQ(configured(), "my own\n");
+}
+
 TEST_F(BuildScript, TellsWhatFailed) {
     standIn(home / "scripts" / "prepare_objects.sh", "echo குறை >&2; exit 1");
     ProcessResult result = build();
