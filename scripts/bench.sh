@@ -3,7 +3,6 @@
 # the warmed header, the front end on growing sources, the scanner with and without its checks, and
 # the programs of bench/programs beside the same programs in Python. With `programs` those alone.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
-set +o posix  # sh may be bash
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"

@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
 # format.sh [--check]: formats all C++, or only tells which files are not formatted.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
-set +o posix  # sh may be bash
 set -euo pipefail
 CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

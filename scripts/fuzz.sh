@@ -3,7 +3,6 @@
 # undefined-behaviour sanitizers, starting from the test programs. Tells how many inputs were tried;
 # fails at the first crash, hang or leak and keeps the input that caused it in build/fuzz/findings.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
-set +o posix  # sh may be bash
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"

@@ -4,7 +4,6 @@
 # the superuser and ~/.local for everyone else. What web applications link goes along if it has been
 # made: scripts/setup_web.sh makes it.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
-set +o posix  # sh may be bash
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # shellcheck source=scripts/messages.sh

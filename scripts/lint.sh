@@ -2,7 +2,6 @@
 # lint.sh [FILE...]: clang-tidy over the compiler's sources, or over the files named. The emitted
 # text is left out: its rules are those of the generated programs.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
-set +o posix  # sh may be bash
 set -euo pipefail
 CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

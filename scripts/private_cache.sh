@@ -18,7 +18,7 @@ is_usable() { [ -d "$1" ] && [ -w "$1" ] && [ -x "$1" ]; }
 
 is_ours_or_free() {
     [ -e "$1" ] || [ -L "$1" ] || return 0
-    [ -d "$1" ] && [ ! -L "$1" ] && [ -O "$1" ] && [ -z "$(find "$1" -maxdepth 0 -perm /022)" ]
+    [ -d "$1" ] && [ ! -L "$1" ] && [ -O "$1" ] && [ -z "$(find -H "$1" -maxdepth 0 -perm /022)" ]
 }
 
 make_private() {

@@ -5,7 +5,6 @@
 # A console program is started where you stand, a web application in its own folder: there lie its
 # assets. See needs_this_folder for the exceptions.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
-set +o posix  # sh may be bash
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # shellcheck source=scripts/messages.sh

@@ -3,7 +3,6 @@
 # alone. A step that fails is remembered and the others run on. The last line counts all tests and
 # checks; the status tells whether all of them passed.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
-set +o posix  # sh may be bash
 set -euo pipefail
 CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/messages.sh
