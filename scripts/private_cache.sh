@@ -6,7 +6,7 @@
 # a private one takes its place.
 use_own_cache() {
     local common=${TMPDIR-${TMP-${TEMP-${TEMPDIR-/tmp}}}}
-    if is_usable "$common" && is_ours_or_free "$common/Pozhil_Cache"; then return 0; fi
+    if is_usable "$common" && keeps_what_is_ours "$common" && is_ours_or_free "$common/Pozhil_Cache"; then return 0; fi
     export TMPDIR=${XDG_CACHE_HOME:-${HOME:-/nonexistent}/.cache}/pozhil
     # It stays from run to run, unless there is no home to keep it in.
     if ! make_private 2>/dev/null || ! is_ours_or_free "$TMPDIR/Pozhil_Cache"; then
@@ -15,6 +15,12 @@ use_own_cache() {
 }
 
 is_usable() { [ -d "$1" ] && [ -w "$1" ] && [ -x "$1" ]; }
+
+# keeps_what_is_ours DIRECTORY: whether nobody else can take away or replace what is ours in it.
+keeps_what_is_ours() {
+    { [ -O "$1" ] || [ "$(stat -Lc %u -- "$1")" = 0 ]; } &&
+        { [ -k "$1" ] || [ -z "$(find -H "$1" -maxdepth 0 -perm /002)" ]; }
+}
 
 is_ours_or_free() {
     [ -e "$1" ] || [ -L "$1" ] || return 0

@@ -13,6 +13,9 @@ namespace {
 
 const std::string kApplication = "வலைதளம் கணக்கி(\n    தலைமை() குமரி() வரையறை()\n)\n";
 
+/// As /tmp: all may write, and each keeps what is theirs.
+const fs::perms kOpenToAll = fs::perms::all | fs::perms::sticky_bit;
+
 class RunScript : public Workplace {
 protected:
     RunScript() {
@@ -182,7 +185,7 @@ TEST_F(FolderOfAnApplication, IsNotChosenByTheLibrary) {
 TEST_F(FolderOfAnApplication, IsOneThatCanBeWrittenTo) {
     fs::permissions(work / "செயலி", static_cast<fs::perms>(0555));
     fs::permissions(work, fs::perms::all);
-    fs::permissions(root / "tmp", fs::perms::all);
+    fs::permissions(root / "tmp", kOpenToAll);
     // The permissions bind everyone but the superuser.
     std::vector<std::string> command = {"bash"};
     if (geteuid() == 0) {
@@ -251,6 +254,19 @@ TEST_F(TemporaryDirectory, IsPrivateWhereTheCacheIsSomebodyElses) {
     fs::create_directory(cache);
     makeExecutable(cache);
     ASSERT_EQ(chown(cache.c_str(), 65534, 65534), 0);
+    expectPrivate();
+}
+
+TEST_F(TemporaryDirectory, IsPrivateWhereOthersMayReplaceTheCache) {
+    fs::permissions(root / "tmp", kOpenToAll);
+    EXPECT_EQ(chosen(), common);
+    fs::permissions(root / "tmp", fs::perms::all);
+    expectPrivate();
+}
+
+TEST_F(TemporaryDirectory, IsPrivateWhereTheCommonOneIsSomebodyElses) {
+    if (geteuid() != 0) GTEST_SKIP() << "only the superuser can give a directory away";
+    ASSERT_EQ(chown(common.c_str(), 65534, 65534), 0);
     expectPrivate();
 }
 
