@@ -6,7 +6,7 @@
 # assets. See needs_this_folder for the exceptions.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
 set -euo pipefail
-root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")  # a link may lead here
 # shellcheck source=scripts/messages.sh
 . "$root/scripts/messages.sh"
 # shellcheck source=scripts/private_cache.sh

@@ -114,6 +114,12 @@ TEST_F(RunScript, StartsFromAnyShellAndFolder) {
                    {from.u8string(), settings, "", 60});
     EXPECT_EQ(byName.out, "build_release.sh\n[" + (work / "a.பொழில்").u8string() + "]")
         << byName.err;
+    // A link among one's own commands.
+    from = work;
+    fs::create_symlink(home / "scripts" / "run.sh", root / "run");
+    const ProcessResult byLink = runCommand({"sh", (root / "run").u8string(), "a.பொழில்"},
+                                            {from.u8string(), settings, "", 60});
+    EXPECT_EQ(byLink.out, "build_release.sh\n[a.பொழில்]") << byLink.err;
 }
 
 TEST_F(RunScript, ApplicationNeedsThem) {
