@@ -1,0 +1,109 @@
+// The emitted text of a web application, declared for those that call it: tests and the blocks of
+// widgets. program.cpp defines all of it by including that very text.
+#pragma once
+
+#include <GL/glew.h>
+#include <GLFW/glfw3.h>
+#include <emscripten.h>
+#include <emscripten/html5.h>
+#include <emscripten/val.h>
+#include <nanovg.h>
+
+#include <any>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+// The definitions give the defaults themselves.
+#ifdef POZHIL_PROGRAM
+#define POZHIL_DEFAULT(value)
+#else
+#define POZHIL_DEFAULT(value) = value
+struct WidgetPos {
+    float x = 0;
+    float y = 0;
+};
+#endif
+
+// ---- Values ----
+extern std::map<std::string, std::any> global_vars;
+extern std::map<std::string, WidgetPos> g_widgetPositions;
+std::string fn_any_to_string(const std::any& val);
+long double fn_get_double(const std::any& a);
+bool fn_compare_any(const std::any& left, const std::any& right, const char* op);
+
+// ---- The frame ----
+extern NVGcontext* vg;
+extern GLFWwindow* window;
+extern std::string g_currentPage;
+extern std::string g_scrollToId;
+extern std::set<std::string> g_alert_names;
+extern std::vector<std::function<void()>> g_overlays;
+extern bool g_block_background_clicks;
+extern bool g_inside_overlay;
+extern bool g_mouseClicked;
+extern bool g_isHoveringH;
+extern bool g_nextHoveringH;
+extern float g_currentClipX;
+extern float g_currentClipY;
+extern float g_currentClipW;
+extern float g_currentClipH;
+void render_frame();
+void செல்க(std::string pageName);
+void நகர்த்து(std::string id);
+float responsiveW(float w, float winW, float margin POZHIL_DEFAULT(40.0F));
+float responsiveTextSize(float baseSize, float winWidth);
+void startBackgroundVideo(const char* path);
+
+// ---- Text and input ----
+extern std::map<std::string, std::string> g_inputValues;
+extern std::map<std::string, std::string> g_inputErrors;
+extern std::map<std::string, int> g_inputCursorPos;
+extern std::map<std::string, bool> g_inputSelected;
+extern std::string g_focusedInput;
+void setupAndClearTextLayer();
+void drawFixedText(float x, float y, const char* text, const char* color, float fontSize,
+                   const char* align, const char* fontWeight POZHIL_DEFAULT("400"),
+                   bool isUnderline POZHIL_DEFAULT(false), const char* fontPath POZHIL_DEFAULT(""),
+                   float alpha POZHIL_DEFAULT(1.0F), float offsetY POZHIL_DEFAULT(0.0F));
+void drawWebText(float x, float y, const char* text, const char* color, float size,
+                 const char* align);
+float getTextWidth(const char* text, float fontSize);
+void copyToClipboard(const char* text);
+void setupClipboardListener();
+EM_BOOL key_callback(int eventType, const EmscriptenKeyboardEvent* e, void* userData);
+extern "C" {
+void set_input_value(const char* id, const char* val);
+void clear_input_error(const char* id);
+void on_paste_text(const char* text);
+}
+
+// ---- What the tests put in ----
+namespace application {
+
+extern std::function<void()> logic;  ///< What init_globals does.
+extern std::function<void()> page;   ///< What stands where the pages stand.
+
+/// The application's main.
+int start();
+/// drawFixedText(1, 2, "அ", "#000000", 16, "left") with the defaults of the text itself.
+void drawTextByItsDefaults();
+/// responsiveW(800, 800) with the default of the text itself.
+float widthByItsDefault();
+/// main of the same text for anything but the browser.
+int startOutsideABrowser();
+
+}  // namespace application
+
+// What a page's block finds in render_frame: here they take the frame's values before the page.
+extern float winWidth;
+extern float winHeight;
+extern float mx;
+extern float my;
+extern bool g_mouseDown;
+extern float forcedW;
+extern float forcedH;
+extern float maxW;
+extern float maxH;

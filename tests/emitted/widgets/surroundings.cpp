@@ -1,0 +1,50 @@
+#include "emitted/widgets/surroundings.h"
+
+Surroundings::Surroundings() {
+    global_vars.clear();
+    g_widgetPositions.clear();
+    g_currentPage = "home";
+    g_scrollToId = "";
+    g_alert_names.clear();
+    g_overlays.clear();
+    g_block_background_clicks = false;
+    g_inside_overlay = false;
+    g_mouseClicked = false;
+    g_isHoveringH = false;
+    g_nextHoveringH = false;
+    g_currentClipX = g_currentClipY = g_currentClipW = g_currentClipH = -1.0F;
+    g_inputValues.clear();
+    g_inputErrors.clear();
+    g_inputCursorPos.clear();
+    g_inputSelected.clear();
+    g_focusedInput = "";
+    application::logic = {};
+    application::page = {};
+    vg = stand_in::context();
+    window = stand_in::window();
+    winWidth = 800;
+    winHeight = 600;
+    mx = my = 0;
+    g_mouseDown = false;
+    forcedW = forcedH = maxW = maxH = -1.0F;
+
+    browser() = {};
+    browser().window = {{"innerWidth", 800}, {"innerHeight", 600}};
+}
+
+Calls Surroundings::callsOf(const std::function<void()>& body) {
+    browser().calls.clear();
+    body();
+    return browser().take();
+}
+
+Calls Surroundings::frame(const std::function<void()>& page) {
+    application::page = page;
+    return callsOf(render_frame);
+}
+
+Calls Surroundings::drawn(const std::function<void()>& block) {
+    Calls calls;
+    frame([&] { calls = callsOf(block); });
+    return calls;
+}

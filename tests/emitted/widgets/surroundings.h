@@ -1,0 +1,28 @@
+// The clean state in which tests of emitted web text begin: an application with an 800 by 600
+// window that has started.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "emitted/widgets/program.h"
+#include "emitted/widgets/recording.h"
+
+using Calls = std::vector<std::string>;
+
+class Surroundings : public testing::Test {
+protected:
+    Surroundings();
+
+    /// All calls of one frame, with `page` where the blocks of the pages stand.
+    static Calls frame(const std::function<void()>& page = {});
+    /// The calls of `block` alone, made where the blocks of the pages stand.
+    static Calls drawn(const std::function<void()>& block);
+    /// The same for what draws outside a frame.
+    static Calls callsOf(const std::function<void()>& body);
+
+    static stand_in::Recording& browser() { return stand_in::recording(); }
+};
