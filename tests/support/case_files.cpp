@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <sstream>
 
 #include "support/side_by_side.h"
@@ -52,6 +53,22 @@ std::vector<CaseFile> findCases(const std::string& lane, const std::string& exte
     std::sort(cases.begin(), cases.end(),
               [](const CaseFile& a, const CaseFile& b) { return a.name < b.name; });
     return cases;
+}
+
+std::vector<std::string> findStrayFiles(const std::string& lane, const std::string& extension) {
+    const fs::path root = fs::u8path(POZHIL_ROOT) / "tests" / lane;
+    std::set<std::string> known;
+    for (const CaseFile& file : findCases(lane, extension)) {
+        known.insert({file.source, file.expected});
+    }
+    std::vector<std::string> strays;
+    for (const auto& entry : fs::recursive_directory_iterator(root)) {
+        const fs::path& path = entry.path();
+        if (entry.is_directory() || path.extension() == ".cpp") continue;
+        if (insideModules(fs::relative(path, root)) || known.count(path.u8string()) != 0) continue;
+        strays.push_back(path.u8string());
+    }
+    return strays;
 }
 
 void registerCases(const std::string& lane, const std::string& extension,

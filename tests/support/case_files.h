@@ -15,6 +15,9 @@ struct CaseFile {
 /// ends in `extension`. A folder named `modules` holds sources that cases import, not cases.
 std::vector<CaseFile> findCases(const std::string& lane, const std::string& extension);
 
+/// Files below tests/`lane` that are no case, no expectation of one, and no C++.
+std::vector<std::string> findStrayFiles(const std::string& lane, const std::string& extension);
+
 /// Registers a test for each case; fails a test named `finds_cases` if there are none.
 void registerCases(const std::string& lane, const std::string& extension,
                    const std::function<void(const CaseFile&)>& run);

@@ -46,3 +46,8 @@ void drawTextByItsDefaults() { drawFixedText(1, 2, "அ", "#000000", 16, "left")
 float widthByItsDefault() { return responsiveW(800, 800); }
 
 }  // namespace application
+
+// A block reads its surroundings for itself, and not every kind needs all that it reads.
+#pragma GCC diagnostic ignored "-Wunused-variable"
+#pragma GCC diagnostic ignored "-Wunused-but-set-variable"
+#include "blocks.h"

@@ -1,0 +1,63 @@
+// Each widget's whole text that tests/widgets holds is compiled behind the emitted text, and run.
+#include <algorithm>
+#include <map>
+
+#include "emitted/widgets/surroundings.h"
+
+namespace {
+
+class BlockTest : public Surroundings, public testing::WithParamInterface<application::Block> {
+protected:
+    static long count(const Calls& calls, const std::string& call) {
+        return std::count(calls.begin(), calls.end(), call);
+    }
+
+    /// What must hold after each block, whatever it draws.
+    static void expectOrder(const Calls& calls) {
+        EXPECT_EQ(count(calls, "nvgSave()"), count(calls, "nvgRestore()"));
+        EXPECT_EQ(count(calls, "without the context:"), 0);
+        EXPECT_EQ(count(calls, "without the window:"), 0);
+        for (const std::string& call : calls) {
+            EXPECT_EQ(call.rfind("a script with ", 0), std::string::npos) << call;
+        }
+        EXPECT_EQ(forcedW, -1.0F);
+        EXPECT_EQ(forcedH, -1.0F);
+        EXPECT_EQ(g_currentClipX, -1.0F);
+        EXPECT_EQ(g_currentClipY, -1.0F);
+        EXPECT_EQ(g_currentClipW, -1.0F);
+        EXPECT_EQ(g_currentClipH, -1.0F);
+    }
+};
+
+TEST_P(BlockTest, LeavesTheFrameAsItFoundIt) { expectOrder(frame(GetParam().draw)); }
+
+TEST_P(BlockTest, LeavesTheFrameAsItFoundItWhereverAClickFalls) {
+    for (const double y : {5, 20, 40, 80, 160, 320, 599}) {
+        for (const double x : {5, 20, 40, 80, 160, 320, 799}) {
+            browser().window["mouseX"] = x;
+            browser().window["mouseY"] = y;
+            browser().window["mouseClicked"] = 1;
+            browser().window["mouseDownState"] = 1;
+            browser().window["wheelDelta"] = 30;
+            browser().now += 16;
+            expectOrder(frame(GetParam().draw));
+        }
+    }
+}
+
+std::vector<application::Block> blocks() {
+    std::vector<application::Block> all;
+    for (const auto* block = application::kBlocks; block->name != nullptr; block++) {
+        all.push_back(*block);
+    }
+    return all;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, BlockTest, testing::ValuesIn(blocks()), [](const auto& block) {
+    std::string name = block.param.name;
+    name.resize(name.size() - std::string(".block").size());
+    std::replace(name.begin(), name.end(), '/', '_');
+    return name;
+});
+
+}  // namespace
