@@ -1,4 +1,5 @@
-// Each widget's whole text that tests/widgets holds is compiled behind the emitted text, and run.
+// Each widget's whole text that tests/widgets holds, and each template with its switches on and
+// off, is compiled behind the emitted text, and run.
 #include <algorithm>
 #include <map>
 
@@ -46,18 +47,15 @@ TEST_P(BlockTest, LeavesTheFrameAsItFoundItWhereverAClickFalls) {
 }
 
 std::vector<application::Block> blocks() {
-    std::vector<application::Block> all;
-    for (const auto* block = application::kBlocks; block->name != nullptr; block++) {
-        all.push_back(*block);
+    using namespace application;
+    std::vector<Block> all;
+    for (const Block* table : {kBlocks, kTemplatesAllOn, kTemplatesAllOff}) {
+        for (; table->name != nullptr; table++) all.push_back(*table);
     }
     return all;
 }
 
-INSTANTIATE_TEST_SUITE_P(All, BlockTest, testing::ValuesIn(blocks()), [](const auto& block) {
-    std::string name = block.param.name;
-    name.resize(name.size() - std::string(".block").size());
-    std::replace(name.begin(), name.end(), '/', '_');
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(All, BlockTest, testing::ValuesIn(blocks()),
+                         [](const auto& block) { return block.param.name; });
 
 }  // namespace

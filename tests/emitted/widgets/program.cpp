@@ -47,7 +47,5 @@ float widthByItsDefault() { return responsiveW(800, 800); }
 
 }  // namespace application
 
-// A block reads its surroundings for itself, and not every kind needs all that it reads.
-#pragma GCC diagnostic ignored "-Wunused-variable"
-#pragma GCC diagnostic ignored "-Wunused-but-set-variable"
-#include "blocks.h"
+#include "emitted/widgets/blocks.h"
+#include "widget_blocks.h"

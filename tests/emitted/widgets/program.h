@@ -95,12 +95,15 @@ float widthByItsDefault();
 /// main of the same text for anything but the browser.
 int startOutsideABrowser();
 
-/// The text of a widget, compiled where it stands in a generated file.
+/// The text of a widget, compiled with what a frame has around it. The last one of each table has
+/// no name.
 struct Block {
-    const char* name;  ///< The file that holds it, below tests/widgets.
+    const char* name;
     void (*draw)();
 };
-extern const Block kBlocks[];  ///< The last one has no name.
+extern const Block kBlocks[];           ///< Those of tests/widgets, whole.
+extern const Block kTemplatesAllOn[];   ///< Each template with every switch on.
+extern const Block kTemplatesAllOff[];  ///< And off.
 
 }  // namespace application
 
@@ -114,13 +117,3 @@ extern float forcedW;
 extern float forcedH;
 extern float maxW;
 extern float maxH;
-
-// A block finds these as variables of the function around it, and a closure takes copies of them.
-#define BEGIN_BLOCK                                                        \
-    [[maybe_unused]] float winWidth = ::winWidth, winHeight = ::winHeight; \
-    [[maybe_unused]] float mx = ::mx, my_raw = ::my, my = ::my;            \
-    [[maybe_unused]] bool g_mouseDown = ::g_mouseDown;                     \
-    [[maybe_unused]] float forcedW = ::forcedW, forcedH = ::forcedH, maxW = -1, maxH = -1;
-#define END_BLOCK        \
-    ::forcedW = forcedW; \
-    ::forcedH = forcedH;

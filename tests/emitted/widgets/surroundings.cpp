@@ -1,5 +1,9 @@
 #include "emitted/widgets/surroundings.h"
 
+void PrintTo(const Calls& calls, std::ostream* out) {
+    for (const std::string& call : calls) *out << "\n    " << call;
+}
+
 Surroundings::Surroundings() {
     global_vars.clear();
     g_widgetPositions.clear();

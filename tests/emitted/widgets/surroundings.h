@@ -5,13 +5,20 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "emitted/widgets/program.h"
 #include "emitted/widgets/recording.h"
 
-using Calls = std::vector<std::string>;
+/// Calls in their order. A failing comparison shows one a line.
+struct Calls : std::vector<std::string> {
+    using std::vector<std::string>::vector;
+    Calls(std::vector<std::string> calls) : std::vector<std::string>(std::move(calls)) {}
+};
+void PrintTo(const Calls& calls, std::ostream* out);
 
 class Surroundings : public testing::Test {
 protected:
