@@ -1,8 +1,5 @@
 // The stand-ins themselves: what they understand, and that they stand for what is really there.
-#include <regex>
-
 #include "emitted/widgets/surroundings.h"
-#include "support/case_files.h"
 
 namespace {
 

@@ -1,18 +1,20 @@
-// fill_templates NAME on|off PLACEHOLDERS TEMPLATE...
+// fill_templates OUTPUT NAME on|off PLACEHOLDERS.h... TEMPLATE.cpp...
 // Writes all widgets' templates as functions, by the filler that the compiler uses, with every
 // switch on or every switch off; and a table of them, application::NAME. What stands for a
-// placeholder is the value of its macro in PLACEHOLDERS/<template>.h. X, Y and ID stand for
-// themselves, and a hole that has no macro holds nothing. The macro AROUND_BLOCK declares what the
-// template finds around it.
+// placeholder is the value of its macro in the header named like the template. X, Y and ID stand
+// for themselves, and a hole that has no macro holds nothing. The macro AROUND_BLOCK declares what
+// the template finds around it.
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <map>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "writing/marks.h"
 #include "writing/text_writer.h"
@@ -31,15 +33,25 @@ std::string readAll(const fs::path& path) {
     return text.str();
 }
 
-/// The macros of a header, by name; a value may go on behind a backslash. A template whose
-/// placeholders all stand for themselves needs no header.
+/// The macros of a header, by name; a value may go on behind a backslash.
 Values readMacros(const fs::path& path) {
+    static const std::string kHead = "#define ";
     Values values;
-    if (!fs::exists(path)) return values;
-    const std::string text = std::regex_replace(readAll(path), std::regex("\\\\\n *"), "");
-    const std::regex macro("(?:^|\n)#define (\\w+) +([^\n]*)");
-    for (std::sregex_iterator each(text.begin(), text.end(), macro), end; each != end; ++each) {
-        values[(*each)[1]] = (*each)[2];
+    std::istringstream lines(readAll(path));
+    std::string* continued = nullptr;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.compare(0, kHead.size(), kHead) == 0) {
+            std::istringstream words(line.substr(kHead.size()));
+            std::string name;
+            words >> name >> std::ws;
+            std::getline(words, line);
+            continued = &values[name];
+        }
+        if (continued == nullptr) continue;
+        const bool goesOn = !line.empty() && line.back() == '\\';
+        if (goesOn) line.pop_back();
+        *continued += line;
+        if (!goesOn) continued = nullptr;
     }
     return values;
 }
@@ -47,10 +59,8 @@ Values readMacros(const fs::path& path) {
 /// One template: what its placeholders are, and what stands for them.
 class Template {
 public:
-    Template(const fs::path& path, const fs::path& placeholders)
-        : name(path.stem().string()),
-          text(readAll(path)),
-          macros(readMacros(placeholders / (name + ".h"))) {
+    Template(const fs::path& path, Values macros)
+        : name(path.stem().string()), text(readAll(path)), macros(std::move(macros)) {
         std::istringstream lines(text);
         for (std::string line; std::getline(lines, line);) readLine(line);
         refuseUnused();
@@ -119,28 +129,41 @@ private:
     std::set<std::string> switches;
 };
 
-void writeAll(const std::string& table, bool isOn, const fs::path& placeholders,
-              const std::vector<fs::path>& templates) {
+/// All templates as one text. Nothing is written before everything is known to be right.
+std::string filledTemplates(const std::string& table, bool isOn,
+                            const std::vector<fs::path>& files) {
+    std::map<std::string, Values> macros;
+    for (const fs::path& path : files) {
+        if (path.extension() == ".h") macros[path.stem().string()] = readMacros(path);
+    }
+    std::ostringstream out;
     std::string rows;
-    std::cout << "#include \"emitted/widgets/blocks.h\"\n\nnamespace templates {\n\n";
-    for (const fs::path& path : templates) {
-        Template each(path, placeholders);
-        each.write(std::cout, isOn);
+    out << "#include \"emitted/widgets/blocks.h\"\n\nnamespace templates {\n\n";
+    for (const fs::path& path : files) {
+        if (path.extension() == ".h") continue;
+        Template each(path, macros[path.stem().string()]);
+        macros.erase(each.name);
+        each.write(out, isOn);
         rows += "    {\"" + each.name + (isOn ? "_all_on" : "_all_off") +
                 "\", templates::" + each.name + "},\n";
     }
-    std::cout << "}  // namespace templates\n\nconst application::Block application::" << table
-              << "[] = {\n"
-              << rows << "    {nullptr, nullptr}};\n";
+    if (!macros.empty()) throw std::runtime_error("no template " + macros.begin()->first);
+    out << "}  // namespace templates\n\nconst application::Block application::" << table
+        << "[] = {\n"
+        << rows << "    {nullptr, nullptr}};\n";
+    return out.str();
 }
 
 }  // namespace
 
 int main(int count, char** arguments) {
     try {
-        if (count < 4) throw std::runtime_error("NAME on|off PLACEHOLDERS TEMPLATE...");
-        writeAll(arguments[1], std::string(arguments[2]) == "on", arguments[3],
-                 {arguments + 4, arguments + count});
+        if (count < 5)
+            throw std::runtime_error("OUTPUT NAME on|off PLACEHOLDERS.h... TEMPLATE.cpp...");
+        const bool isOn = std::string(arguments[3]) == "on";
+        const std::string text =
+            filledTemplates(arguments[2], isOn, {arguments + 4, arguments + count});
+        std::ofstream(arguments[1]) << text;
     } catch (const std::exception& error) {
         std::cerr << "fill_templates: " << error.what() << "\n";
         return EXIT_FAILURE;
