@@ -87,10 +87,10 @@ choose_folder() {
     program=${program##*/}
 }
 
-# A page without fonts shows no text, but runs.
+# A page without its fonts warns, and measures buttons by no font, but runs.
 give_fonts() {
     "$root/scripts/example_fonts.sh" . ||
-        say "▷ எழுத்துருக்கள் இல்லாமல் தொடர்கிறது: பக்கத்தில் எழுத்துகள் தெரியாமல் போகலாம்"
+        say "▷ எழுத்துருக்கள் இல்லாமல் தொடர்கிறது: பொத்தான்களின் அகலம் பொருந்தாமல் போகலாம்"
 }
 
 unset CDPATH
