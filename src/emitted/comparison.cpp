@@ -1,24 +1,31 @@
 // Comparison of dynamic values. What can't be compared is simply false, also for !=. Meant.
 
-// Each operator and its word, the bytes of that text, and for which outcomes it holds: numbers are
-// less, equal, greater or unordered; texts and truth values are the same or different.
-const struct {
+// An operator's text. Its bytes are counted when this is compiled, not at every comparison.
+struct pozhil_operator {
     const char* text;
     size_t bytes;
+    constexpr pozhil_operator(const char* text)
+        : text(text), bytes(std::char_traits<char>::length(text)) {}
+};
+
+// Each operator and its word, and for which outcomes it holds: numbers are less, equal, greater or
+// unordered; texts and truth values are the same or different.
+constexpr struct {
+    pozhil_operator op;
     bool holds[6];
 } pozhil_comparisons[] = {
-    {"==", 2, {false, true, false, false, true, false}},
-    {"சமம்", 12, {false, true, false, false, true, false}},
-    {"!=", 2, {true, false, true, true, false, true}},
-    {"சமமில்லை", 24, {true, false, true, true, false, true}},
-    {">", 1, {false, false, true, false, false, false}},
-    {"பெரிது", 18, {false, false, true, false, false, false}},
-    {"<", 1, {true, false, false, false, false, false}},
-    {"சிறிது", 18, {true, false, false, false, false, false}},
-    {">=", 2, {false, true, true, false, false, false}},
-    {"பெரிதுசமம்", 30, {false, true, true, false, false, false}},
-    {"<=", 2, {true, true, false, false, false, false}},
-    {"சிறிதுசமம்", 30, {true, true, false, false, false, false}},
+    {"==", {false, true, false, false, true, false}},
+    {"சமம்", {false, true, false, false, true, false}},
+    {"!=", {true, false, true, true, false, true}},
+    {"சமமில்லை", {true, false, true, true, false, true}},
+    {">", {false, false, true, false, false, false}},
+    {"பெரிது", {false, false, true, false, false, false}},
+    {"<", {true, false, false, false, false, false}},
+    {"சிறிது", {true, false, false, false, false, false}},
+    {">=", {false, true, true, false, false, false}},
+    {"பெரிதுசமம்", {false, true, true, false, false, false}},
+    {"<=", {true, true, false, false, false, false}},
+    {"சிறிதுசமம்", {true, true, false, false, false, false}},
 };
 
 bool pozhil_number(const std::any& value, long double& number) {
@@ -69,8 +76,8 @@ bool pozhil_holds(const std::any& left, const std::any& right, const char* op, s
     const int outcome = pozhil_outcome(left, right);
     if (outcome < 0) return false;
     for (const auto& comparison : pozhil_comparisons) {
-        if (comparison.bytes != bytes) continue;
-        if (std::char_traits<char>::compare(op, comparison.text, bytes) == 0) {
+        if (comparison.op.bytes != bytes) continue;
+        if (std::char_traits<char>::compare(op, comparison.op.text, bytes) == 0) {
             return comparison.holds[outcome];
         }
     }
