@@ -59,8 +59,7 @@ std::unique_ptr<Statement> Parser::parseHeader() {
     PropertyMap properties;
     ScreenConfig screen;
     bracketLoop(line, [&] { parseHeaderItem(properties, screen); });
-    return std::make_unique<HeaderNode>("தலைமை", std::move(properties), WidgetList(), screen,
-                                        false);
+    return std::make_unique<HeaderNode>("தலைமை", std::move(properties), WidgetList(), screen);
 }
 
 /// head-item = key ":" expression

@@ -30,14 +30,14 @@ std::unique_ptr<Statement> Parser::parseRow(int line) {
 std::unique_ptr<Statement> Parser::parseStack(int line) {
     WidgetParts parts = parseGroups(line, kLikeColumn);
     auto node = std::make_unique<WidgetNode>("அடுக்கி", PropertyMap(), std::move(parts.children),
-                                             parts.alignment, false);
+                                             parts.alignment);
     return finishWidget(std::move(node), std::move(parts));
 }
 
 std::unique_ptr<Statement> Parser::parseWrap(int line) {
     WidgetParts parts = parseGroups(line, kLikeColumn);
     auto node = std::make_unique<WidgetNode>("மடிப்பு", PropertyMap(), std::move(parts.children),
-                                             parts.alignment, false);
+                                             parts.alignment);
     return finishWidget(std::move(node), std::move(parts));
 }
 
@@ -165,7 +165,7 @@ std::unique_ptr<Statement> Parser::parseContainer(int line) {
         openParenthesis(line);
     }
     bracketLoop(line, [&] { parseContainerItem(parts); });
-    auto node = std::make_unique<ContainerNode>(std::move(parts.children), parts.alignment, false);
+    auto node = std::make_unique<ContainerNode>(std::move(parts.children), parts.alignment);
     return finishWidget(std::move(node), std::move(parts));
 }
 
@@ -254,8 +254,8 @@ std::unique_ptr<Statement> Parser::parseSpacer(int line) {
         advance();
         bracketLoop(line, [&] { parseSpacerItem(parts, line); });
     }
-    auto node = std::make_unique<WidgetNode>("வெற்றிடம்", PropertyMap(), WidgetList(),
-                                             parts.alignment, false);
+    auto node =
+        std::make_unique<WidgetNode>("வெற்றிடம்", PropertyMap(), WidgetList(), parts.alignment);
     return finishWidget(std::move(node), std::move(parts));
 }
 
@@ -309,8 +309,8 @@ std::unique_ptr<Statement> Parser::parseTextButton(int line) {
     skipNewlines();
     openParenthesis(line);
     bracketLoop(line, [&] { parseTextButtonItem(parts, line); });
-    auto node = std::make_unique<WidgetNode>("உரைபொத்தான்", PropertyMap(), WidgetList(),
-                                             parts.alignment, false);
+    auto node =
+        std::make_unique<WidgetNode>("உரைபொத்தான்", PropertyMap(), WidgetList(), parts.alignment);
     return finishWidget(std::move(node), std::move(parts));
 }
 
@@ -364,7 +364,7 @@ std::unique_ptr<Statement> Parser::parseSnackBar(int line) {
     skipNewlines();
     handleIndentation(depth);
     openParenthesis(line);
-    auto node = std::make_unique<SnackBarNode>(WidgetList(), false);
+    auto node = std::make_unique<SnackBarNode>(WidgetList());
     bracketLoop(line, depth, [&] {
         if (!parseAnimationItem(node->animation)) parseSnackBarItem(*node, line);
         skipNewlines();

@@ -26,7 +26,7 @@ std::unique_ptr<Statement> Parser::parseStructDefinitionStatement() {
     if (hasParent) checkParent(name, parent, body);
 
     auto node = std::make_unique<StructDefinitionStatement>(
-        name, parent, hasParent, std::move(body.fields), std::move(body.methods), false);
+        name, parent, hasParent, std::move(body.fields), std::move(body.methods));
     define(&Parser::structDefinitions, node.get());
     return node;
 }

@@ -68,7 +68,7 @@ std::unique_ptr<Statement> Parser::parseGenericWidget() {
     bracketLoop(name.line, [&] { parseGenericItem(parts, positional); });
 
     auto node = std::make_unique<WidgetNode>(name.text, PropertyMap(), std::move(parts.children),
-                                             parts.alignment, false);
+                                             parts.alignment);
     node->line = name.line;
     return finishWidget(std::move(node), std::move(parts));
 }
@@ -163,7 +163,7 @@ std::unique_ptr<Statement> Parser::parseCard(int line) {
         advance();
     });
     auto node = std::make_unique<WidgetNode>("அட்டை", PropertyMap(), std::move(parts.children),
-                                             parts.alignment, false);
+                                             parts.alignment);
     node->line = line;
     return finishWidget(std::move(node), std::move(parts));
 }
@@ -180,8 +180,7 @@ std::unique_ptr<Statement> Parser::parseListItem(int line) {
         const Token key = advance();
         if (check(TokenType::COLON)) parseValueOf(parts.properties, key.text);
     });
-    auto node =
-        std::make_unique<WidgetNode>(name, PropertyMap(), WidgetList(), parts.alignment, false);
+    auto node = std::make_unique<WidgetNode>(name, PropertyMap(), WidgetList(), parts.alignment);
     node->line = line;
     return finishWidget(std::move(node), std::move(parts));
 }
@@ -199,7 +198,7 @@ std::unique_ptr<Statement> Parser::parseAlert(int line) {
         bracketLoop(line, [&] { parseAlertItem(parts); });
     }
     auto node = std::make_unique<WidgetNode>("எச்சரிக்கை", PropertyMap(), std::move(parts.children),
-                                             parts.alignment, false);
+                                             parts.alignment);
     node->line = line;
     return finishWidget(std::move(node), std::move(parts));
 }

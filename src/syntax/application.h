@@ -18,7 +18,7 @@ struct ScreenConfig {
 /// தலைமை(...)
 struct HeaderNode : WidgetNode {
     HeaderNode(std::string name, PropertyMap properties, WidgetList children, ScreenConfig screen,
-               bool flag)
+               bool flag = false)
         : WidgetNode(std::move(name), std::move(properties), std::move(children),
                      சீரமைப்பு_வகை::மேல்_இடது, flag),
           screen(screen) {}
@@ -63,5 +63,5 @@ struct WebAppNode : Statement {
     std::unique_ptr<Statement> body;  ///< Null for an empty body.
     std::unique_ptr<Statement> logic;
     PropertyMap properties;
-    bool flag;
+    bool flag;  ///< Reserved, as in WidgetNode.
 };

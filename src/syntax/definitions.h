@@ -41,7 +41,7 @@ struct StructDefinitionStatement : Statement {
     StructDefinitionStatement(Token name, Token parentName, bool hasParent,
                               std::vector<std::unique_ptr<VarDeclaration>> fields,
                               std::vector<std::unique_ptr<FunctionDefinitionStatement>> methods,
-                              bool flag)
+                              bool flag = false)
         : name(std::move(name)),
           parentName(std::move(parentName)),
           hasParent(hasParent),
@@ -51,7 +51,7 @@ struct StructDefinitionStatement : Statement {
     Token name;
     Token parentName;  ///< A copy of `name` without a parent.
     bool hasParent;
-    bool flag;  ///< The parser always passes false.
+    bool flag;  ///< Reserved: always false, and nothing reads it.
     std::vector<std::unique_ptr<VarDeclaration>> fields;
     std::vector<std::unique_ptr<FunctionDefinitionStatement>> methods;
 };

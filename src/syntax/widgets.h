@@ -38,7 +38,7 @@ struct TextStyle {
 /// Any widget. Its properties, by their literal keys, are what grammar and drawing agree on.
 struct WidgetNode : Statement {
     WidgetNode(std::string name, PropertyMap properties, WidgetList children, சீரமைப்பு_வகை alignment,
-               bool flag)
+               bool flag = false)
         : name(std::move(name)),
           properties(std::move(properties)),
           children(std::move(children)),
@@ -48,10 +48,10 @@ struct WidgetNode : Statement {
     std::string name;  ///< The widget word as written.
     PropertyMap properties;
     WidgetList children;
-    std::string id;
+    std::string id;  ///< Reserved: always empty, and nothing reads it.
     WidgetList onTapStatements;
     சீரமைப்பு_வகை alignment;
-    bool flag;
+    bool flag;  ///< Reserved: always false, and nothing reads it.
     TextStyle textStyle;
     std::unique_ptr<AnimationNode> animation;  ///< Null if the widget doesn't move.
 };
@@ -98,7 +98,7 @@ struct PaddingNode : LayoutNode {
 
 /// The parser sets none of the added fields: what it reads stands in the properties.
 struct ContainerNode : LayoutNode {
-    ContainerNode(WidgetList children, சீரமைப்பு_வகை alignment, bool flag)
+    ContainerNode(WidgetList children, சீரமைப்பு_வகை alignment, bool flag = false)
         : LayoutNode("பெட்டி", std::move(children), alignment, flag) {}
     float width = 0;         ///< Pixels.
     float height = 0;        ///< Pixels.
@@ -108,7 +108,7 @@ struct ContainerNode : LayoutNode {
 };
 
 struct SnackBarNode : LayoutNode {
-    SnackBarNode(WidgetList children, bool flag)
+    explicit SnackBarNode(WidgetList children, bool flag = false)
         : LayoutNode("அறிவிப்பு_பட்டை", std::move(children), சீரமைப்பு_வகை::மேல்_இடது, flag) {}
     Statement* content = nullptr;  ///< Owned by `children`.
     std::string backgroundColor = "#333333";
