@@ -71,7 +71,7 @@ std::unique_ptr<Statement> Parser::parseAbstractStructStatement() {
     }
     closeBody();
     auto node = std::make_unique<AbstractStructDefinitionStatement>(name, std::move(methods));
-    define(&Parser::abstractStructDefinitions, node.get());
+    abstractStructLog.define(node.get());
     return node;
 }
 

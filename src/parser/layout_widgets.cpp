@@ -49,7 +49,7 @@ std::unique_ptr<Statement> Parser::parseListView(int line) {
 }
 
 /// groups = "(" children ")" | "(" properties ")" [ "(" children ")" ]
-Parser::WidgetParts Parser::parseGroups(int line, const GroupRules& rules) {
+WidgetParts Parser::parseGroups(int line, const GroupRules& rules) {
     WidgetParts parts;
     skipNewlines();
     openParenthesis(line);

@@ -139,14 +139,6 @@ void Parser::drop(PropertyMap properties) {
     for (auto& property : properties) drop(std::move(property.second));
 }
 
-/// Takes back all entries from this one on: an exception has freed what they point at.
-void Parser::takeBackDefinitions(std::size_t from) {
-    while (definitions.size() > from) {
-        definitions.back()(*this);
-        definitions.pop_back();
-    }
-}
-
 Parser::Nesting::Nesting(Parser& parser) : parser(parser) {
     if (++parser.nesting > kMaxNesting || parser.stack.nearlyFull()) {
         parser.பிழை("பொழில்-291", parser.peek().line);

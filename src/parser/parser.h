@@ -5,7 +5,6 @@
 // database.
 #pragma once
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -13,6 +12,9 @@
 #include <vector>
 
 #include "lexer/token.h"
+#include "parser/definition_log.h"
+#include "parser/gathered_parts.h"
+#include "parser/kept_scans.h"
 #include "syntax/application.h"
 #include "syntax/definitions.h"
 #include "syntax/expressions.h"
@@ -179,41 +181,8 @@ private:
         Parser& parser;
     };
 
-    /// A structure's members as they are gathered.
-    struct StructBody {
-        std::vector<std::unique_ptr<VarDeclaration>> fields;
-        std::vector<std::unique_ptr<FunctionDefinitionStatement>> methods;
-        std::map<std::string, FunctionDefinitionStatement*> methodsByName;
-    };
-
     using MapEntries = std::vector<std::pair<std::string, std::unique_ptr<Expression>>>;
     using Kinds = std::vector<TokenType>;
-
-    /// What a widget's parentheses hold, as it is gathered.
-    struct WidgetParts {
-        PropertyMap properties;
-        WidgetList children;
-        WidgetList onTapStatements;
-        சீரமைப்பு_வகை alignment = சீரமைப்பு_வகை::மேல்_இடது;
-        TextStyle textStyle;
-        std::unique_ptr<AnimationNode> animation;
-    };
-
-    /// What tells apart the layout widgets that take a group of children, or one of properties
-    /// and one of children.
-    struct GroupRules {
-        bool hasAlignment;
-        bool refusesSections;  ///< A section word among the children is a missing `)`.
-    };
-    static constexpr GroupRules kLikeColumn = {true, true};
-
-    /// How the parenthesised form of a press handler is read.
-    enum class PressForm {
-        Statements,         ///< Statements behind a keyword or a database word.
-        KeywordStatements,  ///< Statements behind a keyword alone.
-        Expression,
-        ExpressionInFreeLayout,  ///< Indentation around it isn't counted.
-    };
 
     // Looking at tokens without moving
     const Token& tokenAt(int index) const;
@@ -352,12 +321,9 @@ private:
     std::string readModule(const std::string& path, int line);
     void mergeModule(Parser& module, Program program);
 
-    /// Enters a structure under its name.
-    template <typename Node>
-    void define(std::map<std::string, Node*> Parser::*table, Node* node);
-    void takeBackDefinitions(std::size_t from);
-    /// Takes back one entry each, in the order in which they were made.
-    std::vector<std::function<void(Parser&)>> definitions;
+    // All definitions of structures go through these, so that they can be taken back.
+    DefinitionLog<StructDefinitionStatement> structLog{structDefinitions};
+    DefinitionLog<AbstractStructDefinitionStatement> abstractStructLog{abstractStructDefinitions};
 
     /// Takes what was parsed out of the tree. It lives on: the tables may point at definitions
     /// inside it.
@@ -371,35 +337,10 @@ private:
     int deepestPart = 0;      ///< Depth of the deepest tree in the widget under the cursor.
     StackBounds stack;
 
-    /// What a look along a line found, kept for the statements that follow on the same line:
-    /// looking anew from each of many would take quadratic time.
-    struct LineScan {
-        int end = -1;   ///< Index behind the last token looked at.
-        int last = -1;  ///< Index of the last token looked for; -1 if there is none.
-    };
     LineScan lambdaScan;   ///< `வினை` with a colon behind it.
     LineScan bracketScan;  ///< `]`
-
-    /// Where the look for a lambda's closing parenthesis stopped, for all that open before it.
-    struct CloseScan {
-        int start = 0;
-        int end = 0;
-    } closeScan;
+    CloseScan closeScan;   ///< The parenthesis that may close a lambda's parameters.
 };
-
-template <typename Node>
-void Parser::define(std::map<std::string, Node*> Parser::*table, Node* node) {
-    const std::string& name = node->name.text;
-    Node*& entry = (this->*table)[name];
-    definitions.emplace_back([table, name, before = entry](Parser& parser) {
-        if (before == nullptr) {
-            (parser.*table).erase(name);
-        } else {
-            (parser.*table)[name] = before;
-        }
-    });
-    entry = node;
-}
 
 /// { item } ")", over as many lines as the author likes, with indentation counted away from
 /// `depth` on. Raises 204 at `line` for a missing parenthesis, 291 for an item that takes nothing

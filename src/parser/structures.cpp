@@ -27,7 +27,7 @@ std::unique_ptr<Statement> Parser::parseStructDefinitionStatement() {
 
     auto node = std::make_unique<StructDefinitionStatement>(
         name, parent, hasParent, std::move(body.fields), std::move(body.methods));
-    define(&Parser::structDefinitions, node.get());
+    structLog.define(node.get());
     return node;
 }
 

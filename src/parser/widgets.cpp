@@ -131,7 +131,8 @@ void Parser::parseGenericItem(WidgetParts& parts, int& positional) {
 void Parser::parsePositionalItem(WidgetParts& parts, int& positional) {
     const int deepestBefore = deepestPart;
     const int functionDepthBefore = functionDepth;
-    const std::size_t definitionsBefore = definitions.size();
+    const std::size_t structsBefore = structLog.size();
+    const std::size_t abstractStructsBefore = abstractStructLog.size();
     try {
         auto value = parseExpression();
         const std::string key = positional == 0 ? "உரை" : "arg" + std::to_string(positional);
@@ -140,7 +141,8 @@ void Parser::parsePositionalItem(WidgetParts& parts, int& positional) {
     } catch (const std::exception&) {
         deepestPart = std::max(deepestPart, deepestBefore);
         functionDepth = functionDepthBefore;
-        takeBackDefinitions(definitionsBefore);
+        structLog.takeBackTo(structsBefore);
+        abstractStructLog.takeBackTo(abstractStructsBefore);
         if (!is_at_end()) advance();
     }
 }
