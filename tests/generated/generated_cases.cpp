@@ -1,46 +1,45 @@
-// Sources, and beside each the fragments that its generated text must hold.
-//
-// Each line of a .has file must appear, and in that order; one that starts with "! " must not
-// appear at all.
+// Sources, and beside each what it adds to the text that every generated program carries (.adds),
+// compared whole: a line that also stands in an empty program's text proves nothing.
 #include <gtest/gtest.h>
 
-#include <sstream>
-
+#include "added_text.h"
 #include "support/case_files.h"
-#include "support/front_end.h"
 
 namespace {
 
-void expectFragments(const CaseFile& file, const std::string& text) {
-    std::istringstream fragments(readText(file.expected));
-    std::size_t from = 0;
-    int count = 0;
-    for (std::string line; std::getline(fragments, line);) {
-        if (line.empty()) continue;
-        count++;
-        if (line.rfind("! ", 0) == 0) {
-            EXPECT_EQ(text.find(line.substr(2)), std::string::npos) << "must not hold: " << line;
-            continue;
-        }
-        const std::size_t at = text.find(line, from);
-        if (at == std::string::npos) {
-            ADD_FAILURE() << file.source
-                          << (text.find(line) == std::string::npos
-                                  ? "\nnot in the text: "
-                                  : "\nin the text, but not in this order: ")
-                          << line;
-            return;
-        }
-        from = at + line.size();
-    }
-    EXPECT_GT(count, 0) << file.expected << " asks for nothing";
-}
-
 const bool registered = [] {
-    registerCases("generated", ".has", [](const CaseFile& file) {
-        expectFragments(file, generate(readText(file.source)));
+    registerCases("generated", ".adds", [](const CaseFile& file) {
+        expectGolden(file, addedText(readText(file.source)));
     });
     return true;
 }();
+
+// ---- What the cases rest on ----
+
+const char* const kEmptyProgram = "⋯\nint main() {\nreturn 0;\n}\n";
+
+TEST(AddedText, OfAnEmptyProgramIsAnEmptyMain) { EXPECT_EQ(addedText(""), kEmptyProgram); }
+
+TEST(AddedText, OfABareReturnIsTheReturn) {
+    EXPECT_NE(addedText("செயல் கூடு():\n    திரும்பு\n").find("    return std::any();\n"),
+              std::string::npos);
+}
+
+TEST(AddedText, OfAnEmptyApplicationIsItsPage) {
+    const std::string text = addedText("வலைதளம் அ(தலைமை() குமரி() வரையறை())\n");
+    EXPECT_EQ(text.find("⋯\nvoid init_globals() {\n}\n\n⋯\n    if (g_currentPage == \"home\") {\n"),
+              0U)
+        << text;
+    EXPECT_EQ(text.substr(text.size() - 10), "    }\n⋯\n") << text;
+}
+
+TEST(AddedText, ShowsThePlacesThatAreFilledIn) {
+    const std::string text = addedText("வலைதளம் ஆ(தலைமை(பக்கம்: \"முகப்பு\") குமரி() வரையறை())\n");
+    EXPECT_EQ(text.find("⋯\nstd::string g_currentPage = \"முகப்பு\";\n⋯\n"), 0U) << text;
+    EXPECT_NE(text.find("⋯\n    window = glfwCreateWindow((int)1280, (int)720, \"ஆ\", NULL, NULL);"
+                        "\n⋯\n"),
+              std::string::npos)
+        << text;
+}
 
 }  // namespace

@@ -53,6 +53,7 @@ TEST(GeneratedFile, HoldsItsSectionsInOrder) {
         "void drawFixedText(float x, float y, const char* text, const char* color, float fontSize, "
         "const char* align, const char* fontWeight = \"400\", bool isUnderline = false, "
         "const char* fontPath = \"\", float alpha = 1.0f, float offsetY = 0.0f) {\n",
+        "void drawWebText(",
         "float getTextWidth(const char* text, float fontSize) {\n",
         "void copyToClipboard(const char* text) {\n",
         "void setupClipboardListener() {\n",
