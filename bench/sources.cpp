@@ -39,3 +39,29 @@ std::string nameLines(int lines) {
     }
     return source;
 }
+
+std::string mixedLines(int lines) {
+    constexpr int kBlockLines = 12;
+    std::string source;
+    int written = 0;
+    for (; written + kBlockLines <= lines; written += kBlockLines) {
+        const std::string a = name(written);
+        const std::string b = name(written * 3 + 1);
+        const std::string c = name(written * 5 + 2);
+        source += a + " = 42\n";
+        source += b + " = " + a + " கூட்டு 3.5\n";
+        source += c + " = [" + a + ", " + b + ", \"வணக்கம்\"]\n";
+        source += "எனில் " + a + " பெரிது 10:\n    அச்சிடு(" + a + ", " + b + ")\n";
+        source += "இல்லை:\n    " + b + " = " + b + " கழி 1\n";
+        source += "ஒவ்வொன்றாக உறுப்பு இல் " + c + ":\n    அச்சிடு(உறுப்பு)\n";
+        source += "செயல் கணக்கிடு(தொகை):\n    திரும்பு தொகை பெருக்கு 2\n";
+        source += "அச்சிடு(கணக்கிடு(" + a + "))\n";
+    }
+    return source + printLines(lines - written);
+}
+
+std::string chainOfSums(int terms) {
+    std::string source = "தொகை = 1";
+    for (int i = 1; i < terms; i++) source += " கூட்டு " + std::to_string(i % 9 + 1);
+    return source + "\n";
+}

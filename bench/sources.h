@@ -11,6 +11,12 @@ std::string printLines(int lines);
 /// `lines` assignments and calls over long names, correct Tamil and near no keyword.
 std::string nameLines(int lines);
 
+/// `lines` lines of all common statements: assignments, conditions, loops, functions and calls.
+std::string mixedLines(int lines);
+
+/// One assignment of a sum of `terms` numbers.
+std::string chainOfSums(int terms);
+
 /// Seconds of processor time that `action` takes: the same whatever else the machine does.
 template <typename Action>
 double secondsOf(Action action) {

@@ -1,0 +1,69 @@
+// Scanning, parsing and generating take time in proportion to the source: ten times the source
+// takes about ten times as long. Processor time is measured, and the best of several rounds counts,
+// so that a busy machine doesn't fail it.
+#include "support/front_end.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <string>
+
+#include "sources.h"
+
+namespace {
+
+constexpr int kRounds = 7;
+
+/// A source and how many pieces it has: lines, or terms.
+struct Sized {
+    std::string source;
+    int pieces;
+};
+
+double secondsAPiece(const Sized& sized) {
+    std::string text;
+    const double seconds = secondsOf([&] { text = generate(sized.source); });
+    EXPECT_FALSE(text.empty());
+    return seconds / sized.pieces;
+}
+
+/// How much longer a piece of the large source takes than one of the small, which is run `repeats`
+/// times in each round: too short a time couldn't be measured. Stops when `limit` is met.
+double growth(const Sized& small, const Sized& large, int repeats, double limit) {
+    double smallBest = std::numeric_limits<double>::infinity();
+    double largeBest = smallBest;
+    double ratio = smallBest;
+    for (int round = 0; round < kRounds && !(ratio <= limit); round++) {
+        double seconds = 0;
+        for (int run = 0; run < repeats; run++) seconds += secondsAPiece(small);
+        smallBest = std::min(smallBest, seconds / repeats);
+        largeBest = std::min(largeBest, secondsAPiece(large));
+        ratio = largeBest / smallBest;
+    }
+    testing::Test::RecordProperty("growth", std::to_string(ratio));
+    return ratio;
+}
+
+// Larger sources leave the processor's caches, which costs a little for each line.
+constexpr double kMaxGrowthOfLines = 1.5;
+
+TEST(FrontEnd, TimeALineOfPrintsDoesNotGrow) {
+    EXPECT_LE(
+        growth({printLines(10'000), 10'000}, {printLines(100'000), 100'000}, 5, kMaxGrowthOfLines),
+        kMaxGrowthOfLines);
+}
+
+TEST(FrontEnd, TimeALineOfMixedStatementsDoesNotGrow) {
+    EXPECT_LE(
+        growth({mixedLines(10'000), 10'000}, {mixedLines(100'000), 100'000}, 5, kMaxGrowthOfLines),
+        kMaxGrowthOfLines);
+}
+
+TEST(FrontEnd, TimeATermOfAChainDoesNotGrow) {
+    constexpr double kMaxGrowthOfTerms = 3;
+    EXPECT_LE(growth({chainOfSums(390), 390}, {chainOfSums(3'900), 3'900}, 20, kMaxGrowthOfTerms),
+              kMaxGrowthOfTerms);
+}
+
+}  // namespace
