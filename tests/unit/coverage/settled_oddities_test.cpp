@@ -1,0 +1,87 @@
+// docs/settled_oddities.md against the code: each oddity that a comment calls meant has a row, and
+// each row names tests that exist.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <regex>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "support/case_files.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const std::string kRoot = POZHIL_ROOT "/";
+
+struct Row {
+    std::string oddity;
+    std::string place;
+    std::string tests;
+};
+
+/// | what | `src/...` | `tests/...`, ... |
+std::vector<Row> readRows() {
+    static const std::regex row(R"(\| (.+) \| `(src/[^`]+)` \| (.+) \|)");
+    std::istringstream lines(readText(kRoot + "docs/settled_oddities.md"));
+    std::vector<Row> rows;
+    for (std::string line; std::getline(lines, line);) {
+        std::smatch match;
+        if (std::regex_match(line, match, row)) rows.push_back({match[1], match[2], match[3]});
+    }
+    return rows;
+}
+
+/// How many comments of each source call something meant.
+std::map<std::string, int> countMeant() {
+    static const std::regex meant(R"(//.*\b[Mm]eant\b)");
+    std::map<std::string, int> counts;
+    for (const auto& file : fs::recursive_directory_iterator(fs::u8path(kRoot + "src"))) {
+        const std::string extension = file.path().extension().u8string();
+        if (extension != ".cpp" && extension != ".h") continue;
+        const std::string path = file.path().u8string();
+        std::istringstream lines(readText(path));
+        for (std::string line; std::getline(lines, line);) {
+            if (std::regex_search(line, meant)) counts[path.substr(kRoot.size())]++;
+        }
+    }
+    return counts;
+}
+
+/// A test is named by its file, with its name behind it if the file holds several.
+testing::AssertionResult exists(const std::string& path, const std::string& name) {
+    if (!fs::is_regular_file(fs::u8path(kRoot + path))) {
+        return testing::AssertionFailure() << path << " doesn't exist";
+    }
+    if (name.empty()) return testing::AssertionSuccess();
+    const std::size_t dot = name.find('.');
+    const std::regex definition("TEST(_F|_P)?\\(" + name.substr(0, dot) + ",\\s*" +
+                                name.substr(dot + 1) + "\\)");
+    if (std::regex_search(readText(kRoot + path), definition)) return testing::AssertionSuccess();
+    return testing::AssertionFailure() << path << " holds no " << name;
+}
+
+TEST(SettledOddities, OfEachFileHaveARowEach) {
+    std::map<std::string, int> rows;
+    for (const Row& row : readRows()) rows[row.place]++;
+    EXPECT_FALSE(rows.empty());
+    EXPECT_EQ(rows, countMeant()) << "rows of docs/settled_oddities.md, then comments of src";
+}
+
+TEST(SettledOddities, AreEachHeldByATestThatExists) {
+    static const std::regex test(R"(`(tests/[^` ]+)(?: (\w+\.\w+))?`)");
+    for (const Row& row : readRows()) {
+        int count = 0;
+        for (std::sregex_iterator at(row.tests.begin(), row.tests.end(), test), end; at != end;
+             ++at) {
+            count++;
+            EXPECT_TRUE(exists((*at)[1], (*at)[2])) << row.oddity;
+        }
+        EXPECT_GT(count, 0) << row.oddity << ": no test";
+    }
+}
+
+}  // namespace
