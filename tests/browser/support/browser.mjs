@@ -44,15 +44,21 @@ export async function photograph(page, name) {
     return page.screenshot({path: join(output, `${name}.png`)});
 }
 
-/** The colour [red, green, blue] of one pixel of what the user sees. */
-export async function pixel(page, x, y) {
-    const shot = await page.screenshot({clip: {x, y, width: 1, height: 1}});
+/** The colours [red, green, blue] of what the user sees in `clip`, row by row, in the screen's pixels. */
+export async function pixels(page, clip) {
+    const shot = await page.screenshot({clip});
     return page.evaluate(async bytes => {
         const image = await createImageBitmap(await (await fetch(bytes)).blob());
-        const context = new OffscreenCanvas(1, 1).getContext('2d');
+        const context = new OffscreenCanvas(image.width, image.height).getContext('2d');
         context.drawImage(image, 0, 0);
-        return [...context.getImageData(0, 0, 1, 1).data].slice(0, 3);
+        const {data} = context.getImageData(0, 0, image.width, image.height);
+        return Array.from({length: data.length / 4}, (_, i) => [...data.subarray(4 * i, 4 * i + 3)]);
     }, `data:image/png;base64,${shot.toString('base64')}`);
+}
+
+/** The colour [red, green, blue] at one place of what the user sees. */
+export async function pixel(page, x, y) {
+    return (await pixels(page, {x, y, width: 1, height: 1}))[0];
 }
 
 /** Waits until `holds` answers something true, and returns it. */
