@@ -123,6 +123,21 @@ test('a failed build leaves the version as it was', async () => {
     assert.equal(await page.title(), 'புதிய கணக்கி');
 });
 
+test('a failure in the logic section shows its report on the page', async () => {
+    const failing = source('நின்றது', '#E0F7FA').replace('எண்ணிக்கை = 0\n', 'பட்டியல் = [1, 2]\n        எண்ணிக்கை = பட்டியல்[5]\n');
+    workplace.write('நிரல்.பொழில்', failing);
+    const report = await page.waitForSelector('#notice.failed #report', {timeout: 120000});
+    assert.equal(await version(), '4');
+    const text = await report.textContent();
+    assert.match(text, /🚨 \[ பொழில்-311 \] :: பொருள் பிழை \(இயக்கநேரம்\)/);
+    assert.ok(!text.includes('\x1b'), text);
+    await photograph(page, 'report_of_logic');
+    workplace.write('நிரல்.பொழில்', source('மீண்டும்', '#E0F7FA'));
+    await until(async () => (await page.title().catch(() => '')) === 'மீண்டும்', 'the mended page', 120);
+    await drawn();
+    assert.ok(await page.isHidden('#notice'));
+});
+
 test('a saved syntax error ends the tool with status 1', async () => {
     workplace.write('நிரல்.பொழில்', 'வலைதளம் கணக்கி()\n');
     assert.deepEqual(await compiler.finished, {status: 1, signal: null});

@@ -84,6 +84,10 @@ EMSCRIPTEN_KEEPALIVE void stop_with_report() {
     ErrorHandler::அறிக்கை(RUNTIME_ERROR, "பொழில்-301", "சோதனை", "a", 1, "b", "c");
 }
 EMSCRIPTEN_KEEPALIVE void stop_with_trap() { __builtin_trap(); }
+EMSCRIPTEN_KEEPALIVE void stop_in_silence() { exit(3); }
+EMSCRIPTEN_KEEPALIVE int stop_with_depth(int depth) {
+    return EM_ASM_INT({ return Module._stop_with_depth($0 + 1); }, depth) + 1;
+}
 }
 
 int main() {
