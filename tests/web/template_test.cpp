@@ -46,6 +46,14 @@ TEST(Template, SpeaksTamilAndReachesNothingOutside) {
     EXPECT_FALSE(std::regex_search(page, std::regex("(https?:)?//[a-z0-9.-]+\\.[a-z]")));
 }
 
+/// The open page finds the number of the page that is served by its last such line.
+TEST(Template, NamesTheNumberOfItsBuildLast) {
+    const std::string line = "let currentVersion = ";
+    EXPECT_FALSE(std::regex_search(templateText(), std::regex(line + "[0-9]")));
+    const std::string page = assemblePage(templateText(), {line + "9;", "", line + "8;"}, 7);
+    EXPECT_EQ(page.substr(page.rfind(line), line.size() + 2), line + "7;");
+}
+
 /// The program's script needs the Module object when it starts.
 TEST(Template, PreparesTheModuleBeforeTheScript) {
     const std::string page = templateText();
