@@ -124,7 +124,8 @@ test('a failed build leaves the version as it was', async () => {
 });
 
 test('a failure in the logic section shows its report on the page', async () => {
-    const failing = source('நின்றது', '#E0F7FA').replace('எண்ணிக்கை = 0\n', 'பட்டியல் = [1, 2]\n        எண்ணிக்கை = பட்டியல்[5]\n');
+    const failing = source('நின்றது', '#E0F7FA').replace('எண்ணிக்கை = 0\n',
+        'பட்டியல் = [1, 2]\n        எண்ணிக்கை = பட்டியல்[5]\n');
     workplace.write('நிரல்.பொழில்', failing);
     const report = await page.waitForSelector('#notice.failed #report', {timeout: 120000});
     assert.equal(await version(), '4');

@@ -153,8 +153,8 @@ test('started again, but the first build failed: the old page stays until one su
 test('a server that answers late is not gone', async () => {
     await open();
     await runsAndLooks();
-    const answered = page.waitForEvent('requestfinished',
-        {predicate: request => request.url().endsWith('/version') && request.timing().responseStart > 2500, timeout: 60000});
+    const isLate = request => request.url().endsWith('/version') && request.timing().responseStart > 2500;
+    const answered = page.waitForEvent('requestfinished', {predicate: isLate, timeout: 60000});
     server.trouble['/version'] = new Promise(resolve => setTimeout(resolve, 3000));
     await answered;
     server.trouble = {};

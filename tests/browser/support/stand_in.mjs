@@ -15,13 +15,15 @@ const types = {
  */
 export async function standIn(program) {
     const port = await freePort();
-    const it = {address: `http://localhost:${port}/`, program, told: 2, built: 2, trouble: {}, loads: 0, polls: 0};
+    const address = `http://localhost:${port}/`;
+    const it = {address, program, told: 2, built: 2, trouble: {}, loads: 0, polls: 0};
 
     function textOf(path) {
         if (path === '/version') return Buffer.from(String(it.told));
         const text = it.program[path];
         if (path !== '/' || !text) return text;
-        return Buffer.from(String(text).replace(/let currentVersion = \d+;/, `let currentVersion = ${it.built};`));
+        const numbered = String(text).replace(/let currentVersion = \d+;/, `let currentVersion = ${it.built};`);
+        return Buffer.from(numbered);
     }
 
     async function answer(request, response) {
@@ -35,7 +37,8 @@ export async function standIn(program) {
         if (trouble === 'missing' || !text) {
             return response.writeHead(404, {'Content-Length': 3, Connection: 'close'}).end('404');
         }
-        response.writeHead(200, {'Content-Type': types[path], 'Content-Length': text.length, Connection: 'close'});
+        response.writeHead(200,
+            {'Content-Type': types[path], 'Content-Length': text.length, Connection: 'close'});
         if (trouble !== 'broken' && trouble !== 'held') return response.end(text);
         response.write(text.subarray(0, text.length / 2), () => {
             if (trouble === 'broken') request.socket.destroy();
