@@ -2,7 +2,7 @@
 
 #include <fcntl.h>
 #include <netinet/in.h>
-#include <poll.h>
+#include <netinet/tcp.h>
 #include <sys/socket.h>
 #include <sys/time.h>
 #include <unistd.h>
@@ -15,6 +15,7 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "driver/answer_room.h"
 #include "driver/paths.h"
 #include "driver/served_page.h"
 #include "driver/waiting_room.h"
@@ -26,11 +27,12 @@ namespace {
 constexpr int kBacklog = 10;
 constexpr std::size_t kRequestBytes = 4096;
 
-// A reader that stalls is given up after this time. The buffer is bounded, so that a reader who
-// goes on must have taken a good part of it meanwhile.
-constexpr timeval kPeerTimeout = {2, 0};
-constexpr int kPeerTimeoutMilliseconds = 2000;
 constexpr int kSendBufferBytes = 128 * 1024;
+constexpr timeval kRequestTimeout = {2, 0};
+// Connections whose reader takes nothing at all are dropped by the kernel after this time; a slow
+// one with a large buffer may well look so for twenty seconds.
+constexpr unsigned kReaderTimeoutMilliseconds = 30'000;
+constexpr std::size_t kMostUnread = 16;
 
 struct MimeRow {
     const char* ending;
@@ -64,16 +66,15 @@ std::string head(const std::string& type, std::size_t length) {
            "\r\nConnection: close\r\nAccess-Control-Allow-Origin: *\r\n\r\n";
 }
 
-/// One write, whatever it takes. A peer that has hung up raises no signal.
+/// One write, whatever it takes; it waits for a reader who takes his time. A peer that has hung up
+/// raises no signal.
 ssize_t sendOnce(int client, std::string_view bytes) {
     return send(client, bytes.data(), bytes.size(), MSG_NOSIGNAL);
 }
 
 bool sendAll(int client, std::string_view bytes) {
     while (!bytes.empty()) {
-        pollfd writable = {client, POLLOUT, 0};
-        if (poll(&writable, 1, kPeerTimeoutMilliseconds) < 1) return false;
-        const ssize_t sent = send(client, bytes.data(), bytes.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
+        const ssize_t sent = sendOnce(client, bytes);
         if (sent < 1) return false;
         bytes.remove_prefix(static_cast<std::size_t>(sent));
     }
@@ -150,24 +151,24 @@ void serveRequest(int client) {
 }
 
 /// Lets the peer read the answer to its end. What it sent beyond the one read is thrown away, or
-/// the kernel would reset the connection, and the answer with it.
-void closeGently(int client) {
+/// the kernel would reset the connection at its close, and the answer with it.
+void endGently(int client) {
     shutdown(client, SHUT_WR);
     char rest[kRequestBytes];
     for (int i = 0; i < 64 && recv(client, rest, sizeof(rest), MSG_DONTWAIT) > 0; i++) continue;
-    close(client);
 }
 
 void serveClient(int client) {
-    setsockopt(client, SOL_SOCKET, SO_RCVTIMEO, &kPeerTimeout, sizeof(kPeerTimeout));
-    setsockopt(client, SOL_SOCKET, SO_SNDTIMEO, &kPeerTimeout, sizeof(kPeerTimeout));
+    setsockopt(client, SOL_SOCKET, SO_RCVTIMEO, &kRequestTimeout, sizeof(kRequestTimeout));
     setsockopt(client, SOL_SOCKET, SO_SNDBUF, &kSendBufferBytes, sizeof(kSendBufferBytes));
+    setsockopt(client, IPPROTO_TCP, TCP_USER_TIMEOUT, &kReaderTimeoutMilliseconds,
+               sizeof(kReaderTimeoutMilliseconds));
     try {
         serveRequest(client);
     } catch (const std::exception&) {
         // A path or a size that can't be had is a read that failed: no answer, and on we go.
     }
-    closeGently(client);
+    endGently(client);
 }
 
 /// A listening socket, or -1 behind a line on standard error.
@@ -229,7 +230,8 @@ void startLocalServer(int port) {
     const int listener = openListener(port);
     if (listener < 0) return;
     WaitingRoom waiting(listener);
+    AnswerRoom answers(serveClient, kMostUnread);
     while (true) {
-        for (const int client : waiting.nextSpeakers()) serveClient(client);
+        for (const int client : waiting.nextSpeakers()) answers.attend(client);
     }
 }

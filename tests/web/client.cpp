@@ -90,6 +90,16 @@ std::string Client::readSome(std::size_t count) const {
     return text;
 }
 
+bool Client::waitForReset(double seconds) const {
+    const auto deadline = after(seconds);
+    while (Clock::now() < deadline) {
+        send("?");  // who has dropped the connection says so when it is spoken to
+        pollfd torn = {socket, 0, 0};
+        if (poll(&torn, 1, 50) == 1 && (torn.revents & POLLERR) != 0) return true;
+    }
+    return false;
+}
+
 int freePort() {
     // Below the ports that the system gives to clients, so that no client's socket takes it
     // between this look and the server's bind; tests of other processes start elsewhere.
@@ -113,12 +123,12 @@ int startServer() {
     return port;
 }
 
-std::string ask(int port, const std::string& request) {
+std::string ask(int port, const std::string& request, double seconds) {
     Client client(port);
     client.send(request);
-    return client.readToEnd();
+    return client.readToEnd(seconds);
 }
 
-std::string get(int port, const std::string& path) {
-    return ask(port, "GET " + path + " HTTP/1.1\r\nHost: localhost\r\n\r\n");
+std::string get(int port, const std::string& path, double seconds) {
+    return ask(port, "GET " + path + " HTTP/1.1\r\nHost: localhost\r\n\r\n", seconds);
 }

@@ -20,6 +20,9 @@ public:
     std::string readToEnd(double seconds = 10);
     /// Up to `count` bytes in one read; empty at the end.
     std::string readSome(std::size_t count) const;
+    /// Waits, without reading, until the other side has dropped the connection; false if it hasn't
+    /// within `seconds`.
+    bool waitForReset(double seconds) const;
     /// True if readToEnd saw an orderly end of the connection.
     bool sawEnd() const { return ended; }
     bool connected() const { return socket >= 0; }
@@ -36,7 +39,7 @@ int freePort();
 int startServer();
 
 /// Sends `request` and returns the whole answer.
-std::string ask(int port, const std::string& request);
+std::string ask(int port, const std::string& request, double seconds = 10);
 
 /// Asks for a path as browsers do.
-std::string get(int port, const std::string& path);
+std::string get(int port, const std::string& path, double seconds = 10);

@@ -11,10 +11,12 @@
 
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
 
 #include "driver/local_server.h"
 #include "driver/served_page.h"
 #include "support/subprocess.h"
+#include "web/altered_calls.h"
 #include "web/client.h"
 #include "web/scratch_directory.h"
 
@@ -106,6 +108,19 @@ TEST_F(Server, PageFromMemory) {
     const std::string large(3'000'000, 'x');
     storePage(large);
     EXPECT_EQ(get("/"), answer("text/html; charset=utf-8", large));
+}
+
+TEST_F(Server, OnlyAFileGoesOnAfterAShortWrite) {
+    const std::string large(5000, 'x');
+    write("file.txt", large);
+    storePage(large);
+    const std::string page = answer("text/html; charset=utf-8", large);
+    g_mostBytesAWrite = 1000;
+    g_writes = 0;
+    EXPECT_EQ(get("/"), page.substr(0, page.find("\r\n\r\n") + 4 + 1000));
+    EXPECT_EQ(g_writes, 1 + 2) << "the client's one; the head and the page, once each";
+    EXPECT_EQ(get("/file.txt"), answer("application/octet-stream", large));
+    g_mostBytesAWrite = SIZE_MAX;
 }
 
 TEST_F(Server, OutputFiles) {
