@@ -17,7 +17,12 @@ constexpr const char* kPackedEndings[] = {
     ".png", ".jpg", ".jpeg", ".mp4", ".gif", ".ttf", ".otf", ".woff", ".woff2",
 };
 
-std::string preloadFlag(const std::string& path) { return " --preload-file " + path; }
+/// An "@" would divide the name from the one that the program sees; two are one of the name's own.
+std::string preloadFlag(const std::string& path) {
+    std::string name;
+    for (const char byte : path) name.append(byte == '@' ? 2 : 1, byte);
+    return " --preload-file " + asOneWord(name);
+}
 
 bool isUnderAssets(const std::string& path) { return path.rfind("assets/", 0) == 0; }
 

@@ -22,5 +22,8 @@ std::string prepareCacheDirectory();
 /// before is flushed first, so that it stands before what the command prints.
 int run_command(const std::string& command);
 
-/// `path` as one word of such a command.
-std::string inQuotes(const std::string& path);
+/// `text` in double quotes, as one word of such a command, whatever it holds.
+std::string inQuotes(const std::string& text);
+
+/// `text` as one word of such a command: as it stands if bash reads it so, else in quotes.
+std::string asOneWord(const std::string& text);

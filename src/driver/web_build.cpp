@@ -25,14 +25,9 @@ constexpr const char* kOutputFiles[] = {
     "வெளியீடு/index.data",
 };
 
-/// `command` for system(), with nothing printed whatever happens.
+/// `command` for system(), with nothing printed whatever happens. It passes through two shells.
 std::string inSilentBash(const std::string& command) {
-    std::string escaped;
-    for (const char byte : command) {
-        if (byte == '"') escaped += '\\';
-        escaped += byte;
-    }
-    return "bash -c \"" + escaped + "\" > /dev/null 2>&1";
+    return "bash -c " + inQuotes(command) + " > /dev/null 2>&1";
 }
 
 bool readTemplate(const std::string& appDirectory, std::string& page) {

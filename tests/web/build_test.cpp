@@ -1,6 +1,7 @@
 // The web build with an em++ that does as it is told: files, command, page and counter.
 #include "driver/served_page.h"
 #include "driver/web_build.h"
+#include "web/odd_names.h"
 #include "web/scratch_directory.h"
 #include "web/tree.h"
 
@@ -74,6 +75,57 @@ TEST_F(WebBuildTest, CommandIsWrappedWithItsQuotesEscaped) {
               "-s USE_GLFW=3 -s FULL_ES2=1 -s WASM=1 -s ALLOW_MEMORY_GROWTH=1 "
               "-s EXPORTED_RUNTIME_METHODS=\\\"['ccall','cwrap']\\\"  --preload-file a "
               "-o \\\"W/index.js\\\"\" > /dev/null 2>&1");
+}
+
+TEST_F(WebBuildTest, BlanksLeaveTheCommandAsItIs) {
+    EXPECT_EQ(webCommand("ஒரு C.cpp", "I !", "O's", "", "W~/index.js"),
+              "bash -c \"em++ \\\"ஒரு C.cpp\\\" \\\"O's/error_handler_web.o\\\" "
+              "\\\"O's/nanovg_web.o\\\" -I\\\"I !\\\" -I\\\"I !/nanovg\\\" "
+              "-std=c++17 -finput-charset=UTF-8 --bind "
+              "-s USE_GLFW=3 -s FULL_ES2=1 -s WASM=1 -s ALLOW_MEMORY_GROWTH=1 "
+              "-s EXPORTED_RUNTIME_METHODS=\\\"['ccall','cwrap']\\\"  "
+              "-o \\\"W~/index.js\\\"\" > /dev/null 2>&1");
+}
+
+TEST_F(WebBuildTest, WhatTheShellsWouldReadIsEscapedForBoth) {
+    const std::string command =
+        webCommand("$a", "`b`", "\"c\"", " --preload-file \"d\\$\"", "e\\f");
+    EXPECT_EQ(
+        command.substr(0, command.find(" -I")),
+        R"(bash -c "em++ \"\\\$a\" \"\\\"c\\\"/error_handler_web.o\" \"\\\"c\\\"/nanovg_web.o\")");
+    EXPECT_NE(command.find(R"( -I\"\\\`b\\\`\" )"), std::string::npos) << command;
+    EXPECT_NE(command.find(R"( --preload-file \"d\\\$\" -o \"e\\\\f\"")"), std::string::npos)
+        << command;
+}
+
+TEST_F(WebBuildTest, DirectoriesAndFilesMayBeCalledAnything) {
+    for (const std::string& name : kOddNames) {
+        SCOPED_TRACE(name);
+        const fs::path place = directory / "places" / fs::u8path(name);
+        fs::create_directories(place / "cache");
+        fs::create_directories(place / "work" / "வெளியீடு");
+        fs::copy(directory / "app", place / "app", fs::copy_options::recursive);
+        fs::current_path(place / "work");
+        std::ofstream(place / "work" / fs::u8path(name + ".png")) << "x";
+        tree = program(
+            application(nullptr, widget("படம்", properties(entry("பாதை", text(name + ".png"))))));
+        fs::remove(directory / "calls");
+
+        const WebBuild odd{(place / "app").u8string(), (place / "cache").u8string()};
+        EXPECT_TRUE(buildWebApplication(tree, "// நிரல்\n", odd));
+        const std::string at = place.u8string();
+        const std::string calls = read("calls");
+        EXPECT_EQ(calls.substr(0, calls.find("[-std=")),
+                  "[" + at + "/cache/வலை_வெளியீடு.cpp][" + at + "/app/திரட்டு/error_handler_web.o][" +
+                      at + "/app/திரட்டு/nanovg_web.o][-I" + at + "/app/உள்ளடக்கம்][-I" + at +
+                      "/app/உள்ளடக்கம்/nanovg]");
+        EXPECT_EQ(calls.substr(std::min(calls.size(), calls.find("[--preload-file]"))),
+                  "[--preload-file][" + name + ".png][-o][" + at + "/work/வெளியீடு/index.js]\n");
+        for (const auto& entry : fs::recursive_directory_iterator(directory)) {
+            EXPECT_NE(entry.path().filename(), kTraceOfARun);
+        }
+        fs::current_path(directory);
+    }
 }
 
 TEST_F(WebBuildTest, CompilerIsSilentWhateverItSays) {

@@ -140,6 +140,39 @@ TEST_F(Preload, EndingsThatArePacked) {
     EXPECT_EQ(flags(images(paths)), expected);
 }
 
+TEST_F(Preload, WhatBashReadsAsOneWordStandsAsItIs) {
+    for (const char* name :
+         {"a.png", "படம்.png", "a-b_c+d,e%f^g:h=i.png", "a#b.png", "a~b.png", "a!b.png", "a{b}.png",
+          "a]b.png", "-a.png", "!.png", "{}.png", "a}b,c{d.png", "=.png", "%41.png"}) {
+        write(name, "x");
+        EXPECT_EQ(flags(images({name})), std::string(" --preload-file ") + name);
+    }
+}
+
+TEST_F(Preload, WhatBashWouldReadOtherwiseIsQuoted) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"a b.png", R"("a b.png")"},       {"a$b.png", R"("a\$b.png")"},
+        {"a`b.png", R"("a\`b.png")"},      {"a\"b.png", R"("a\"b.png")"},
+        {"a\\b.png", R"("a\\b.png")"},     {"a'b.png", R"("a'b.png")"},
+        {"a;b.png", R"("a;b.png")"},       {"#a.png", R"("#a.png")"},
+        {"~a.png", R"("~a.png")"},         {"a=~b.png", R"("a=~b.png")"},
+        {"a{b,c}.png", R"("a{b,c}.png")"}, {"a{1..2}.png", R"("a{1..2}.png")"},
+        {"a*.png", R"("a*.png")"},         {"a?.png", R"("a?.png")"},
+        {"[a].png", R"("[a].png")"},       {"a\nb.png", "\"a\nb.png\""},
+    };
+    for (const auto& [name, word] : rows) {
+        write(name, "x");
+        EXPECT_EQ(flags(images({name})), std::string(" --preload-file ") + word);
+    }
+}
+
+TEST_F(Preload, AnAtSignIsDoubled) {
+    write("a@2x.png", "x");
+    write("b@@c d.png", "x");
+    EXPECT_EQ(flags(images({"a@2x.png", "b@@c d.png"})),
+              " --preload-file a@@2x.png --preload-file \"b@@@@c d.png\"");
+}
+
 TEST_F(Preload, MissingFileIsPassedOverWithoutAWord) {
     testing::internal::CaptureStderr();
     EXPECT_EQ(flags(images({"இல்லை.png"})), "");
