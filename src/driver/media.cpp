@@ -17,9 +17,10 @@ constexpr const char* kPackedEndings[] = {
     ".png", ".jpg", ".jpeg", ".mp4", ".gif", ".ttf", ".otf", ".woff", ".woff2",
 };
 
-/// An "@" would divide the name from the one that the program sees; two are one of the name's own.
+/// To em++ an "@" divides a name from the one that the program sees, and two are one of the name's
+/// own; an argument that begins with one is a file of arguments, whatever stands before it.
 std::string preloadFlag(const std::string& path) {
-    std::string name;
+    std::string name = path.rfind('@', 0) == 0 ? "./" : "";
     for (const char byte : path) name.append(byte == '@' ? 2 : 1, byte);
     return " --preload-file " + asOneWord(name);
 }

@@ -173,6 +173,11 @@ TEST_F(Preload, AnAtSignIsDoubled) {
               " --preload-file a@@2x.png --preload-file \"b@@@@c d.png\"");
 }
 
+TEST_F(Preload, ANameThatBeginsWithAnAtSignIsNoFileOfArguments) {
+    write("@a.png", "x");
+    EXPECT_EQ(flags(images({"@a.png"})), " --preload-file ./@@a.png");
+}
+
 TEST_F(Preload, MissingFileIsPassedOverWithoutAWord) {
     testing::internal::CaptureStderr();
     EXPECT_EQ(flags(images({"இல்லை.png"})), "");
