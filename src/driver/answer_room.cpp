@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
-#include <system_error>
+#include <exception>
 
 namespace {
 
@@ -17,7 +17,7 @@ constexpr auto kLook = std::chrono::milliseconds(50);
 // A reader who takes less than a step in so many looks is silent. Looks are counted, not seconds:
 // a machine too busy to look isn't the reader's fault. The more are silent already, the less the
 // next one is waited for, so that many in a row don't add up.
-constexpr std::uint64_t kStepBytes = 4096;
+constexpr std::uint64_t kStepBytes = 8192;
 constexpr int kMostPatience = 20;
 
 /// How many of the bytes written the other machine has confirmed. It takes a receive buffer full
@@ -60,7 +60,7 @@ void AnswerRoom::attend(int client) {
     unread.remove_if([](const Answer& answer) { return answer.isOver(); });
     try {
         unread.emplace_back(client, give);
-    } catch (const std::system_error&) {
+    } catch (const std::exception&) {
         close(client);
         return;
     }

@@ -13,7 +13,7 @@ public:
     using Give = void (*)(int client);
 
     /// Takes the connection `client`. What `give` writes to it may wait for room.
-    /// Throws std::system_error if there is no thread to be had; then it is the caller's still.
+    /// Throws std::system_error if there is no thread to be had; then it is still the caller's.
     Answer(int client, Give give);
     /// Closes the connection. An answer that isn't over ends where it is.
     ~Answer();

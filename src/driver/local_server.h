@@ -1,5 +1,5 @@
-// The development server: plain sockets, one thread, one request at a time, each connection closed
-// after one answer. It serves the page from memory and everything else from the disk.
+// The development server: plain sockets, one request at a time, each connection closed after one
+// answer. It serves the page from memory and everything else from the disk.
 #pragma once
 
 #include <string>
