@@ -1,20 +1,28 @@
 #include "driver/watch.h"
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <thread>
 
 #include "driver/console_texts.h"
-#include "driver/paths.h"
 #include "driver/phases.h"
+#include "files.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 constexpr auto kPollPeriod = std::chrono::milliseconds(500);
+
+/// Between two looks at a source that changed, and until the last one.
+constexpr auto kSavePause = std::chrono::milliseconds(20);
+constexpr auto kSavePatience = std::chrono::milliseconds(2000);
 
 /// What a watch loop prints for an exception of each phase.
 struct WatchTexts {
@@ -47,11 +55,8 @@ bool runWatchedPhase(Phase phase, const char* text, bool withReason) {
 }
 
 /// Source to tree and generated text; false if a phase threw. A diagnostic ends the process.
-bool translate(const std::string& sourcePath, const WatchTexts& texts, Program& program,
-               std::string& code) {
-    std::string text;
-    readFile(sourcePath, text);
-
+bool translate(const std::string& sourcePath, const std::string& text, const WatchTexts& texts,
+               Program& program, std::string& code) {
     const auto run = [&](auto phase, const char* failure) {
         return runWatchedPhase(phase, failure, texts.withReason);
     };
@@ -67,16 +72,61 @@ bool translate(const std::string& sourcePath, const WatchTexts& texts, Program& 
     return run(generate, texts.generate);
 }
 
-/// Calls `rebuild` whenever the source's time is another than before; an older one counts too.
+/// What a look at a file tells. One that is gone, or goes meanwhile, is empty.
+struct Look {
+    std::optional<fs::file_time_type> time;
+    std::uintmax_t bytes = 0;
+
+    bool operator==(const Look& other) const { return time == other.time && bytes == other.bytes; }
+};
+
+Look lookAt(const fs::path& file) {
+    std::error_code problem;
+    Look look;
+    const auto time = fs::last_write_time(file, problem);
+    if (problem) return look;
+    const std::uintmax_t bytes = fs::file_size(file, problem);
+    if (problem) return look;
+    look.time = time;
+    look.bytes = bytes;
+    return look;
+}
+
+/// The source as somebody saved it. Editors empty a file before they write it, or put another in
+/// its place: so it is read when two looks agree that it holds something, and a third one that it
+/// stayed so. One that stays empty, or never rests, is taken as it is. Throws if it stays away.
+fs::file_time_type readSaved(const std::string& sourcePath, std::string& text) {
+    const fs::path source = fs::u8path(sourcePath);
+    const auto deadline = Clock::now() + kSavePatience;
+    Look look = lookAt(source);
+    while (Clock::now() < deadline) {
+        std::this_thread::sleep_for(kSavePause);
+        const Look second = lookAt(source);
+        const bool rests = second == look && second.bytes > 0;
+        look = second;
+        if (!rests || !readFile(sourcePath, text)) continue;
+        look = lookAt(source);
+        if (look == second) return *look.time;
+    }
+    const auto time = fs::last_write_time(source);
+    readFile(sourcePath, text);
+    return time;
+}
+
+/// Calls `rebuild` with the source's text whenever its time is another than before; an older one
+/// counts too. The time is that of the text: a save during a rebuild is seen by the next look.
 template <typename Rebuild>
 [[noreturn]] void watch(const std::string& sourcePath, Rebuild rebuild) {
     const fs::path source = fs::u8path(sourcePath);
     auto lastWrite = fs::last_write_time(source);
     while (true) {
-        const auto write = fs::last_write_time(source);
-        if (write != lastWrite) {
-            lastWrite = write;
-            rebuild();
+        if (lookAt(source).time != lastWrite) {
+            std::string text;
+            const auto write = readSaved(sourcePath, text);
+            if (write != lastWrite) {
+                lastWrite = write;
+                rebuild(text);
+            }
         }
         std::this_thread::sleep_for(kPollPeriod);
     }
@@ -85,22 +135,22 @@ template <typename Rebuild>
 }  // namespace
 
 void watchConsoleProgram(const std::string& sourcePath, const NativeBuild& build) {
-    watch(sourcePath, [&] {
+    watch(sourcePath, [&](const std::string& text) {
         std::cout << "\n🔄 மாற்றம் கண்டறியப்பட்டது! புதுப்பிக்கப்படுகிறது..." << std::endl;
         Program program;
         std::string code;
-        if (!translate(sourcePath, kConsoleTexts, program, code)) return;
+        if (!translate(sourcePath, text, kConsoleTexts, program, code)) return;
         std::ofstream(fs::u8path(build.generatedPath)) << code;
         buildNativeProgram(build);
     });
 }
 
 void watchWebApplication(const std::string& sourcePath, const WebBuild& build) {
-    watch(sourcePath, [&] {
+    watch(sourcePath, [&](const std::string& text) {
         std::cout << "\n🔄 மாற்றம் கண்டறியப்பட்டது! வலைத்தளம் புதுப்பிக்கப்படுகிறது..." << std::endl;
         Program program;
         std::string code;
-        if (!translate(sourcePath, kWebTexts, program, code)) return;
+        if (!translate(sourcePath, text, kWebTexts, program, code)) return;
         if (!buildWebApplication(program, code, build)) return;
         std::cout << "✅ தளம் புதுப்பிக்கப்பட்டது! பிரவுசரில் பார்க்கவும்." << std::endl;
     });

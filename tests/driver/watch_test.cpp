@@ -97,6 +97,59 @@ TEST_F(Watch, GoesOnAfterAnExceptionAndEndsAtADiagnostic) {
     EXPECT_NE(live.out().find("பொழில்-102"), std::string::npos) << live.out();
 }
 
+/// How long an editor leaves a file empty or away here: longer than the loop's own period, so that
+/// it is seen so.
+constexpr auto kMoment = std::chrono::milliseconds(600);
+
+TEST_F(Watch, SourceThatIsEmptyForAMomentIsBuiltOnce) {
+    LiveProcess live = watch();
+    ASSERT_TRUE(live.waitForOut(opening)) << live.out() << live.err();
+    write("a.பொழில்", "");
+    std::this_thread::sleep_for(kMoment);
+    write("a.பொழில்", "அச்சிடு(22)\n");
+    const std::string expected = opening + kChanged + "ஓடியது\n";
+    ASSERT_TRUE(live.waitForOut(expected)) << live.out();
+    EXPECT_NE(readFileText(cache / "generated.cpp").find("22LL"), std::string::npos);
+    std::this_thread::sleep_for(kTwoPolls);
+    EXPECT_EQ(live.out(), expected);
+    EXPECT_EQ(compilerCalls().size(), 1U);
+}
+
+TEST_F(Watch, SourceThatStaysEmptyIsBuiltToo) {
+    LiveProcess live = watch();
+    ASSERT_TRUE(live.waitForOut(opening)) << live.out() << live.err();
+    save("", std::chrono::hours(1));
+    EXPECT_TRUE(live.waitForOut(opening + kChanged + "ஓடியது\n")) << live.out();
+}
+
+TEST_F(Watch, SourceThatIsAwayForAMomentIsBuiltOnce) {
+    LiveProcess live = watch();
+    ASSERT_TRUE(live.waitForOut(opening)) << live.out() << live.err();
+    fs::remove(work / "a.பொழில்");
+    std::this_thread::sleep_for(kMoment);
+    save("அச்சிடு(22)\n", std::chrono::hours(1));
+    const std::string expected = opening + kChanged + "ஓடியது\n";
+    ASSERT_TRUE(live.waitForOut(expected)) << live.out() << live.err();
+    std::this_thread::sleep_for(kTwoPolls);
+    EXPECT_EQ(live.out(), expected);
+    EXPECT_EQ(live.err(), "");
+}
+
+TEST_F(Watch, SaveDuringARebuildIsBuiltNext) {
+    const fs::path go = root / "go";
+    fakeCompiler("[ -e '" + go.u8string() + "' ] || echo முதல்; while [ ! -e '" + go.u8string() +
+                 "' ]; do sleep 0.05; done; echo ஓடியது");
+    LiveProcess live = watch();
+    ASSERT_TRUE(live.waitForOut(opening)) << live.out() << live.err();
+    save("அச்சிடு(22)\n", std::chrono::hours(1));
+    ASSERT_TRUE(live.waitForOut(opening + kChanged + "முதல்\n")) << live.out();
+    save("அச்சிடு(33)\n", std::chrono::hours(1));
+    writeFileText(go, "");
+    ASSERT_TRUE(live.waitForOut(opening + kChanged + "முதல்\nஓடியது\n" + kChanged + "ஓடியது\n"))
+        << live.out();
+    EXPECT_NE(readFileText(cache / "generated.cpp").find("33LL"), std::string::npos);
+}
+
 TEST_F(Watch, VanishedSourceEndsItAbnormally) {
     LiveProcess live = watch();
     ASSERT_TRUE(live.waitForOut(opening)) << live.out() << live.err();

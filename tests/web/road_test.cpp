@@ -285,6 +285,33 @@ TEST_F(WebRoad, ServesWhileTheCompilerRuns) {
     EXPECT_EQ(body("/version"), "3");
 }
 
+TEST_F(WebRoad, SourceThatIsEmptyForAMomentIsNotAnnounced) {
+    LiveProcess live = start();
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess)) << live.out() << live.err();
+    waitForWatch();
+    write("a.பொழில்", "");
+    std::this_thread::sleep_for(std::chrono::milliseconds(600));
+    write("a.பொழில்", "அச்சிடு(22)\n");
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess + kChanged + kRenewed)) << live.out();
+    EXPECT_NE(readFileText(cache / "வலை_வெளியீடு.cpp").find("22LL"), std::string::npos);
+    std::this_thread::sleep_for(kTwoPolls);
+    EXPECT_EQ(live.out(), kFirstPart + kSuccess + kChanged + kRenewed);
+}
+
+TEST_F(WebRoad, SaveDuringARebuildIsBuiltNext) {
+    LiveProcess live = start();
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess)) << live.out() << live.err();
+    waitForWatch();
+    script("em++", "while [ ! -e '" + (root / "go").u8string() + "' ]; do sleep 0.05; done");
+    save("அச்சிடு(22)\n");
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess + kChanged)) << live.out();
+    save("அச்சிடு(33)\n");
+    writeFileText(root / "go", "");
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess + kChanged + kRenewed + kChanged + kRenewed))
+        << live.out();
+    EXPECT_NE(readFileText(cache / "வலை_வெளியீடு.cpp").find("33LL"), std::string::npos);
+}
+
 TEST_F(WebRoad, MissingTemplateFailsTheBuild) {
     fs::remove(home / "உள்ளடக்கம்" / "template.html");
     LiveProcess live = start();
