@@ -46,7 +46,7 @@ int main(int argc, char** argv) {
         return 1;
     }
 
-    if (run.webMode) printWebOpening();
+    if (run.webMode) openWebRoad();
     std::vector<Token> tokens;
     const auto scan = [&] { tokens = Lexer(sourceText, run.sourcePath).tokenize(); };
     if (!runPhase(scan, kScanFailure)) return 1;
@@ -57,7 +57,7 @@ int main(int argc, char** argv) {
 
     if (holdsWebApp(program) && !run.webMode) {
         run.webMode = true;
-        printWebOpening();
+        openWebRoad();
     }
     if (run.webMode) {
         std::cout << std::flush << "முடிந்தது\n"
@@ -95,5 +95,5 @@ int main(int argc, char** argv) {
     animateCompilation(run.sourcePath);
     if (run.watchMode) watchConsoleProgram(run.sourcePath, build);
     buildNativeProgram(build);
-    return 0;  // whatever g++ said and the program returned. Meant.
+    return 0;  // whatever g++ said and the program returned, or Ctrl+C ended. Meant.
 }

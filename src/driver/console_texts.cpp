@@ -1,7 +1,6 @@
 #include "driver/console_texts.h"
 
 #include <chrono>
-#include <cstdlib>
 #include <iostream>
 #include <thread>
 
@@ -98,9 +97,4 @@ void animateCompilation(std::string filename) {
         std::this_thread::sleep_for(kLetterPause);
     }
     std::cout << kReset << std::endl;
-}
-
-void signal_handler(int) {
-    std::cout << "\n👋 சேவையகம் நிறுத்தப்பட்டது " << std::endl;
-    std::exit(0);
 }

@@ -36,6 +36,3 @@ void printCompileBanner();
 /// Prints the title of a build letter by letter. It goes by bytes, 20 milliseconds each: the
 /// pause is part of the tool's manner.
 void animateCompilation(std::string filename);
-
-/// Says goodbye and ends the process with status 0. The web road's handler of SIGINT.
-void signal_handler(int signal);

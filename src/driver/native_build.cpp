@@ -5,6 +5,7 @@
 
 #include "driver/console_texts.h"
 #include "driver/paths.h"
+#include "driver/processes.h"
 
 namespace fs = std::filesystem;
 
@@ -48,6 +49,6 @@ bool buildNativeProgram(const NativeBuild& build) {
     std::error_code ignored;
     fs::remove(fs::u8path(executable), ignored);
     fs::rename(fs::u8path(freshExecutable), fs::u8path(executable), ignored);
-    run_command(inQuotes(executable));
+    runProgram(executable);
     return true;
 }

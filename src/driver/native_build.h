@@ -10,5 +10,7 @@ struct NativeBuild {
 };
 
 /// Builds the program with g++ and runs it to its end in the same terminal; its status is
-/// dropped. A failed build leaves the last good executable in place and returns false.
+/// dropped. A failed build leaves the last good executable in place and returns false. A Ctrl+C
+/// while g++ runs ends this process too; one while the program runs is left waiting, for
+/// releaseInterrupts.
 bool buildNativeProgram(const NativeBuild& build);

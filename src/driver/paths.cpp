@@ -2,9 +2,7 @@
 
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <iostream>
 #include <string_view>
 
 namespace fs = std::filesystem;
@@ -55,11 +53,6 @@ std::string prepareCacheDirectory() {
         getSafeMinGWPath((fs::temp_directory_path() / "Pozhil_Cache").u8string());
     fs::create_directories(fs::u8path(directory));
     return directory;
-}
-
-int run_command(const std::string& command) {
-    std::cout.flush();
-    return std::system(command.c_str());
 }
 
 std::string inQuotes(const std::string& text) {

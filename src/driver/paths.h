@@ -1,4 +1,4 @@
-// Paths, files and commands of the outside world.
+// Paths, and how they stand in commands.
 #pragma once
 
 #include <string>
@@ -18,12 +18,8 @@ void injectEmscriptenEnvironment(const std::string& appDirectory);
 /// std::filesystem::filesystem_error if it can't be.
 std::string prepareCacheDirectory();
 
-/// Runs `command` in a shell and waits. Returns the raw status of system(). What was printed
-/// before is flushed first, so that it stands before what the command prints.
-int run_command(const std::string& command);
-
-/// `text` in double quotes, as one word of such a command, whatever it holds.
+/// `text` in double quotes, as one word of a command, whatever it holds.
 std::string inQuotes(const std::string& text);
 
-/// `text` as one word of such a command: as it stands if bash reads it so, else in quotes.
+/// `text` as one word of a command: as it stands if bash reads it so, else in quotes.
 std::string asOneWord(const std::string& text);

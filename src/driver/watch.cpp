@@ -10,6 +10,7 @@
 
 #include "driver/console_texts.h"
 #include "driver/phases.h"
+#include "driver/processes.h"
 #include "files.h"
 
 namespace fs = std::filesystem;
@@ -142,6 +143,7 @@ void watchConsoleProgram(const std::string& sourcePath, const NativeBuild& build
         if (!translate(sourcePath, text, kConsoleTexts, program, code)) return;
         std::ofstream(fs::u8path(build.generatedPath)) << code;
         buildNativeProgram(build);
+        releaseInterrupts();  // a Ctrl+C during the run ends the watch too
     });
 }
 

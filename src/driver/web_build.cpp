@@ -8,6 +8,7 @@
 #include "driver/media.h"
 #include "driver/page.h"
 #include "driver/paths.h"
+#include "driver/processes.h"
 #include "driver/served_page.h"
 
 namespace fs = std::filesystem;
@@ -75,9 +76,9 @@ bool buildWebApplication(const Program& program, const std::string& code, const 
     const std::string preload = preloadFlags(program);
     removeOldOutput();
     const int status =
-        run_command(webCommand(source, getSafeMinGWPath(build.appDirectory + "/உள்ளடக்கம்"),
-                               getSafeMinGWPath(build.appDirectory + "/திரட்டு"), preload,
-                               fs::current_path().u8string() + "/வெளியீடு/index.js"));
+        runStoppable(webCommand(source, getSafeMinGWPath(build.appDirectory + "/உள்ளடக்கம்"),
+                                getSafeMinGWPath(build.appDirectory + "/திரட்டு"), preload,
+                                fs::current_path().u8string() + "/வெளியீடு/index.js"));
     if (status != 0) return reportFailedBuild();
     g_appVersion.exchange(version);
     return true;

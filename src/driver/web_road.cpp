@@ -1,12 +1,15 @@
 #include "driver/web_road.h"
 
+#include <unistd.h>
+
 #include <csignal>
 #include <iostream>
+#include <string_view>
 #include <thread>
 
 #include "driver/console_texts.h"
 #include "driver/local_server.h"
-#include "driver/paths.h"
+#include "driver/processes.h"
 #include "driver/watch.h"
 
 namespace {
@@ -18,12 +21,22 @@ void openBrowser(const std::string& address) {
     run_command("xdg-open " + address + " > /dev/null 2>&1 &");
 }
 
-void serve() {
-    std::signal(SIGINT, signal_handler);
-    startLocalServer(kPort);
+}  // namespace
+
+void signal_handler(int) {
+    constexpr std::string_view kFarewell = "\n👋 சேவையகம் நிறுத்தப்பட்டது \n";
+    if (!startEnding()) return;
+    if (write(STDOUT_FILENO, kFarewell.data(), kFarewell.size()) < 0) {
+        // Nobody hears it: the end comes all the same.
+    }
+    endCommands();
+    _exit(0);
 }
 
-}  // namespace
+void openWebRoad() {
+    std::signal(SIGINT, signal_handler);
+    printWebOpening();
+}
 
 void takeWebRoad(const Program& program, const std::string& code, const std::string& sourcePath,
                  const WebBuild& build) {
@@ -36,6 +49,6 @@ void takeWebRoad(const Program& program, const std::string& code, const std::str
     } else {
         printWebFailure();
     }
-    std::thread(serve).detach();
+    std::thread(startLocalServer, kPort).detach();
     watchWebApplication(sourcePath, build);
 }

@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 
 #include "driver/paths.h"
+#include "driver/processes.h"
 #include "driver/workplace.h"
 
 namespace {

@@ -7,12 +7,17 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <functional>
 #include <thread>
 
 #include "driver/workplace.h"
 
 namespace {
+
+void redirect(const std::filesystem::path& file, int descriptor) {
+    dup2(open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644), descriptor);
+}
+
+}  // namespace
 
 bool within(double seconds, const std::function<bool()>& holds) {
     using Clock = std::chrono::steady_clock;
@@ -23,12 +28,6 @@ bool within(double seconds, const std::function<bool()>& holds) {
     }
     return true;
 }
-
-void redirect(const std::filesystem::path& file, int descriptor) {
-    dup2(open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644), descriptor);
-}
-
-}  // namespace
 
 LiveProcess::LiveProcess(const std::vector<std::string>& command,
                          const std::filesystem::path& directory,
@@ -44,6 +43,7 @@ LiveProcess::LiveProcess(const std::vector<std::string>& command,
     redirect(notes / "out", STDOUT_FILENO);
     redirect(notes / "err", STDERR_FILENO);
     setpgid(0, 0);
+    signal(SIGINT, SIG_DFL);  // a shell that runs the tests in the background has it ignored
     if (chdir(directory.c_str()) != 0) _exit(126);
     for (const std::string& setting : environment) {
         const std::size_t equals = setting.find('=');
@@ -71,6 +71,8 @@ bool LiveProcess::waitForErr(const std::string& text, double seconds) const {
 }
 
 void LiveProcess::interrupt() const { kill(process, SIGINT); }
+void LiveProcess::pressCtrlC() const { kill(-process, SIGINT); }
+void LiveProcess::crash() const { kill(process, SIGKILL); }
 
 bool LiveProcess::waitForEnd(double seconds) {
     if (!ended) {

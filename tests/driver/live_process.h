@@ -4,8 +4,12 @@
 #include <sys/types.h>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
+
+/// Polls until `holds` does; false after `seconds`.
+bool within(double seconds, const std::function<bool()>& holds);
 
 class LiveProcess {
 public:
@@ -23,8 +27,13 @@ public:
     bool waitForOut(const std::string& text, double seconds = 20) const;
     /// Waits until standard error holds `text`; false after `seconds`.
     bool waitForErr(const std::string& text, double seconds = 20) const;
-    /// Sends SIGINT.
+    /// Sends SIGINT to the process alone.
     void interrupt() const;
+    /// Sends SIGINT to the process and all of its group, as a terminal does for Ctrl+C.
+    void pressCtrlC() const;
+    /// Ends it at once, with nothing tidied up.
+    void crash() const;
+    pid_t id() const { return process; }
     /// Waits for its end; false after `seconds`. Then status is that of waitpid.
     bool waitForEnd(double seconds = 20);
 

@@ -83,6 +83,13 @@ void Workplace::fakeCompiler(const std::string& program, int status) const {
     makeExecutable(root / "bin" / "g++");
 }
 
+void Workplace::script(const std::string& name, const std::string& text) const {
+    fs::create_directories(root / "bin");
+    writeFileText(root / "new", "#!/bin/sh\n" + text + "\n");
+    makeExecutable(root / "new");
+    fs::rename(root / "new", root / "bin" / name);  // never seen half written
+}
+
 std::vector<std::string> Workplace::compilerCalls() const {
     std::istringstream text(readFileText(root / "bin" / "calls"));
     std::vector<std::string> calls;

@@ -32,6 +32,9 @@ protected:
     /// script whose text is `program`. With `status` other than 0 it writes nothing and fails.
     void fakeCompiler(const std::string& program, int status = 0) const;
 
+    /// Puts a shell script of that name before all other programs.
+    void script(const std::string& name, const std::string& text) const;
+
     /// The arguments of each call of the fake g++, each argument in square brackets.
     std::vector<std::string> compilerCalls() const;
 

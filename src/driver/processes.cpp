@@ -1,0 +1,136 @@
+#include "driver/processes.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+#include <iostream>
+
+#include "driver/paths.h"
+
+namespace {
+
+/// How long a command may take to tidy up after a Ctrl+C before it is killed.
+constexpr int kTidyMilliseconds = 1000;
+constexpr int kTidyPollMilliseconds = 5;
+
+// The group of the command that runStoppable runs: read by the handler of a signal.
+constexpr pid_t kNoGroup = 0;
+constexpr pid_t kGroupIsStarting = -1;
+std::atomic<pid_t> g_group{kNoGroup};
+std::atomic<bool> g_ending{false};
+static_assert(std::atomic<pid_t>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
+
+sigset_t interrupts() {
+    sigset_t set;
+    sigemptyset(&set);
+    sigaddset(&set, SIGINT);
+    sigaddset(&set, SIGQUIT);
+    return set;
+}
+
+/// The terminal as it stands, or a process group of its own, which may not read from it.
+enum class Place { kTerminal, kOwnGroup };
+
+/// A shell that runs `command`; -1 if there can't be one.
+pid_t startShell(const std::string& command, Place place, const sigset_t& mask) {
+    posix_spawn_file_actions_t files;
+    posix_spawn_file_actions_init(&files);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    short flags = POSIX_SPAWN_SETSIGMASK;
+    posix_spawnattr_setsigmask(&attributes, &mask);
+    if (place == Place::kOwnGroup) {
+        flags |= POSIX_SPAWN_SETPGROUP;
+        posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    }
+    posix_spawnattr_setflags(&attributes, flags);
+
+    std::string words[] = {"sh", "-c", command};
+    char* const arguments[] = {words[0].data(), words[1].data(), words[2].data(), nullptr};
+    pid_t child = -1;
+    if (posix_spawn(&child, "/bin/sh", &files, &attributes, arguments, environ) != 0) child = -1;
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&files);
+    return child;
+}
+
+/// The raw status of `child`, or -1.
+int waitFor(pid_t child) {
+    if (child < 0) return -1;
+    int status = -1;
+    while (waitpid(child, &status, 0) < 0) {
+        if (errno != EINTR) return -1;
+    }
+    return status;
+}
+
+void endGroup(pid_t group) {
+    kill(-group, SIGINT);
+    for (int waited = 0; waited < kTidyMilliseconds; waited += kTidyPollMilliseconds) {
+        waitpid(group, nullptr, WNOHANG);  // its leader would stay in it as a zombie
+        if (kill(-group, 0) != 0) return;
+        poll(nullptr, 0, kTidyPollMilliseconds);
+    }
+    kill(-group, SIGKILL);
+}
+
+}  // namespace
+
+HeldInterrupts::HeldInterrupts() : before() {
+    const sigset_t held = interrupts();
+    pthread_sigmask(SIG_BLOCK, &held, &before);
+}
+
+HeldInterrupts::~HeldInterrupts() { pthread_sigmask(SIG_SETMASK, &before, nullptr); }
+
+sigset_t HeldInterrupts::maskOfCommands() const {
+    sigset_t mask = before;
+    sigdelset(&mask, SIGINT);
+    sigdelset(&mask, SIGQUIT);
+    return mask;
+}
+
+void releaseInterrupts() {
+    const sigset_t held = interrupts();
+    pthread_sigmask(SIG_UNBLOCK, &held, nullptr);
+}
+
+int run_command(const std::string& command) {
+    std::cout.flush();
+    const HeldInterrupts held;
+    return waitFor(startShell(command, Place::kTerminal, held.maskOfCommands()));
+}
+
+int runProgram(const std::string& path) {
+    std::cout.flush();
+    const sigset_t held = interrupts();
+    pthread_sigmask(SIG_BLOCK, &held, nullptr);
+    return run_command(inQuotes(path));
+}
+
+int runStoppable(const std::string& command) {
+    std::cout.flush();
+    pid_t child = -1;
+    {
+        const HeldInterrupts held;  // or the handler would wait for what it interrupts
+        g_group = kGroupIsStarting;
+        child = startShell(command, Place::kOwnGroup, held.maskOfCommands());
+        g_group = child > 0 ? child : kNoGroup;
+    }
+    const int status = waitFor(child);
+    g_group = kNoGroup;
+    while (g_ending) pause();  // a command that was ended has nothing to say
+    return status;
+}
+
+bool startEnding() { return !g_ending.exchange(true); }
+
+void endCommands() {
+    while (g_group == kGroupIsStarting) poll(nullptr, 0, 1);
+    if (g_group != kNoGroup) endGroup(g_group);
+}
