@@ -6,8 +6,10 @@
 #include <fstream>
 #include <iostream>
 #include <locale>
+#include <optional>
 #include <stdexcept>
 
+#include "driver/cache.h"
 #include "driver/command_line.h"
 #include "driver/console_texts.h"
 #include "driver/native_build.h"
@@ -64,8 +66,9 @@ int main(int argc, char** argv) {
                   << "🎨 பயனர் இடைமுகம் மற்றும் அசைவூட்டங்கள் செதுக்கப்படுகிறது... " << std::flush;
     }
 
-    const std::string cacheDirectory = prepareCacheDirectory();
-    const NativeBuild build{appDirectory, cacheDirectory + "/generated.cpp", cacheDirectory};
+    const std::optional<std::string> cacheDirectory = prepareCacheDirectory();
+    if (!cacheDirectory) return 1;
+    const NativeBuild build{appDirectory, *cacheDirectory + "/generated.cpp", *cacheDirectory};
     std::string code;
     const auto generate = [&] {
         Generator generator(program, parser.functionParameters, parser.structDefinitions,
@@ -86,7 +89,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     if (run.webMode) {  // the text goes to a file of its own: this one stays empty. Meant.
-        takeWebRoad(program, code, run.sourcePath, {appDirectory, cacheDirectory});
+        takeWebRoad(program, code, run.sourcePath, {appDirectory, *cacheDirectory});
     }
 
     generated << code;

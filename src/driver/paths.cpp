@@ -2,10 +2,7 @@
 
 #include <unistd.h>
 
-#include <filesystem>
 #include <string_view>
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -47,13 +44,6 @@ std::string getAppDirectory() {
 std::string getSafeMinGWPath(const std::string& path) { return path; }
 
 void injectEmscriptenEnvironment(const std::string&) {}
-
-std::string prepareCacheDirectory() {
-    std::string directory =
-        getSafeMinGWPath((fs::temp_directory_path() / "Pozhil_Cache").u8string());
-    fs::create_directories(fs::u8path(directory));
-    return directory;
-}
 
 std::string inQuotes(const std::string& text) {
     std::string quoted = "\"";

@@ -14,10 +14,6 @@ std::string getSafeMinGWPath(const std::string& path);
 /// Does nothing on Linux. A seam for platforms that must be told where em++ lives.
 void injectEmscriptenEnvironment(const std::string& appDirectory);
 
-/// The compiler's cache in the system's temporary directory. Made if it isn't there; throws
-/// std::filesystem::filesystem_error if it can't be.
-std::string prepareCacheDirectory();
-
 /// `text` in double quotes, as one word of a command, whatever it holds.
 std::string inQuotes(const std::string& text);
 

@@ -1,0 +1,53 @@
+#include "driver/cache.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <iostream>
+
+#include "driver/paths.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool isMine(const struct stat& entry) { return entry.st_uid == geteuid(); }
+bool othersWrite(const struct stat& entry) { return (entry.st_mode & S_IWOTH) != 0; }
+
+/// True if nobody else can take away or replace what is ours in the temporary directory.
+bool keepsWhatIsOurs(const fs::path& temporary) {
+    struct stat entry = {};
+    if (stat(temporary.c_str(), &entry) != 0) return true;  // there is nothing to be run
+    const bool sticky = (entry.st_mode & S_ISVTX) != 0;
+    return (entry.st_uid == 0 || isMine(entry)) && (sticky || !othersWrite(entry));
+}
+
+/// True if only we write into the cache. A link is nobody's promise of anything.
+bool isOurs(const fs::path& cache) {
+    struct stat entry = {};
+    return lstat(cache.c_str(), &entry) == 0 && S_ISDIR(entry.st_mode) && isMine(entry) &&
+           !othersWrite(entry);
+}
+
+std::nullopt_t refuse(const fs::path& directory) {
+    std::cerr << "பிழை: '" << directory.u8string()
+              << "' என்ற தற்காலிகக் கோப்புறை பிறருடையது, அல்லது பிறரும் மாற்றக்கூடியது. அதிலிருந்து எதையும் "
+                 "இயக்குவது பாதுகாப்பல்ல. உமக்கே உரிய கோப்புறை ஒன்றை TMPDIR-ல் குறிப்பிடவும்."
+              << std::endl;
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> prepareCacheDirectory() {
+    const fs::path temporary = fs::temp_directory_path();
+    if (!keepsWhatIsOurs(temporary)) return refuse(temporary);
+    const fs::path cache = fs::u8path(getSafeMinGWPath((temporary / "Pozhil_Cache").u8string()));
+    if (fs::is_symlink(cache)) return refuse(cache);
+    if (fs::create_directories(cache)) {
+        fs::permissions(cache, fs::perms::others_write, fs::perm_options::remove);
+    }
+    if (!isOurs(cache)) return refuse(cache);
+    return cache.u8string();
+}
