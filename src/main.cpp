@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <locale>
 #include <optional>
@@ -81,22 +80,13 @@ int main(int argc, char** argv) {
         fs::create_directory(fs::u8path("வெளியீடு"));
     }
 
-    std::ofstream generated(fs::u8path(build.generatedPath));
-    if (!generated.is_open()) {
-        // Two languages in one line. Meant.
-        std::cerr << "Error: " << build.generatedPath << " என்ற கோப்பை உருவாக்க முடியவில்லை!"
-                  << std::endl;
-        return 1;
-    }
-    if (run.webMode) {  // the text goes to a file of its own: this one stays empty. Meant.
-        takeWebRoad(program, code, run.sourcePath, {appDirectory, *cacheDirectory});
-    }
+    // The web road's text goes to a file of its own: this one stays empty. Meant.
+    if (!storeGeneratedText(build, run.webMode ? "" : code)) return 1;
+    if (run.webMode) takeWebRoad(program, code, run.sourcePath, {appDirectory, *cacheDirectory});
 
-    generated << code;
-    generated.close();
     printCompileBanner();
     animateCompilation(run.sourcePath);
     if (run.watchMode) watchConsoleProgram(run.sourcePath, build);
-    buildNativeProgram(build);
+    buildNativeProgram(build, code);
     return 0;  // whatever g++ said and the program returned, or Ctrl+C ended. Meant.
 }

@@ -1,16 +1,27 @@
 #include "driver/cache.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <thread>
 
 #include "driver/paths.h"
 
 namespace fs = std::filesystem;
 
 namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr auto kTurnPoll = std::chrono::milliseconds(20);
+constexpr auto kSilentWait = std::chrono::seconds(1);
 
 bool isMine(const struct stat& entry) { return entry.st_uid == geteuid(); }
 bool othersWrite(const struct stat& entry) { return (entry.st_mode & S_IWOTH) != 0; }
@@ -50,4 +61,37 @@ std::optional<std::string> prepareCacheDirectory() {
     }
     if (!isOurs(cache)) return refuse(cache);
     return cache.u8string();
+}
+
+CacheTurn::CacheTurn(const std::string& cacheDirectory, const char* lockName)
+    : file(open((cacheDirectory + "/" + lockName).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {
+    const auto silentUntil = Clock::now() + kSilentWait;
+    bool told = false;
+    while (file >= 0 && flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+        if (!told && Clock::now() > silentUntil) {
+            std::cerr
+                << "⏳ இன்னொரு நிரல் இப்போது தொகுக்கப்படுகிறது. அது முடிந்ததும் உமது நிரல் தொகுக்கப்படும்..."
+                << std::endl;
+            told = true;
+        }
+        std::this_thread::sleep_for(kTurnPoll);
+    }
+}
+
+CacheTurn::~CacheTurn() { end(); }
+
+void CacheTurn::end() {
+    if (file >= 0) close(file);
+    file = -1;
+}
+
+bool writeWhole(const std::string& path, const std::string& text) {
+    std::ofstream stream(fs::u8path(path));
+    if (!stream.is_open()) {
+        // Two languages in one line. Meant.
+        std::cerr << "Error: " << path << " என்ற கோப்பை உருவாக்க முடியவில்லை!" << std::endl;
+        return false;
+    }
+    stream << text;
+    return true;
 }

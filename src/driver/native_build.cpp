@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include "driver/cache.h"
 #include "driver/console_texts.h"
 #include "driver/paths.h"
 #include "driver/processes.h"
@@ -10,6 +11,8 @@
 namespace fs = std::filesystem;
 
 namespace {
+
+constexpr const char* kLockName = "தொகுப்பு_பூட்டு";
 
 /// The diagnostics object that every program links. Never rebuilt while it exists, whatever the
 /// age of its source; its status isn't looked at, since the link fails without it.
@@ -22,14 +25,10 @@ void buildReportObject(const std::string& appDirectory, const std::string& objec
                 inQuotes(object) + " -std=c++17 -I" + inQuotes(includeDirectory));
 }
 
-}  // namespace
-
-bool buildNativeProgram(const NativeBuild& build) {
+bool compileProgram(const NativeBuild& build, const std::string& freshExecutable) {
     const std::string includeDirectory = getSafeMinGWPath(build.appDirectory + "/உள்ளடக்கம்");
     const std::string objectDirectory = getSafeMinGWPath(build.appDirectory + "/திரட்டு");
     const std::string source = getSafeMinGWPath(build.generatedPath);
-    const std::string executable = build.cacheDirectory + "/பொழில்_செயலி";
-    const std::string freshExecutable = build.cacheDirectory + "/pozhil_temp_app";
     const std::string object = objectDirectory + "/error_handler_native_linux.o";
 
     buildReportObject(build.appDirectory, object, includeDirectory);
@@ -39,7 +38,23 @@ bool buildNativeProgram(const NativeBuild& build) {
                     inQuotes(freshExecutable) + " -std=c++17 -I" + inQuotes(includeDirectory) +
                     " -I" + inQuotes(includeDirectory + "/nanovg") +
                     " -static -static-libstdc++ -static-libgcc -lm -lpthread");
-    if (status != 0) {
+    return status == 0;
+}
+
+}  // namespace
+
+bool storeGeneratedText(const NativeBuild& build, const std::string& code) {
+    const CacheTurn turn(build.cacheDirectory, kLockName);
+    return writeWhole(build.generatedPath, code);
+}
+
+bool buildNativeProgram(const NativeBuild& build, const std::string& code) {
+    const std::string executable = build.cacheDirectory + "/பொழில்_செயலி";
+    const std::string freshExecutable = build.cacheDirectory + "/pozhil_temp_app";
+
+    CacheTurn turn(build.cacheDirectory, kLockName);
+    if (!writeWhole(build.generatedPath, code)) return false;
+    if (!compileProgram(build, freshExecutable)) {
         std::cerr << kRed << "பிழை: தொகுப்பதில் சிக்கல்! உன்னோட கோடை ஒருவாட்டி பாரு மச்சி." << kReset
                   << std::endl;
         return false;
@@ -49,6 +64,6 @@ bool buildNativeProgram(const NativeBuild& build) {
     std::error_code ignored;
     fs::remove(fs::u8path(executable), ignored);
     fs::rename(fs::u8path(freshExecutable), fs::u8path(executable), ignored);
-    runProgram(executable);
+    runProgram(executable, [&] { turn.end(); });
     return true;
 }

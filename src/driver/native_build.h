@@ -9,8 +9,11 @@ struct NativeBuild {
     std::string cacheDirectory;
 };
 
-/// Builds the program with g++ and runs it to its end in the same terminal; its status is
-/// dropped. A failed build leaves the last good executable in place and returns false. A Ctrl+C
-/// while g++ runs ends this process too; one while the program runs is left waiting, for
-/// releaseInterrupts.
-bool buildNativeProgram(const NativeBuild& build);
+/// Makes `code` the generated text. False, behind a line on standard error, if it can't be.
+bool storeGeneratedText(const NativeBuild& build, const std::string& code);
+
+/// Builds the program of the text `code`, which it stores again, with g++ and runs it to its end in
+/// the same terminal; its status is dropped. A failed build leaves the last good executable in
+/// place and returns false. A Ctrl+C while g++ runs ends this process too; one while the program
+/// runs is left waiting, for releaseInterrupts.
+bool buildNativeProgram(const NativeBuild& build, const std::string& code);

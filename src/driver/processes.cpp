@@ -3,16 +3,24 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
+#include <sys/inotify.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <iostream>
 
 #include "driver/paths.h"
 
 namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// How long a file that is started is waited for, where nothing tells that it was opened.
+constexpr auto kStartPatience = std::chrono::seconds(2);
+constexpr int kStartPollMilliseconds = 10;
 
 /// How long a command may take to tidy up after a Ctrl+C before it is killed.
 constexpr int kTidyMilliseconds = 1000;
@@ -69,6 +77,37 @@ int waitFor(pid_t child) {
     return status;
 }
 
+bool hasEnded(pid_t child) {
+    siginfo_t info = {};
+    return waitid(P_PID, static_cast<id_t>(child), &info, WEXITED | WNOHANG | WNOWAIT) != 0 ||
+           info.si_pid != 0;
+}
+
+/// Tells when a file is opened, which the kernel does when it is run.
+class OpeningWatch {
+public:
+    explicit OpeningWatch(const std::string& path) : notes(inotify_init1(IN_CLOEXEC)) {
+        if (notes >= 0) inotify_add_watch(notes, path.c_str(), IN_OPEN);
+    }
+    ~OpeningWatch() {
+        if (notes >= 0) close(notes);
+    }
+    OpeningWatch(const OpeningWatch&) = delete;
+    OpeningWatch& operator=(const OpeningWatch&) = delete;
+
+    /// Returns when the file was opened, when `child` has ended, or when patience has.
+    void wait(pid_t child) const {
+        const auto deadline = Clock::now() + kStartPatience;
+        pollfd note = {notes, POLLIN, 0};
+        while (Clock::now() < deadline && !hasEnded(child)) {
+            if (poll(&note, 1, kStartPollMilliseconds) > 0) return;
+        }
+    }
+
+private:
+    int notes;
+};
+
 void endGroup(pid_t group) {
     kill(-group, SIGINT);
     for (int waited = 0; waited < kTidyMilliseconds; waited += kTidyPollMilliseconds) {
@@ -106,11 +145,18 @@ int run_command(const std::string& command) {
     return waitFor(startShell(command, Place::kTerminal, held.maskOfCommands()));
 }
 
-int runProgram(const std::string& path) {
+int runProgram(const std::string& path, const std::function<void()>& started) {
     std::cout.flush();
     const sigset_t held = interrupts();
     pthread_sigmask(SIG_BLOCK, &held, nullptr);
-    return run_command(inQuotes(path));
+    pid_t child = -1;
+    {
+        const OpeningWatch opening(path);
+        child = startShell(inQuotes(path), Place::kTerminal, HeldInterrupts().maskOfCommands());
+        if (child > 0) opening.wait(child);
+    }
+    started();
+    return waitFor(child);
 }
 
 int runStoppable(const std::string& command) {

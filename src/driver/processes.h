@@ -3,6 +3,7 @@
 
 #include <signal.h>
 
+#include <functional>
 #include <string>
 
 /// While it lives, Ctrl+C and Ctrl+\ wait, for the thread that made it.
@@ -29,8 +30,9 @@ void releaseInterrupts();
 int run_command(const std::string& command);
 
 /// Runs the file `path` as run_command does; afterwards a Ctrl+C that came meanwhile still waits,
-/// as a HeldInterrupts that nobody ends.
-int runProgram(const std::string& path);
+/// as a HeldInterrupts that nobody ends. Calls `started` as soon as the file may be replaced
+/// without becoming another program.
+int runProgram(const std::string& path, const std::function<void()>& started);
 
 /// As run_command, but Ctrl+C reaches this process at once and the command not at all: it and all
 /// that it starts are a process group of their own, for endCommands to end.

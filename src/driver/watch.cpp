@@ -3,7 +3,6 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <optional>
 #include <thread>
@@ -141,8 +140,7 @@ void watchConsoleProgram(const std::string& sourcePath, const NativeBuild& build
         Program program;
         std::string code;
         if (!translate(sourcePath, text, kConsoleTexts, program, code)) return;
-        std::ofstream(fs::u8path(build.generatedPath)) << code;
-        buildNativeProgram(build);
+        buildNativeProgram(build, code);
         releaseInterrupts();  // a Ctrl+C during the run ends the watch too
     });
 }

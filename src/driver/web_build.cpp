@@ -1,9 +1,9 @@
 #include "driver/web_build.h"
 
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 
+#include "driver/cache.h"
 #include "driver/console_texts.h"
 #include "driver/media.h"
 #include "driver/page.h"
@@ -18,6 +18,8 @@ namespace {
 constexpr const char* kFixedFlags =
     " -std=c++17 -finput-charset=UTF-8 --bind -s USE_GLFW=3 -s FULL_ES2=1 -s WASM=1"
     " -s ALLOW_MEMORY_GROWTH=1 -s EXPORTED_RUNTIME_METHODS=\"['ccall','cwrap']\" ";
+
+constexpr const char* kLockName = "வலை_பூட்டு";
 
 constexpr const char* kOutputFiles[] = {
     "வெளியீடு/index.html",
@@ -66,7 +68,8 @@ std::string webCommand(const std::string& source, const std::string& includeDire
 
 bool buildWebApplication(const Program& program, const std::string& code, const WebBuild& build) {
     const std::string source = build.cacheDirectory + "/வலை_வெளியீடு.cpp";
-    std::ofstream(fs::u8path(source)) << code;
+    const CacheTurn turn(build.cacheDirectory, kLockName);
+    if (!writeWhole(source, code)) return false;
 
     std::string page;
     if (!readTemplate(build.appDirectory, page)) return false;

@@ -1,8 +1,11 @@
 // The web road by the command line: texts, server, watch loop and end.
 #include "web/road.h"
 
+#include <fcntl.h>
 #include <signal.h>
+#include <sys/file.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include "driver/web_road.h"
 
@@ -207,6 +210,17 @@ TEST_F(WebRoad, SaveDuringARebuildIsBuiltNext) {
     ASSERT_TRUE(live.waitForOut(kFirstPart + kSuccess + kChanged + kRenewed + kChanged + kRenewed))
         << live.out();
     EXPECT_NE(readFileText(cache / "வலை_வெளியீடு.cpp").find("33LL"), std::string::npos);
+}
+
+TEST_F(WebRoad, BuildsTakeTurns) {
+    fs::create_directories(cache);
+    const int turn = open((cache / "வலை_பூட்டு").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    ASSERT_EQ(flock(turn, LOCK_EX | LOCK_NB), 0);
+    LiveProcess live = start();
+    ASSERT_TRUE(live.waitForErr("⏳ ")) << live.err();
+    EXPECT_FALSE(fs::exists(cache / "வலை_வெளியீடு.cpp")) << "the text is another's to change";
+    close(turn);
+    EXPECT_TRUE(live.waitForOut(kFirstPart + kSuccess)) << live.out();
 }
 
 TEST_F(WebRoad, MissingTemplateFailsTheBuild) {
