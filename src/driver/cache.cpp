@@ -2,11 +2,13 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -22,6 +24,9 @@ using Clock = std::chrono::steady_clock;
 
 constexpr auto kTurnPoll = std::chrono::milliseconds(20);
 constexpr auto kSilentWait = std::chrono::seconds(1);
+
+/// More than g++ leaves on the disk at its largest for a program of usual size.
+constexpr off_t kRoomOfABuild = off_t{16} * 1024 * 1024;
 
 bool isMine(const struct stat& entry) { return entry.st_uid == geteuid(); }
 bool othersWrite(const struct stat& entry) { return (entry.st_mode & S_IWOTH) != 0; }
@@ -47,6 +52,18 @@ std::nullopt_t refuse(const fs::path& directory) {
                  "இயக்குவது பாதுகாப்பல்ல. உமக்கே உரிய கோப்புறை ஒன்றை TMPDIR-ல் குறிப்பிடவும்."
               << std::endl;
     return std::nullopt;
+}
+
+bool hasRoom(const std::string& directory) {
+    rlimit limit = {};
+    if (getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur < kRoomOfABuild) return false;
+    std::string name = directory + "/XXXXXX";
+    const int file = mkostemp(name.data(), O_CLOEXEC);
+    if (file < 0) return errno != ENOSPC && errno != EDQUOT;
+    unlink(name.c_str());
+    const int problem = posix_fallocate(file, 0, kRoomOfABuild);
+    close(file);
+    return problem != ENOSPC && problem != EDQUOT && problem != EFBIG;
 }
 
 }  // namespace
@@ -93,5 +110,20 @@ bool writeWhole(const std::string& path, const std::string& text) {
         return false;
     }
     stream << text;
-    return true;
+    stream.close();
+    if (stream) return true;
+    std::cerr << "பிழை: '" << path
+              << "' என்ற கோப்பை முழுமையாக எழுத முடியவில்லை. வட்டில் இடம் உள்ளதா எனச் சரிபார்க்கவும்."
+              << std::endl;
+    return false;
+}
+
+void tellOfFullDisk(const std::vector<std::string>& directories) {
+    for (const std::string& directory : directories) {
+        if (hasRoom(directory)) continue;
+        std::cerr << "பிழை: '" << directory
+                  << "' கோப்புறை உள்ள வட்டில் இடம் போதவில்லை. தேவையற்ற கோப்புகளை நீக்கிவிட்டு மீண்டும் முயலவும்."
+                  << std::endl;
+        return;
+    }
 }

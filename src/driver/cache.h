@@ -1,8 +1,10 @@
-// The compiler's cache: its directory, the lock on what lies in it, and writing into it.
+// The compiler's cache: its directory, the lock on what lies in it, and writing that notices a full
+// disk.
 #pragma once
 
 #include <optional>
 #include <string>
+#include <vector>
 
 /// The compiler's cache in the system's temporary directory, made if it isn't there. What lies in
 /// it is run: so nothing, behind a line on standard error, if others could put something there.
@@ -28,5 +30,9 @@ private:
 };
 
 /// Makes `text` the whole of the file `path`. False, behind a line on standard error, if the file
-/// can't be made.
+/// can't be made or doesn't take all of it.
 bool writeWhole(const std::string& path, const std::string& text);
+
+/// Behind a build that failed: tells on standard error of the first of `directories` that hasn't
+/// the room that a build takes. A full disk isn't the program's fault.
+void tellOfFullDisk(const std::vector<std::string>& directories);

@@ -38,6 +38,7 @@ bool compileProgram(const NativeBuild& build, const std::string& freshExecutable
                     inQuotes(freshExecutable) + " -std=c++17 -I" + inQuotes(includeDirectory) +
                     " -I" + inQuotes(includeDirectory + "/nanovg") +
                     " -static -static-libstdc++ -static-libgcc -lm -lpthread");
+    if (status != 0) tellOfFullDisk({build.cacheDirectory, objectDirectory});
     return status == 0;
 }
 

@@ -45,7 +45,8 @@ void removeOldOutput() {
     for (const char* file : kOutputFiles) fs::remove(fs::u8path(file));
 }
 
-bool reportFailedBuild() {
+bool reportFailedBuild(const WebBuild& build) {
+    tellOfFullDisk({build.cacheDirectory, "வெளியீடு"});
     std::cout << "\n"
               << kRed << "🚨 (பொழில்-404): நிரலைத் தொகுப்பதில் (Compilation) சிக்கல்!" << kReset << "\n";
     std::cout << kYellow << "💡 குறிப்பு: உமது பொழிலின் கட்டமைப்பை (Syntax) ஒருமுறை சரிபார்க்கவும்."
@@ -82,7 +83,7 @@ bool buildWebApplication(const Program& program, const std::string& code, const 
         runStoppable(webCommand(source, getSafeMinGWPath(build.appDirectory + "/உள்ளடக்கம்"),
                                 getSafeMinGWPath(build.appDirectory + "/திரட்டு"), preload,
                                 fs::current_path().u8string() + "/வெளியீடு/index.js"));
-    if (status != 0) return reportFailedBuild();
+    if (status != 0) return reportFailedBuild(build);
     g_appVersion.exchange(version);
     return true;
 }

@@ -60,6 +60,8 @@ TEST_F(NativeBuild, FailedBuildLeavesTheLastExecutable) {
     EXPECT_EQ(readFileText(cache / "பொழில்_செயலி"), "கடைசியாக நன்றாக இருந்தது");
     EXPECT_EQ(compilerCalls(), (std::vector<std::string>{objectCall(), programCall()}))
         << "the object's status is not looked at";
+    EXPECT_EQ(std::distance(fs::directory_iterator(cache), fs::directory_iterator()), 3)
+        << "the text, the executable and the lock";
     EXPECT_FALSE(fs::exists(object));
 }
 

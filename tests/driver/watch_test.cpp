@@ -150,6 +150,22 @@ TEST_F(Watch, SaveDuringARebuildIsBuiltNext) {
     EXPECT_NE(readFileText(cache / "generated.cpp").find("33LL"), std::string::npos);
 }
 
+TEST_F(Watch, TextThatDoesNotFitIsNotCompiledAndTheNextIs) {
+    LiveProcess live = watch();
+    ASSERT_TRUE(live.waitForOut(opening)) << live.out() << live.err();
+    fs::remove(cache / "generated.cpp");
+    fs::create_symlink("/dev/full", cache / "generated.cpp");
+    save("அச்சிடு(22)\n", std::chrono::hours(1));
+    ASSERT_TRUE(live.waitForErr("பிழை: '" + cache.u8string() +
+                                "/generated.cpp' என்ற கோப்பை முழுமையாக எழுத முடியவில்லை."))
+        << live.err();
+    EXPECT_TRUE(compilerCalls().empty());
+    fs::remove(cache / "generated.cpp");
+    save("அச்சிடு(33)\n", std::chrono::hours(1));
+    EXPECT_TRUE(live.waitForOut(opening + kChanged + kChanged + "ஓடியது\n")) << live.out();
+    EXPECT_EQ(compilerCalls().size(), 1U);
+}
+
 TEST_F(Watch, VanishedSourceEndsItAbnormally) {
     LiveProcess live = watch();
     ASSERT_TRUE(live.waitForOut(opening)) << live.out() << live.err();

@@ -212,6 +212,29 @@ TEST_F(WebRoad, SaveDuringARebuildIsBuiltNext) {
     EXPECT_NE(readFileText(cache / "வலை_வெளியீடு.cpp").find("33LL"), std::string::npos);
 }
 
+TEST_F(WebRoad, TextThatDoesNotFitIsNotCompiled) {
+    fs::create_directories(cache);
+    fs::create_symlink("/dev/full", cache / "வலை_வெளியீடு.cpp");
+    LiveProcess live = start();
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kFailure)) << live.out() << live.err();
+    EXPECT_EQ(live.err(), "பிழை: '" + cache.u8string() +
+                              "/வலை_வெளியீடு.cpp' என்ற கோப்பை முழுமையாக எழுத முடியவில்லை. வட்டில் இடம் "
+                              "உள்ளதா எனச் சரிபார்க்கவும்.\n");
+    EXPECT_FALSE(fs::exists(fs::u8path((work / "வெளியீடு/index.js").u8string())));
+}
+
+TEST_F(WebRoad, FullDiskIsNamedBeforeTheBuildIsBlamed) {
+    compilerFails();
+    const LiveProcess live(
+        {"/bin/bash", "-c",
+         "trap '' XFSZ; ulimit -f 4000; exec '" + compiler.u8string() + "' --வலை a.பொழில்"},
+        work, environment(), root);
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kBuildFailure + kFailure)) << live.out();
+    EXPECT_EQ(live.err(), "பிழை: '" + cache.u8string() +
+                              "' கோப்புறை உள்ள வட்டில் இடம் போதவில்லை. தேவையற்ற கோப்புகளை நீக்கிவிட்டு "
+                              "மீண்டும் முயலவும்.\n");
+}
+
 TEST_F(WebRoad, BuildsTakeTurns) {
     fs::create_directories(cache);
     const int turn = open((cache / "வலை_பூட்டு").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
