@@ -98,3 +98,8 @@ void animateCompilation(std::string filename) {
     }
     std::cout << kReset << std::endl;
 }
+
+void tellOfMissingTool(const std::string& program, const std::string& package) {
+    std::cerr << "பிழை: நிரலைத் தொகுக்கத் தேவையான " << program
+              << " இந்தக் கணினியில் கிடைக்கவில்லை! நிறுவ: sudo apt install " << package << std::endl;
+}

@@ -36,3 +36,6 @@ void printCompileBanner();
 /// Prints the title of a build letter by letter. It goes by bytes, 20 milliseconds each: the
 /// pause is part of the tool's manner.
 void animateCompilation(std::string filename);
+
+/// Tells on standard error that there is no `program`, and which package brings it.
+void tellOfMissingTool(const std::string& program, const std::string& package);

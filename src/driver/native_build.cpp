@@ -26,6 +26,10 @@ void buildReportObject(const std::string& appDirectory, const std::string& objec
 }
 
 bool compileProgram(const NativeBuild& build, const std::string& freshExecutable) {
+    if (!isInstalled("g++")) {
+        tellOfMissingTool("g++", "g++");
+        return false;
+    }
     const std::string includeDirectory = getSafeMinGWPath(build.appDirectory + "/உள்ளடக்கம்");
     const std::string objectDirectory = getSafeMinGWPath(build.appDirectory + "/திரட்டு");
     const std::string source = getSafeMinGWPath(build.generatedPath);

@@ -10,9 +10,14 @@
 #include <atomic>
 #include <cerrno>
 #include <chrono>
+#include <cstdlib>
+#include <filesystem>
 #include <iostream>
+#include <sstream>
 
 #include "driver/paths.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -25,6 +30,9 @@ constexpr int kStartPollMilliseconds = 10;
 /// How long a command may take to tidy up after a Ctrl+C before it is killed.
 constexpr int kTidyMilliseconds = 1000;
 constexpr int kTidyPollMilliseconds = 5;
+
+constexpr const char* kDefaultSearchPath =
+    "/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin";
 
 // The group of the command that runStoppable runs: read by the handler of a signal.
 constexpr pid_t kNoGroup = 0;
@@ -179,4 +187,15 @@ bool startEnding() { return !g_ending.exchange(true); }
 void endCommands() {
     while (g_group == kGroupIsStarting) poll(nullptr, 0, 1);
     if (g_group != kNoGroup) endGroup(g_group);
+}
+
+bool isInstalled(const std::string& program) {
+    const char* path = std::getenv("PATH");
+    std::istringstream directories(path != nullptr ? path : kDefaultSearchPath);
+    for (std::string directory; std::getline(directories, directory, ':');) {
+        const fs::path file = fs::u8path(directory) / program;  // an empty one is where we stand
+        std::error_code ignored;
+        if (fs::is_regular_file(file, ignored) && access(file.c_str(), X_OK) == 0) return true;
+    }
+    return false;
 }

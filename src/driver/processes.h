@@ -44,3 +44,6 @@ bool startEnding();
 
 /// Ends what runStoppable runs, with all that it started: gently, and after a second by force.
 void endCommands();
+
+/// True if the shell would find `program` by PATH.
+bool isInstalled(const std::string& program);

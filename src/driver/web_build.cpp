@@ -46,7 +46,11 @@ void removeOldOutput() {
 }
 
 bool reportFailedBuild(const WebBuild& build) {
-    tellOfFullDisk({build.cacheDirectory, "வெளியீடு"});
+    if (isInstalled("em++")) {
+        tellOfFullDisk({build.cacheDirectory, "வெளியீடு"});
+    } else {
+        tellOfMissingTool("em++", "emscripten");
+    }
     std::cout << "\n"
               << kRed << "🚨 (பொழில்-404): நிரலைத் தொகுப்பதில் (Compilation) சிக்கல்!" << kReset << "\n";
     std::cout << kYellow << "💡 குறிப்பு: உமது பொழிலின் கட்டமைப்பை (Syntax) ஒருமுறை சரிபார்க்கவும்."

@@ -143,4 +143,16 @@ TEST_F(Cache, FullDiskIsFoundByTryingIt) {
         << "and nothing of the trial is left";
 }
 
+TEST_F(Cache, MissingCompilerIsNamedBeforeTheBuildIsBlamed) {
+    fs::remove(object);
+    const std::string path = "PATH=" + (root / "empty").u8string();
+    const ProcessResult run = compile({"a.பொழில்"}, {"", {path}, "", 60});
+    EXPECT_EQ(run.err,
+              "பிழை: நிரலைத் தொகுக்கத் தேவையான g++ இந்தக் கணினியில் கிடைக்கவில்லை! "
+              "நிறுவ: sudo apt install g++\n" +
+                  kRedLine);
+    EXPECT_EQ(run.out, kBanner + titleOf("a.பொழில்"));
+    EXPECT_EQ(run.exitCode, 0);
+}
+
 }  // namespace

@@ -235,6 +235,17 @@ TEST_F(WebRoad, FullDiskIsNamedBeforeTheBuildIsBlamed) {
                               "மீண்டும் முயலவும்.\n");
 }
 
+TEST_F(WebRoad, MissingCompilerIsNamedBeforeTheBuildIsBlamed) {
+    fs::remove(root / "bin" / "em++");
+    std::vector<std::string> settings = environment();
+    settings.push_back("PATH=" + (root / "bin").u8string());
+    const LiveProcess live({compiler.u8string(), "--வலை", "a.பொழில்"}, work, settings, root);
+    ASSERT_TRUE(live.waitForOut(kFirstPart + kBuildFailure + kFailure)) << live.out();
+    EXPECT_EQ(live.err(),
+              "பிழை: நிரலைத் தொகுக்கத் தேவையான em++ இந்தக் கணினியில் கிடைக்கவில்லை! "
+              "நிறுவ: sudo apt install emscripten\n");
+}
+
 TEST_F(WebRoad, BuildsTakeTurns) {
     fs::create_directories(cache);
     const int turn = open((cache / "வலை_பூட்டு").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
