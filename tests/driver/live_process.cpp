@@ -38,6 +38,8 @@ LiveProcess::LiveProcess(const std::vector<std::string>& command,
     for (const std::string& word : command) arguments.push_back(const_cast<char*>(word.c_str()));
     arguments.push_back(nullptr);
 
+    // The child may be ended before it has come to empty what another process has left there.
+    for (const char* channel : {"out", "err"}) writeFileText(notes / channel, "");
     process = fork();
     if (process != 0) return;
     redirect(notes / "out", STDOUT_FILENO);
