@@ -2,6 +2,7 @@
 #include "web/odd_names.h"
 
 #include "driver/paths.h"
+#include "driver/processes.h"
 #include "driver/workplace.h"
 
 namespace fs = std::filesystem;

@@ -33,6 +33,7 @@ const char* const kName = "ஒப்புதல்";
 class CheckBoxTest : public Surroundings {
 protected:
     CheckBoxTest() {
+        browser().window["innerWidth"] = 1280;  // texts at their own size
         browser().answerWith("measureText", 50);
         global_vars[kName] = false;
         drawn(named::check_box);  // so each test begins with an empty box
