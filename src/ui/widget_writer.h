@@ -33,8 +33,8 @@ public:
     /// Writes a widget and all below it: its identity, its visibility, its own block.
     void write(const WidgetNode& widget, const std::string& x, const std::string& y);
 
-    /// A template as a brace block, with X, Y and ID of the site where it names them.
-    void fill(std::string_view text, const Site& site, Fills fills);
+    /// The template of a widget as a brace block, with X, Y and ID of the site where it names them.
+    void fill(std::string_view widget, const Site& site, Fills fills);
     /// An expression of the program where the placeholder stands.
     Fill expression(std::string_view name, const Expression* value);
 

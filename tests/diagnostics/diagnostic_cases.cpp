@@ -5,7 +5,7 @@
 
 #include "support/case_files.h"
 #include "support/deep_stack.h"
-#include "support/front_end.h"
+#include "support/generated_text.h"
 #include "support/saying.h"
 #include "support/subprocess.h"
 

@@ -6,7 +6,7 @@
 #include <sstream>
 #include <vector>
 
-#include "support/front_end.h"
+#include "support/generated_text.h"
 
 namespace {
 

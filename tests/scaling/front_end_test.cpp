@@ -1,8 +1,6 @@
 // Scanning, parsing and generating take time in proportion to the source: ten times the source
 // takes about ten times as long. Processor time is measured, and the best of several rounds counts,
 // so that a busy machine doesn't fail it.
-#include "support/front_end.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,6 +8,7 @@
 #include <string>
 
 #include "sources.h"
+#include "support/generated_text.h"
 
 namespace {
 

@@ -14,14 +14,6 @@ Parsed parse(const std::string& source, const std::string& filename) {
     return parsed;
 }
 
-std::string generate(const std::string& source, const std::string& filename) {
-    const Parsed parsed = parse(source, filename);
-    const Parser& parser = *parsed.parser;
-    return Generator(parsed.program, parser.functionParameters, parser.structDefinitions,
-                     parser.abstractStructDefinitions, source, filename)
-        .generate();
-}
-
 testing::AssertionResult refused(const std::string& source, const std::string& code, int line) {
     return refuses(code, line, [&] { parse(source); });
 }

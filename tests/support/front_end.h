@@ -1,4 +1,4 @@
-// The phases as tests call them.
+// Scanner and parser as tests call them.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "generator/generator.h"
 #include "lexer/lexer.h"
 #include "parser/parser.h"
 #include "support/refusal.h"
@@ -30,9 +29,6 @@ struct Parsed {
     Program program;
 };
 Parsed parse(const std::string& source, const std::string& filename = "test.பொழில்");
-
-/// The whole generated text of `source`.
-std::string generate(const std::string& source, const std::string& filename = "test.பொழில்");
 
 /// Passes if `action` ends in the refusal `code` at `line`.
 template <typename Action>

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "support/front_end.h"
+#include "support/generated_text.h"
 #include "support/saying.h"
 
 namespace fs = std::filesystem;

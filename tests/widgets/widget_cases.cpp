@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/case_files.h"
-#include "support/front_end.h"
+#include "support/generated_text.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "support/front_end.h"
+#include "support/generated_text.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "support/front_end.h"
+#include "support/generated_text.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/front_end.h"
+#include "support/generated_text.h"
 
 namespace {
 

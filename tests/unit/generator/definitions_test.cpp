@@ -1,7 +1,7 @@
 // Functions, structures and instances, to the blank.
 #include <gtest/gtest.h>
 
-#include "support/front_end.h"
+#include "support/generated_text.h"
 
 namespace {
 

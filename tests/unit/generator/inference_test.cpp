@@ -1,7 +1,7 @@
 // Static kinds, row by row.
 #include <gtest/gtest.h>
 
-#include "support/front_end.h"
+#include "support/generated_text.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Which page an application shows first.
 #include <gtest/gtest.h>
 
-#include "support/front_end.h"
+#include "support/generated_text.h"
 #include "ui/application_head.h"
 
 namespace {

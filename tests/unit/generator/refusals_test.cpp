@@ -5,7 +5,7 @@
 
 #include "error_codes.h"
 #include "support/deep_stack.h"
-#include "support/front_end.h"
+#include "support/generated_text.h"
 
 namespace {
 

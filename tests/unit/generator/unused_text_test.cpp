@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "support/front_end.h"
+#include "support/generated_text.h"
 
 namespace {
 

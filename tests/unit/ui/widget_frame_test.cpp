@@ -1,7 +1,7 @@
 // What stands around every widget in the generated text.
 #include <gtest/gtest.h>
 
-#include "support/front_end.h"
+#include "support/generated_text.h"
 
 namespace {
 
