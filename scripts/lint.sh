@@ -12,8 +12,9 @@ CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 database=build/tests
 configure tests
-# The embedded text is a header that the build makes.
-cmake --build "$database" --target generated/emitted_text.h >/dev/null
+# The embedded texts are headers that the build makes.
+cmake --build "$database" --target generated/emitted_text.h \
+    generated/widget_templates.h >/dev/null
 
 tool=$(command -v clang-tidy-14 || command -v clang-tidy)
 files=("$@")
