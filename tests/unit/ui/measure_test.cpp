@@ -31,6 +31,16 @@ TEST(Measure, OfATextCountsItsFirstStringByKey) {
     EXPECT_EQ(measured("உரை(\"ஒன்று\", அடையாளம்: \"அ\")").width, 1 * (0.65F * 16));
 }
 
+TEST(Measure, OfAStyleThatGivesNoSizeIsTheKindsOwn) {
+    WidgetNode text("உரை", {}, {}, சீரமைப்பு_வகை::மேல்_இடது, false);
+    text.textStyle.fontSize = 0;
+    EXPECT_EQ(calculateWidgetHeight(&text), 20);
+    EXPECT_EQ(calculateWidgetWidth(&text), 10 * (0.65F * 16));
+    text.properties["style_அளவு"] = std::make_unique<NumberLiteral>("40");
+    EXPECT_EQ(calculateWidgetWidth(&text), 10 * (0.65F * 40));
+    EXPECT_EQ(calculateWidgetHeight(&text), 20);
+}
+
 TEST(Measure, OfACheckBox) {
     EXPECT_EQ(measured("தேர்வுபெட்டி()"), (Size{24, 24}));
     EXPECT_EQ(measured("தேர்வுபெட்டி(உரை(\"ஒன்று\"))"), (Size{24 + 12 + 5 * (0.65F * 16), 24}));
@@ -38,6 +48,9 @@ TEST(Measure, OfACheckBox) {
     EXPECT_EQ(measured("தேர்வுபெட்டி(அகலம்: 50%, உயரம்: \"50%\")"), (Size{0, 24}))
         << "a percentage is the frame's; a string is none here";
     EXPECT_EQ(measured("தேர்வுபெட்டி(அகலம்: அ)"), (Size{24, 24}));
+    EXPECT_EQ(measured("தேர்வுபெட்டி(உரை(\"ஒன்று\", உரைபாணி(அளவு: 30)))"),
+              (Size{24 + 12 + 5 * (0.65F * 30), 30}))
+        << "a label taller than the box";
 }
 
 TEST(Measure, OfWhatIsNoWidgetIsNothing) {

@@ -55,6 +55,7 @@ TEST(Size, OfEachComparison) {
 TEST(Size, OfAnythingElseIsEmpty) {
     EXPECT_EQ(sizeOf("\"பெரிய\""), "");
     EXPECT_EQ(sizeOf("\"பெரிய%\""), "");
+    EXPECT_EQ(sizeOf("\"50\""), "") << "a string counts as a percentage alone";
     EXPECT_EQ(sizeOf("1.5"), "");
     EXPECT_EQ(sizeOf("மெய்"), "");
     EXPECT_EQ(processPercentage(nullptr, "B"), "");

@@ -63,7 +63,13 @@ TEST(WidgetFrame, GivesAShareItsFirstChildAtTheSamePlace) {
         alone.replace(at, 9, "checked_2");
     }
     EXPECT_EQ(written("விரிவாக்கம்(தேர்வுபெட்டி())"), alone);
+    EXPECT_EQ(written("நெகிழ்வு(பங்கு: 2, தேர்வுபெட்டி())"), alone);
     EXPECT_EQ(written("விரிவாக்கம்()"), "");
+}
+
+TEST(WidgetFrame, LeavesASpaceToItsParent) {
+    EXPECT_EQ(written("இவெ(உயரம்: 5)"), "// இவெ (Spacer) - Space reserved\n");
+    EXPECT_EQ(written("வெற்றிடம்()"), "");
 }
 
 TEST(WidgetFrame, WritesNothingForAnUnknownName) {
