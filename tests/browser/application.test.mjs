@@ -2,7 +2,7 @@
 import assert from 'node:assert/strict';
 import {after, before, test} from 'node:test';
 import {launch, openPage, photograph, pixel, until} from './support/browser.mjs';
-import {address, makeWorkplace, startCompiler, version} from './support/tool.mjs';
+import {address, makeWorkplace, startCompiler, tidyUp, version} from './support/tool.mjs';
 
 const source = (title, background) => `வலைதளம் கணக்கி(
     தலைமை(
@@ -34,12 +34,7 @@ before(async () => {
     browser = await launch();
 });
 
-after(async () => {
-    await browser?.close();
-    compiler?.stop('SIGKILL');
-    await compiler?.finished;
-    workplace?.remove();
-});
+after(() => tidyUp(browser, compiler, workplace));
 
 // The fonts under assets/font are missing here, which the program warns of on its output; the web
 // font lies outside this machine.

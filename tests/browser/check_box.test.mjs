@@ -2,7 +2,7 @@
 import assert from 'node:assert/strict';
 import {after, before, test} from 'node:test';
 import {launch, openPage, photograph, pixel, until} from './support/browser.mjs';
-import {address, makeWorkplace, startCompiler} from './support/tool.mjs';
+import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const source = `வலைதளம் படிவம்(
     தலைமை(
@@ -43,12 +43,7 @@ before(async () => {
     await page.goto(address);
 });
 
-after(async () => {
-    await browser?.close();
-    compiler?.stop('SIGKILL');
-    await compiler?.finished;
-    workplace?.remove();
-});
+after(() => tidyUp(browser, compiler, workplace));
 
 const shows = (place, colour) => until(async () =>
     (await pixel(page, place.x, place.y)).join() === colour.join(), `${colour} at ${place.x}, ${place.y}`);

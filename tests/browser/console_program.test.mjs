@@ -3,7 +3,7 @@
 import assert from 'node:assert/strict';
 import {after, before, test} from 'node:test';
 import {launch, openPage, until} from './support/browser.mjs';
-import {address, makeWorkplace, startCompiler, version} from './support/tool.mjs';
+import {address, makeWorkplace, startCompiler, tidyUp, version} from './support/tool.mjs';
 
 let workplace, compiler, browser, page;
 
@@ -17,12 +17,7 @@ before(async () => {
     browser = await launch();
 });
 
-after(async () => {
-    await browser?.close();
-    compiler?.stop('SIGKILL');
-    await compiler?.finished;
-    workplace?.remove();
-});
+after(() => tidyUp(browser, compiler, workplace));
 
 test('the first build is served', async () => {
     assert.ok(compiler.output.includes('வெற்றி!'), compiler.output);

@@ -6,7 +6,7 @@ import {dirname, join} from 'node:path';
 import {after, before, test} from 'node:test';
 import {fileURLToPath} from 'node:url';
 import {launch, openPage, photograph, pixel, until} from './support/browser.mjs';
-import {address, makeWorkplace, startCompiler} from './support/tool.mjs';
+import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const here = dirname(fileURLToPath(import.meta.url));
 
@@ -43,12 +43,7 @@ before(async () => {
     await until(seen, 'the first frame');
 });
 
-after(async () => {
-    await browser?.close();
-    compiler?.stop('SIGKILL');
-    await compiler?.finished;
-    workplace?.remove();
-});
+after(() => tidyUp(browser, compiler, workplace));
 
 const seen = () => page.evaluate(() => window.seen);
 const tell = command => page.evaluate(text => Module.set_input_value('command', text), command);

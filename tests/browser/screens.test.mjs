@@ -6,7 +6,7 @@ import {dirname, join} from 'node:path';
 import {after, before, test} from 'node:test';
 import {fileURLToPath} from 'node:url';
 import {desk, launch, openPage, photograph, pixels, until} from './support/browser.mjs';
-import {address, makeWorkplace, startCompiler} from './support/tool.mjs';
+import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const source = `வலைதளம் திரைகள்(
     தலைமை(
@@ -46,12 +46,7 @@ before(async () => {
     browser = await launch();
 });
 
-after(async () => {
-    await browser?.close();
-    compiler?.stop('SIGKILL');
-    await compiler?.finished;
-    workplace?.remove();
-});
+after(() => tidyUp(browser, compiler, workplace));
 
 async function open(options) {
     const page = await openPage(browser, options);

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "error_handler.h"
-#include "generator/generator.h"
+#include "support/generated_text.h"
 #include "support/saying.h"
 #include "support/side_by_side.h"
 #include "support/subprocess.h"
@@ -126,12 +126,6 @@ protected:
         return 0;
     }
 };
-
-int countOf(const std::string& part, const std::string& text) {
-    int count = 0;
-    for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) count++;
-    return count;
-}
 
 TEST(Report, FlushesAtTheEndOfEachRow) {
     const ProcessResult result = runForked([]() -> int {

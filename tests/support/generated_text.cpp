@@ -7,3 +7,12 @@ std::string generate(const std::string& source, const std::string& filename) {
                      parser.abstractStructDefinitions, source, filename)
         .generate();
 }
+
+int countOf(const std::string& part, const std::string& text) {
+    int count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos;
+         at = text.find(part, at + part.size())) {
+        count++;
+    }
+    return count;
+}

@@ -88,3 +88,11 @@ export function startCompiler(workplace, ...compilerArguments) {
 export async function version() {
     return (await fetch(`${address}version`)).text();
 }
+
+/** What each file of tests does at its end; whatever wasn't begun may be missing. */
+export async function tidyUp(browser, compiler, workplace) {
+    await browser?.close();
+    compiler?.stop('SIGKILL');
+    await compiler?.finished;
+    workplace?.remove();
+}

@@ -18,15 +18,6 @@ std::string walksInsideEachOther(int depth, const std::string& statement) {
     return source + indentation(depth) + statement + "\n";
 }
 
-int countOf(const std::string& part, const std::string& text) {
-    int count = 0;
-    for (std::size_t at = text.find(part); at != std::string::npos;
-         at = text.find(part, at + part.size())) {
-        count++;
-    }
-    return count;
-}
-
 TEST(Limits, ADozenWalksInsideEachOtherAreWritten) {
     const std::string text = generate(walksInsideEachOther(12, "அச்சிடு(\"உள்ளே\")"));
     EXPECT_EQ(countOf("உள்ளே", text), 1 << 12);

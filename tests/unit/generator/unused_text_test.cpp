@@ -16,15 +16,6 @@ const char* const kEveryKindOfStatement =
     "பணம் = கணக்கு()\n"
     "அச்சிடு(எண்ணிக்கை)\n";
 
-int countOf(const std::string& part, const std::string& text) {
-    int count = 0;
-    for (std::size_t at = text.find(part); at != std::string::npos;
-         at = text.find(part, at + part.size())) {
-        count++;
-    }
-    return count;
-}
-
 TEST(UnusedText, ModuleSearchIsDefinedAndNotCalled) {
     EXPECT_EQ(countOf("fn_resolve_module_path(", generate(kEveryKindOfStatement)), 1);
 }
