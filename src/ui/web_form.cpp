@@ -80,7 +80,7 @@ void WebForm::visitWebAppNode(const WebAppNode& app) {
         {"HAS_COLOUR", colour != nullptr},
         {"COLOUR", colour == nullptr ? "" : channelTexts(colourOf(*colour))},
         {"HAS_IMAGE", image != nullptr},
-        expressionFill("IMAGE", image),
+        widgets.expression("IMAGE", image),
         {"HAS_VIDEO", video != nullptr},
         {"VIDEO",
          [&] {
@@ -88,15 +88,11 @@ void WebForm::visitWebAppNode(const WebAppNode& app) {
              programText.visitExpression(video);
          }},
         {"HAS_TITLE", title != nullptr},
-        expressionFill("TITLE", title),
+        widgets.expression("TITLE", title),
         {"WIDGETS", [&] { generateUI(app.body.get()); }},
     };
     text.block("if (g_currentPage == " + asWritten(page == nullptr ? "home" : *page) + ") ",
                [&] { text.fill(widget_templates::page, fills); });
-}
-
-Fill WebForm::expressionFill(std::string_view name, const Expression* value) {
-    return {name, [this, value] { programText.visitExpression(value); }};
 }
 
 /// Raises 254 for a literal path that doesn't open; any other value is left to the run.

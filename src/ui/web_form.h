@@ -39,7 +39,6 @@ public:
 
 private:
     void checkMediaFile(const Expression* value, const std::string& detail);
-    Fill expressionFill(std::string_view name, const Expression* value);
 
     const Program& program;
     TextWriter& text;
