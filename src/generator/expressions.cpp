@@ -3,9 +3,13 @@
 // in std::any where one is needed.
 #include "generator/generator.h"
 #include "static_error.h"
+#include "ui/properties.h"
 
 void Generator::visitExpression(const Expression* expression) {
     if (visitValue(expression) || visitOperation(expression)) return;
+    if (const WidgetNode* widget = widgetOf(expression)) {
+        return generateWidgetCode(widget, "0.0f", "0.0f");
+    }
     throw_static_error("பொழில்-399", "Unknown expression type in generator");
 }
 

@@ -37,7 +37,7 @@ const Generator::Section Generator::kSections[] = {
     {"values: arithmetic", emitted::arithmetic, nullptr},
     {"module search", emitted::module_path, nullptr},
     {"values: conversion", emitted::conversion, nullptr},
-    {"animation engine", "", nullptr},
+    {"animation engine", emitted::animation, nullptr},
 
     {"library: files", emitted::files, nullptr},
     {"library: text", emitted::text, nullptr},

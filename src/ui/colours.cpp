@@ -58,11 +58,14 @@ PozhilColor colourOf(const ColorExpression& colour) {
     return parsePozhilColor(colour.isHex ? colour.hexValue : colour.colorName, colour.isHex);
 }
 
-std::optional<PozhilColor> colourProperty(const WidgetNode& widget, const std::string& key) {
-    const Expression* value = property(widget, key);
+PozhilColor colourOfText(const std::string& text) {
+    return parsePozhilColor(text, text.rfind('#', 0) == 0);
+}
+
+std::optional<PozhilColor> colourOf(const Expression* value) {
     if (const auto* colour = dynamic_cast<const ColorExpression*>(value)) return colourOf(*colour);
     if (const auto* text = dynamic_cast<const StringLiteral*>(value)) {
-        return parsePozhilColor(text->value, text->value.rfind('#', 0) == 0);
+        return colourOfText(text->value);
     }
     if (const auto* member = dynamic_cast<const GetExpression*>(value)) {
         const auto* object = dynamic_cast<const VariableAccess*>(member->object.get());
@@ -71,6 +74,10 @@ std::optional<PozhilColor> colourProperty(const WidgetNode& widget, const std::s
         }
     }
     return std::nullopt;
+}
+
+std::optional<PozhilColor> colourProperty(const WidgetNode& widget, const std::string& key) {
+    return colourOf(property(widget, key));
 }
 
 std::string channelTexts(const PozhilColor& colour) {

@@ -27,6 +27,12 @@ PozhilColor parsePozhilColor(std::string value, bool isHex);
 
 PozhilColor colourOf(const ColorExpression& colour);
 
+/// A colour by a text: hexadecimal behind `#`, else a name.
+PozhilColor colourOfText(const std::string& text);
+
+/// The colour that a value stands for in one of its literal forms, as colourProperty.
+std::optional<PozhilColor> colourOf(const Expression* value);
+
 /// A colour property in one of its literal forms: a colour, a string with `#` or a name, a member
 /// of `நிறம்`. Nothing for any other value: the widget's default stays.
 std::optional<PozhilColor> colourProperty(const WidgetNode& widget, const std::string& key);

@@ -15,9 +15,29 @@ const std::string* stringProperty(const WidgetNode& widget, const std::string& k
     return literal == nullptr ? nullptr : &literal->value;
 }
 
+const std::string* numberProperty(const WidgetNode& widget, const std::string& key) {
+    const auto* literal = dynamic_cast<const NumberLiteral*>(property(widget, key));
+    return literal == nullptr ? nullptr : &literal->value;
+}
+
+const WidgetNode* widgetOf(const Expression* value) {
+    const auto* carrier = dynamic_cast<const WidgetExpression*>(value);
+    return carrier == nullptr ? nullptr : dynamic_cast<const WidgetNode*>(carrier->widget.get());
+}
+
 bool isTrueLiteral(const WidgetNode& widget, const std::string& key) {
     const auto* literal = dynamic_cast<const BooleanLiteral*>(property(widget, key));
     return literal != nullptr && literal->value == "மெய்";
+}
+
+std::vector<const WidgetNode*> widgetChildren(const WidgetNode& widget) {
+    std::vector<const WidgetNode*> widgets;
+    for (const auto& child : widget.children) {
+        if (const auto* node = dynamic_cast<const WidgetNode*>(child.get())) {
+            widgets.push_back(node);
+        }
+    }
+    return widgets;
 }
 
 const WidgetNode* firstWidget(const WidgetNode& widget) {

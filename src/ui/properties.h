@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "syntax/expressions.h"
 #include "syntax/literals.h"
@@ -17,8 +18,17 @@ const Expression* styledProperty(const WidgetNode& widget, const std::string& ke
 /// The text of a string literal; null for anything else.
 const std::string* stringProperty(const WidgetNode& widget, const std::string& key);
 
+/// A number literal as the source writes it; null for anything else.
+const std::string* numberProperty(const WidgetNode& widget, const std::string& key);
+
+/// A widget that stands as a value; null for any other expression.
+const WidgetNode* widgetOf(const Expression* value);
+
 /// True for the truth literal `மெய்`.
 bool isTrueLiteral(const WidgetNode& widget, const std::string& key);
+
+/// The children that are widgets, in their order.
+std::vector<const WidgetNode*> widgetChildren(const WidgetNode& widget);
 
 /// The first child that is a widget; null without one.
 const WidgetNode* firstWidget(const WidgetNode& widget);

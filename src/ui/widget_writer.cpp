@@ -1,12 +1,20 @@
 #include "ui/widget_writer.h"
 
+#include <iterator>
 #include <utility>
 
 #include "ui/properties.h"
 #include "ui/sizes.h"
+#include "widget_templates.h"
 #include "writing/marks.h"
 
 namespace {
+
+// What 100 % of a size means.
+constexpr const char* kWidthBase = "(forcedW > 0.0f ? forcedW : winWidth)";
+constexpr const char* kHeightBase = "(forcedH > 0.0f ? forcedH : winHeight)";
+
+constexpr const char* kClipSides[] = {"X", "Y", "W", "H"};
 
 bool names(std::string_view text, std::string_view name) {
     for (Mark mark = findMark(text, kCodeMarks); mark.at != std::string_view::npos;
@@ -45,30 +53,72 @@ void WidgetWriter::assignSize(const char* local, const Expression* value, const 
     if (!size.empty()) text.line(std::string(local) + " = " + size + ";");
 }
 
+void WidgetWriter::writeWidth(const Site& site, Side width) {
+    text.line(std::string("float ") + width.local + " = " + width.fallback + ";");
+    assignSize(width.local, styledProperty(site.node, "அகலம்"), kWidthBase);
+}
+
+void WidgetWriter::writeHeight(const Site& site, Side height) {
+    text.line(std::string("float ") + height.local + " = " + height.fallback + ";");
+    assignSize(height.local, styledProperty(site.node, "உயரம்"), kHeightBase);
+}
+
 void WidgetWriter::writeSize(const Site& site, Side width, Side height, const char* margin) {
     const std::string w = width.local;
     const std::string h = height.local;
-    text.line("float " + w + " = " + width.fallback + ";");
-    assignSize(width.local, styledProperty(site.node, "அகலம்"),
-               "(forcedW > 0.0f ? forcedW : winWidth)");
-    text.line("float " + h + " = " + height.fallback + ";");
-    assignSize(height.local, styledProperty(site.node, "உயரம்"),
-               "(forcedH > 0.0f ? forcedH : winHeight)");
+    writeWidth(site, width);
+    writeHeight(site, height);
     text.line("if (forcedW > 0.0f) " + w + " = forcedW;");
     text.line("if (forcedH > 0.0f) " + h + " = forcedH;");
     text.line(w + " = responsiveW(" + w + ", winWidth, " + margin + ");");
 }
 
-void WidgetWriter::writeChild(const WidgetNode& child, const std::string& x, const std::string& y) {
+void WidgetWriter::writeChild(const WidgetNode& child, const std::string& x, const std::string& y,
+                              const Forced& forced) {
     text.block("", [&] {
         text.line("float oldForcedW = forcedW;");
         text.line("float oldForcedH = forcedH;");
-        text.line("forcedW = -1.0f;");
-        text.line("forcedH = -1.0f;");
+        text.line("forcedW = " + forced.width + ";");
+        text.line("forcedH = " + forced.height + ";");
         write(child, x, y);
         text.line("forcedW = oldForcedW;");
         text.line("forcedH = oldForcedH;");
     });
+}
+
+/// A widget as a handler is written as it stands; a trigger of a message is a function like any
+/// other. The handler runs while the frame is drawn, so what it changes shows below it at once.
+void WidgetWriter::writeHandler(const Site& site, const char* key) {
+    const Expression* handler = property(site.node, key);
+    if (handler == nullptr) {
+        for (const auto& statement : site.node.onTapStatements) {
+            programText.visitStatement(statement.get());
+        }
+        return;
+    }
+    const WidgetNode* widget = widgetOf(handler);
+    if (widget != nullptr && dynamic_cast<const SnackBarNode*>(widget) == nullptr) {
+        programText.visitExpression(handler);
+        return;
+    }
+    fill(widget_templates::handler, site, {expression("CALLBACK", handler)});
+}
+
+void WidgetWriter::openClip(const std::string& x, const std::string& y, const std::string& w,
+                            const std::string& h) {
+    for (const char* side : kClipSides) {
+        text.line(std::string("float oldClip") + side + " = g_currentClip" + side + ";");
+    }
+    const std::string* const values[] = {&x, &y, &w, &h};
+    for (std::size_t i = 0; i < std::size(kClipSides); i++) {
+        text.line(std::string("g_currentClip") + kClipSides[i] + " = " + *values[i] + ";");
+    }
+}
+
+void WidgetWriter::closeClip() {
+    for (const char* side : kClipSides) {
+        text.line(std::string("g_currentClip") + side + " = oldClip" + side + ";");
+    }
 }
 
 void WidgetWriter::writeChannels(const Site& site, const std::string& prefix, Rgb fallback,

@@ -25,6 +25,12 @@ struct Side {
     const char* fallback;
 };
 
+/// The size that a parent forces on a child, as C++ texts: by default none.
+struct Forced {
+    std::string width = "-1.0f";
+    std::string height = "-1.0f";
+};
+
 class WidgetWriter {
 public:
     /// Keeps a reference to `text`, which must outlive it.
@@ -41,8 +47,19 @@ public:
     /// Declares both sides, lets the properties for width and height set them, then the size that
     /// a parent forces, and keeps the width within the window less `margin`, a C++ text.
     void writeSize(const Site& site, Side width, Side height, const char* margin);
-    /// A child in a brace block of its own, at a place named by two locals, with no size forced.
-    void writeChild(const WidgetNode& child, const std::string& x, const std::string& y);
+    /// Declares one side and lets the properties for it set it.
+    void writeWidth(const Site& site, Side width);
+    void writeHeight(const Site& site, Side height);
+    /// A child in a brace block of its own, at a place named by two locals, with the size that
+    /// `forced` names.
+    void writeChild(const WidgetNode& child, const std::string& x, const std::string& y,
+                    const Forced& forced = {});
+    /// What the handler under `key` does, or the statements of the press block without one.
+    void writeHandler(const Site& site, const char* key);
+    /// Keeps the clip rectangle in locals and sets it; closeClip restores it. Four C++ texts.
+    void openClip(const std::string& x, const std::string& y, const std::string& w,
+                  const std::string& h);
+    void closeClip();
     /// Three ints named `prefix` and R, G, B: `fallback`, then what the property `key` says.
     void writeChannels(const Site& site, const std::string& prefix, Rgb fallback, const char* key);
 

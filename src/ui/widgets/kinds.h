@@ -14,8 +14,31 @@ void writeNothing(WidgetWriter& w, const Site& at);
 void writeText(WidgetWriter& w, const Site& at);
 void writeCheckBox(WidgetWriter& w, const Site& at);
 
-// Layout
+// Buttons and pictures
+void writeButton(WidgetWriter& w, const Site& at);
+void writeTextButton(WidgetWriter& w, const Site& at);
+void writeImage(WidgetWriter& w, const Site& at);
+void writeAvatar(WidgetWriter& w, const Site& at);
+
+// Containers
+void writeColumn(WidgetWriter& w, const Site& at);
+void writeRow(WidgetWriter& w, const Site& at);
+void writeStack(WidgetWriter& w, const Site& at);
+void writeWrap(WidgetWriter& w, const Site& at);
+void writeGrid(WidgetWriter& w, const Site& at);
+void writeList(WidgetWriter& w, const Site& at);
+void writeBox(WidgetWriter& w, const Site& at);
+void writeCard(WidgetWriter& w, const Site& at);
+
+// What lies between widgets, and around them
 void writeFirstChild(WidgetWriter& w, const Site& at);
 void writeSpacer(WidgetWriter& w, const Site& at);
+void writeDivider(WidgetWriter& w, const Site& at);
+void writePadding(WidgetWriter& w, const Site& at);
+void writeInlinePage(WidgetWriter& w, const Site& at);
+
+// Overlays
+void writeSnackBarTrigger(WidgetWriter& w, const Site& at);
+
 /// All children one below the other, for containers that don't lay out yet.
 void writeInLines(WidgetWriter& w, const Site& at);

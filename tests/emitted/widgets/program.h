@@ -55,6 +55,14 @@ void செல்க(std::string pageName);
 void நகர்த்து(std::string id);
 float responsiveW(float w, float winW, float margin POZHIL_DEFAULT(40.0F));
 float responsiveTextSize(float baseSize, float winWidth);
+
+// ---- Animation ----
+struct TextParts;
+float lerp(float start, float target, float progress);
+NVGcolor lerpColor(NVGcolor a, NVGcolor b, float t);
+float updateProgress(unsigned long long id, std::string condition, bool active, float y, float winH,
+                     float durationMs);
+float getCurveValue(std::string name, float t);
 void startBackgroundVideo(const char* path);
 
 // ---- Text and input ----

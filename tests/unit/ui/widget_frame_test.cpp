@@ -21,7 +21,7 @@ bool contains(const std::string& text, const std::string& part) {
 }
 
 TEST(WidgetFrame, RegistersAPlaceBeforeTheVisibility) {
-    const std::string text = written("படம்(அடையாளம்: \"அ\", காட்சி_பெயர்: \"நி\")");
+    const std::string text = written("மாற்றி(அடையாளம்: \"அ\", காட்சி_பெயர்: \"நி\")");
     EXPECT_EQ(text.rfind("{\n"
                          "    std::string _wid = fn_any_to_string(std::string(u8\"அ\"));\n"
                          "    if (!_wid.empty()) g_widgetPositions[_wid] = {(float)(wX), "
@@ -35,7 +35,7 @@ TEST(WidgetFrame, RegistersAPlaceBeforeTheVisibility) {
 }
 
 TEST(WidgetFrame, ShowsAnythingUntilItsFlagIsCleared) {
-    EXPECT_EQ(written("படம்(காட்சி_பெயர்: \"நி\")"),
+    EXPECT_EQ(written("மாற்றி(காட்சி_பெயர்: \"நி\")"),
               "// --- Visibility Check for: நி ---\n"
               "g_alert_names.insert(\"நி\");\n"
               "if (global_vars.find(\"நி\") == global_vars.end() || "
@@ -54,7 +54,7 @@ TEST(WidgetFrame, HidesAWarningUntilItsFlagIsSet) {
 }
 
 TEST(WidgetFrame, HasNoGateForANameThatIsNoLiteral) {
-    EXPECT_EQ(written("படம்(காட்சி_பெயர்: நி)"), "");
+    EXPECT_EQ(written("மாற்றி(காட்சி_பெயர்: நி)"), "");
 }
 
 TEST(WidgetFrame, GivesAShareItsFirstChildAtTheSamePlace) {
@@ -93,6 +93,12 @@ TEST(WidgetFrame, NumbersWidgetsInTheOrderOfTheSource) {
     const std::string text = written("நெடுவரிசை(தேர்வுபெட்டி(), தேர்வுபெட்டி())");
     EXPECT_TRUE(contains(text, "static bool checked_2 = false;"));
     EXPECT_TRUE(contains(text, "static bool checked_3 = false;"));
+}
+
+TEST(WidgetFrame, WritesAWidgetThatIsAValueAtThePagesOrigin) {
+    const std::string text = generate("அ = உரை(\"ஆ\")\n");
+    EXPECT_TRUE(contains(text, "float textX = 0.0f;\n"));
+    EXPECT_TRUE(contains(text, "float textY = 0.0f;\n"));
 }
 
 }  // namespace
