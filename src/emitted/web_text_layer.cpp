@@ -1,5 +1,6 @@
 // The text layer: a second, transparent 2D canvas over the GL canvas, since WebGL can't shape
-// Tamil and the browser can. And the clipboard. Before them, what all text for the browser needs.
+// Tamil and the browser can. And the clipboard. Before them, what all text for the browser needs,
+// and vector images.
 // The JavaScript inside EM_ASM is the preprocessor's argument: a comma outside parentheses would
 // end it.
 // clang-format off
@@ -15,6 +16,23 @@
 #include "nanosvg.h"
 #define NANOSVGRAST_IMPLEMENTATION
 #include "nanosvgrast.h"
+
+// A vector image as an image of the drawing library: as large as it fits into w by h pixels.
+// -1 for a file that doesn't parse.
+int loadSVGImage(NVGcontext* vg, const char* filename, float w, float h) {
+    NSVGimage* image = nsvgParseFromFile(filename, "px", 96.0f);
+    if (image == NULL) return -1;
+    const float scale = std::min(w / image->width, h / image->height);
+    const int width = (int)w;
+    const int height = (int)h;
+    std::vector<unsigned char> imgData(std::max(0, width * height * 4));
+    NSVGrasterizer* rasterizer = nsvgCreateRasterizer();
+    nsvgRasterize(rasterizer, image, 0, 0, scale, imgData.data(), width, height, width * 4);
+    const int handle = nvgCreateImageRGBA(vg, width, height, 0, imgData.data());
+    nsvgDeleteRasterizer(rasterizer);
+    nsvgDelete(image);
+    return handle;
+}
 
 void setupAndClearTextLayer() {
     EM_ASM({

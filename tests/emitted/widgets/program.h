@@ -64,6 +64,7 @@ float updateProgress(unsigned long long id, std::string condition, bool active, 
                      float durationMs);
 float getCurveValue(std::string name, float t);
 void startBackgroundVideo(const char* path);
+int loadSVGImage(NVGcontext* vg, const char* filename, float w, float h);
 
 // ---- Text and input ----
 extern std::map<std::string, std::string> g_inputValues;

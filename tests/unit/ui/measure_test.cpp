@@ -53,6 +53,13 @@ TEST(Measure, OfACheckBox) {
         << "a label taller than the box";
 }
 
+TEST(Measure, DiffersFromWhatIsDrawnWhereItsRowSaysSo) {
+    EXPECT_EQ(measured("அளவி()"), (Size{200, 28}));
+    EXPECT_EQ(measured("உரைபெட்டி()"), (Size{320, 60}));
+    EXPECT_EQ(measured("நெடுவரிசை(மடிப்பு(இவெ(உயரம்: 7), இவெ(உயரம்: 5)))"), (Size{0, 41}));
+    EXPECT_EQ(measured("கட்டம்_காட்சி()()"), (Size{3 * 150 + 2 * 10, 0}));
+}
+
 TEST(Measure, OfWhatIsNoWidgetIsNothing) {
     EXPECT_EQ(calculateWidgetWidth(nullptr), 0);
     EXPECT_EQ(measured("அச்சிடு(1)"), (Size{0, 0}));
