@@ -50,7 +50,7 @@ bool Generator::visitValue(const Expression* expression) {
     return true;
 }
 
-/// Lambdas, calls and operators; false if the node is none of them.
+/// Lambdas, calls, operators and the database; false if the node is none of them.
 bool Generator::visitOperation(const Expression* expression) {
     if (const auto* node = dynamic_cast<const LambdaExpression*>(expression)) {
         visitLambdaExpression(node);
@@ -64,6 +64,12 @@ bool Generator::visitOperation(const Expression* expression) {
         visitUnaryExpression(node);
     } else if (const auto* node = dynamic_cast<const GroupingExpression*>(expression)) {
         visitGroupingExpression(node);
+    } else if (const auto* node = dynamic_cast<const RTDBInsertExpression*>(expression)) {
+        visitRTDBInsertExpression(node);
+    } else if (const auto* node = dynamic_cast<const RTDBUpdateExpression*>(expression)) {
+        visitRTDBUpdateExpression(node);
+    } else if (const auto* node = dynamic_cast<const RTDBDeleteExpression*>(expression)) {
+        visitRTDBDeleteExpression(node);
     } else {
         return false;
     }

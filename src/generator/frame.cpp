@@ -119,6 +119,13 @@ void Generator::writeFunctions() {
 void Generator::writeInitGlobals() {
     out << "void init_globals() ";
     text.braces([this] {
+        for (const auto& statement : program.statements) {
+            const auto* app = dynamic_cast<const WebAppNode*>(statement.get());
+            if (app == nullptr) continue;
+            const auto* manager =
+                dynamic_cast<const DatabaseManagerNode*>(app->databaseManager.get());
+            if (manager != nullptr) visitDatabaseManagerNode(manager);
+        }
         g_isGlobalScope = false;
         for (const auto& statement : program.statements) {
             if (const auto* app = dynamic_cast<const WebAppNode*>(statement.get())) {

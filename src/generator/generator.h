@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "syntax/application.h"
+#include "syntax/database.h"
 #include "syntax/definitions.h"
 #include "syntax/expressions.h"
 #include "syntax/literals.h"
@@ -106,6 +107,14 @@ public:
     void visitGroupingExpression(const GroupingExpression* grouping);
     void visitCallExpression(const CallExpression* call);
 
+    // ---- The realtime database ----
+    void visitDatabaseManagerNode(const DatabaseManagerNode* manager);
+    void visitFirebaseConfigNode(const FirebaseConfigNode* config);
+    void visitRTDBInsertExpression(const RTDBInsertExpression* insert);
+    void visitRTDBUpdateExpression(const RTDBUpdateExpression* update);
+    void visitRTDBDeleteExpression(const RTDBDeleteExpression* removal);
+    void visitRTDBReadStatement(const RTDBReadStatement* read);
+
     // ---- Web applications: handed on to the web form ----
     void generateWebBoilerplate(const ScreenConfig& screen);
     void visitWebAppNode(const WebAppNode* app);
@@ -155,6 +164,10 @@ private:
     void writeText(std::string_view section);
     template <typename Definition, typename Visit>
     void visitDefinitions(Visit visit);
+    /// A call of the database by its template, in a block that only the browser's build reads.
+    void writeForBrowser(std::string_view call, const Fills& fills);
+    void writeJsonPairs(const MapLiteral& data, bool areAllQuoted);
+
     void writeStructures();
     void writeFunctions();
     void writeInitGlobals();

@@ -50,6 +50,9 @@ bool Generator::visitSimpleStatement(const Statement* statement) {
     if (const auto* node = dynamic_cast<const ReturnStatement*>(statement)) {
         return line([&] { visitReturnStatement(node); });
     }
+    if (const auto* node = dynamic_cast<const RTDBReadStatement*>(statement)) {
+        return line([&] { visitRTDBReadStatement(node); });
+    }
     return false;
 }
 

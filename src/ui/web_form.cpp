@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "emitted_text.h"
-#include "static_error.h"
 #include "ui/colours.h"
 #include "ui/properties.h"
 #include "widget_templates.h"
@@ -65,9 +64,6 @@ void WebForm::generateWebBoilerplate(const ScreenConfig&) { text.out << textBefo
 
 /// One page: if (g_currentPage == "...") { background; title; widgets }
 void WebForm::visitWebAppNode(const WebAppNode& app) {
-    if (app.databaseManager != nullptr) {
-        throw_static_error("பொழில்-399", "Unknown statement type in generator");
-    }
     const auto* header = dynamic_cast<const WidgetNode*>(app.header.get());
     const std::string* page = header == nullptr ? nullptr : stringProperty(*header, "பக்கம்");
     const auto* colour = dynamic_cast<const ColorExpression*>(propertyOf(header, "பின்னணி"));

@@ -87,7 +87,16 @@ extern "C" {
 void set_input_value(const char* id, const char* val);
 void clear_input_error(const char* id);
 void on_paste_text(const char* text);
+void rtdb_clear_temp();
+void rtdb_add_temp_str(const char* key, const char* val);
+void rtdb_add_temp_num(const char* key, double val);
+void rtdb_add_temp_bool(const char* key, int val);
+void rtdb_execute_callback(int id);
 }
+
+// ---- The database ----
+extern std::map<int, std::function<void()>> g_rtdb_callbacks;
+extern int g_rtdb_cb_counter;
 
 // ---- What the tests put in ----
 namespace application {

@@ -112,11 +112,6 @@ TEST(Application, CarriesTheRuntimeOfAConsoleProgram) {
     EXPECT_EQ(runtime("வலைதளம் அ(\n    தலைமை()\n" + kBody), runtime(""));
 }
 
-TEST(Application, WithADatabaseIsRefusedForNow) {
-    const std::string source = "வலைதளம் அ(\n    தலைமை()\n    தரவுத்தளமேலாண்மை()\n" + kBody;
-    EXPECT_THROW(generate(source), std::runtime_error);
-}
-
 TEST(Application, EmptyOperationsWriteNothing) {
     const Parsed parsed = parse("வலைதளம் அ(\n    தலைமை()\n" + kBody);
     const auto& app = dynamic_cast<const WebAppNode&>(*parsed.program.statements.at(0));
