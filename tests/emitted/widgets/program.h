@@ -25,6 +25,16 @@ struct WidgetPos {
     float x = 0;
     float y = 0;
 };
+struct AnimationState {
+    double startTime = 0.0;
+    bool isRunning = false;
+    float currentProgress = 0.0F;
+    bool hasTriggered = false;
+};
+struct TextParts {
+    std::string prefix;
+    std::string suffix;
+};
 #endif
 
 // ---- Values ----
@@ -57,7 +67,11 @@ float responsiveW(float w, float winW, float margin POZHIL_DEFAULT(40.0F));
 float responsiveTextSize(float baseSize, float winWidth);
 
 // ---- Animation ----
-struct TextParts;
+extern std::map<unsigned long long, AnimationState> g_animationStates;
+void updateAnimationProgress(unsigned long long nodeId, float duration);
+float applyAnimation(unsigned long long nodeId, float duration, const std::string& curve,
+                     float startValue, float targetValue);
+TextParts splitText(std::string s);
 float lerp(float start, float target, float progress);
 NVGcolor lerpColor(NVGcolor a, NVGcolor b, float t);
 float updateProgress(unsigned long long id, std::string condition, bool active, float y, float winH,

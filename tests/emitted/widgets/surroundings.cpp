@@ -22,6 +22,7 @@ Surroundings::Surroundings() {
     g_inputCursorPos.clear();
     g_inputSelected.clear();
     g_focusedInput = "";
+    g_animationStates.clear();
     application::logic = {};
     application::page = {};
     vg = stand_in::context();
