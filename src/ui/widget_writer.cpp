@@ -73,17 +73,21 @@ void WidgetWriter::writeSize(const Site& site, Side width, Side height, const ch
     text.line(w + " = responsiveW(" + w + ", winWidth, " + margin + ");");
 }
 
-void WidgetWriter::writeChild(const WidgetNode& child, const std::string& x, const std::string& y,
-                              const Forced& forced) {
+void WidgetWriter::writeForced(const Forced& forced, const std::function<void()>& body) {
     text.block("", [&] {
         text.line("float oldForcedW = forcedW;");
         text.line("float oldForcedH = forcedH;");
         text.line("forcedW = " + forced.width + ";");
         text.line("forcedH = " + forced.height + ";");
-        write(child, x, y);
+        body();
         text.line("forcedW = oldForcedW;");
         text.line("forcedH = oldForcedH;");
     });
+}
+
+void WidgetWriter::writeChild(const WidgetNode& child, const std::string& x, const std::string& y,
+                              const Forced& forced) {
+    writeForced(forced, [&] { write(child, x, y); });
 }
 
 /// A widget as a handler is written as it stands; a trigger of a message is a function like any

@@ -2,6 +2,7 @@
 // one kind draws stands in its template (src/emitted/widgets) and its function (src/ui/widgets).
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -54,6 +55,8 @@ public:
     /// `forced` names.
     void writeChild(const WidgetNode& child, const std::string& x, const std::string& y,
                     const Forced& forced = {});
+    /// What `body` writes, in a brace block and with the size that `forced` names.
+    void writeForced(const Forced& forced, const std::function<void()>& body);
     /// What the handler under `key` does, or the statements of the press block without one.
     void writeHandler(const Site& site, const char* key);
     /// Keeps the clip rectangle in locals and sets it; closeClip restores it. Four C++ texts.

@@ -17,6 +17,8 @@ std::string fixedText(float value, int decimals) {
 
 std::string to_fstr(float value) { return fixedText(value, 3) + "f"; }
 
+std::string oneDecimal(float value) { return fixedText(value, 1) + "f"; }
+
 std::string sixDecimals(float value) { return fixedText(value, 6); }
 
 std::string numberText(float value) {

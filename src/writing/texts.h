@@ -6,6 +6,9 @@
 /// A float with three decimals and the suffix `f`.
 std::string to_fstr(float value);
 
+/// A float with one decimal and the suffix `f`.
+std::string oneDecimal(float value);
+
 /// A float with six decimals.
 std::string sixDecimals(float value);
 
