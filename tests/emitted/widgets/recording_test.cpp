@@ -40,6 +40,15 @@ TEST_F(RecordingTest, TakesTheBranchThatHolds) {
     EXPECT_EQ(fields, (Fields{{"a", 0}, {"b", 1}}));
 }
 
+TEST_F(RecordingTest, ChoosesBetweenValues) {
+    EXPECT_EQ(run("return window.a || window.b;"), 5);
+    EXPECT_EQ(run("return window.c || window.b;"), 7);
+    EXPECT_EQ(run("return window.c || 0;"), 0);
+    EXPECT_EQ(run("var d = window.a || 0; return d !== 0 ? d : window.b;"), 5);
+    EXPECT_EQ(run("var d = window.c || 0; return d !== 0 ? d : window.b;"), 7);
+    EXPECT_EQ(run("return window.a !== 0;"), std::nullopt);
+}
+
 TEST_F(RecordingTest, ChangesNothingByAScriptThatDoesMore) {
     for (const char* code :
          {"window.a = 0; document.body.style.cursor = 'default';", "window.a = 0; f(window.a);",

@@ -1,7 +1,8 @@
 // Carries out scripts that do nothing but read and set fields of `window`:
 //   statement = ["var"] place ("=" | "+=") value ";" | "return" value ";" | if-statement
 //   if-statement = "if" "(" value ")" block [ "else" block ]
-//   value = ["-"] (number | $N | place)          place = window.FIELD | NAME
+//   value = single ["||" single] | single "!==" single "?" single ":" single
+//   single = ["-"] (number | $N | place)          place = window.FIELD | NAME
 #include <cctype>
 #include <cstdlib>
 #include <utility>
@@ -14,6 +15,13 @@ namespace {
 
 struct NotUnderstood {};
 
+std::size_t signLength(const std::string& code, std::size_t at) {
+    for (const std::string sign : {"+=", "||", "!=="}) {
+        if (code.compare(at, sign.size(), sign) == 0) return sign.size();
+    }
+    return 1;
+}
+
 std::vector<std::string> tokensOf(const std::string& code) {
     const auto isWordByte = [](char byte) {
         return std::isalnum(static_cast<unsigned char>(byte)) != 0 || byte == '_' || byte == '.' ||
@@ -23,7 +31,7 @@ std::vector<std::string> tokensOf(const std::string& code) {
     for (std::size_t at = 0; at < code.size();) {
         std::size_t end = at;
         while (end < code.size() && isWordByte(code[end])) end++;
-        if (end == at) end = code.compare(at, 2, "+=") == 0 ? at + 2 : at + 1;
+        if (end == at) end = at + signLength(code, at);
         if (code[at] != ' ') tokens.push_back(code.substr(at, end - at));
         at = end;
     }
@@ -103,6 +111,21 @@ private:
     }
 
     double readValue() {
+        const double first = readSingle();
+        if (takes("||")) {
+            const double second = readSingle();
+            return first != 0 ? first : second;
+        }
+        if (!takes("!==")) return first;
+        const bool differs = first != readSingle();
+        expect("?");
+        const double then = readSingle();
+        expect(":");
+        const double otherwise = readSingle();
+        return differs ? then : otherwise;
+    }
+
+    double readSingle() {
         const double sign = takes("-") ? -1 : 1;
         const std::string& token = peek();
         const std::size_t digits = token[0] == '$' ? 1 : 0;
