@@ -6,6 +6,7 @@
 #include "files.h"
 #include "syntax/expressions.h"
 #include "syntax/literals.h"
+#include "ui/properties.h"
 #include "writing/texts.h"
 
 namespace {
@@ -74,4 +75,10 @@ std::string processPercentage(const Expression* value, const std::string& base) 
         return variableSize(node->name);
     }
     return "";
+}
+
+std::string numberSizeOr(const WidgetNode& widget, const std::string& key,
+                         const std::string& fallback) {
+    const std::string* digits = numberProperty(widget, key);
+    return digits == nullptr ? fallback : numberSize(*digits);
 }

@@ -3,8 +3,12 @@
 
 #include <string>
 
-#include "syntax/node.h"
+#include "syntax/widgets.h"
 
 /// The text of a C++ float expression for a size. `base` is the text of what 100 % means. Empty for
 /// a value that is no size: the widget's default stays.
 std::string processPercentage(const Expression* value, const std::string& base);
+
+/// The number literal under `key` as a C++ float; `fallback` for any other value.
+std::string numberSizeOr(const WidgetNode& widget, const std::string& key,
+                         const std::string& fallback);

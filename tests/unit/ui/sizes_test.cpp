@@ -61,4 +61,13 @@ TEST(Size, OfAnythingElseIsEmpty) {
     EXPECT_EQ(processPercentage(nullptr, "B"), "");
 }
 
+TEST(Size, OfANumberAlone) {
+    WidgetNode widget("மடிப்பு", {}, {}, சீரமைப்பு_வகை::மேல்_இடது, false);
+    EXPECT_EQ(numberSizeOr(widget, "இடைவெளி", "10.0f"), "10.0f");
+    widget.properties["இடைவெளி"] = std::make_unique<NumberLiteral>("12");
+    EXPECT_EQ(numberSizeOr(widget, "இடைவெளி", "10.0f"), "12.0f");
+    widget.properties["இடைவெளி"] = std::make_unique<PercentageLiteral>("12");
+    EXPECT_EQ(numberSizeOr(widget, "இடைவெளி", "10.0f"), "10.0f");
+}
+
 }  // namespace
