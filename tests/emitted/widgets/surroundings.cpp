@@ -1,5 +1,7 @@
 #include "emitted/widgets/surroundings.h"
 
+#include <stdexcept>
+
 void PrintTo(const Calls& calls, std::ostream* out) {
     for (const std::string& call : calls) *out << "\n    " << call;
 }
@@ -46,6 +48,17 @@ Calls Surroundings::callsOf(const std::function<void()>& body) {
 Calls Surroundings::frame(const std::function<void()>& page) {
     application::page = page;
     return callsOf(render_frame);
+}
+
+Calls Surroundings::drawnBlock(const std::string& name, float forcedWidth, float forcedHeight) {
+    const application::Block* block = application::kBlocks;
+    while (block->name != nullptr && block->name != name) block++;
+    if (block->name == nullptr) throw std::invalid_argument("no block " + name);
+    return drawn([&] {
+        forcedW = forcedWidth;
+        forcedH = forcedHeight;
+        block->draw();
+    });
 }
 
 Calls Surroundings::drawn(const std::function<void()>& block) {

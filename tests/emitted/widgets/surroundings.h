@@ -28,6 +28,10 @@ protected:
     static Calls frame(const std::function<void()>& page = {});
     /// The calls of `block` alone, made where the blocks of the pages stand.
     static Calls drawn(const std::function<void()>& block);
+    /// The same of a widget's text in tests/widgets: "text_plain" is that of text/plain.block. A
+    /// parent forces the size on it that is given.
+    static Calls drawnBlock(const std::string& name, float forcedWidth = -1,
+                            float forcedHeight = -1);
     /// The same for what draws outside a frame.
     static Calls callsOf(const std::function<void()>& body);
 
