@@ -1,32 +1,14 @@
 // Alignment, the text style, and the style blocks of buttons and other widgets.
 #include "parser/number_text.h"
 #include "parser/parser.h"
+#include "syntax/alignment.h"
 
 namespace {
-
-/// The word that a value names: a variable's name or a member's; "" for anything else.
-std::string wordOf(const Expression& value) {
-    if (const auto* member = dynamic_cast<const GetExpression*>(&value)) return member->name.text;
-    if (const auto* variable = dynamic_cast<const VariableAccess*>(&value)) return variable->name;
-    return "";
-}
 
 const std::string* textOf(const Expression& value) {
     const auto* literal = dynamic_cast<const StringLiteral*>(&value);
     return literal == nullptr ? nullptr : &literal->value;
 }
-
-struct AlignmentRow {
-    const char* word;
-    சீரமைப்பு_வகை alignment;
-};
-const AlignmentRow kAlignments[] = {
-    {"மேல்_இடது", சீரமைப்பு_வகை::மேல்_இடது}, {"மேல்_மையம்", சீரமைப்பு_வகை::மேல்_மையம்},
-    {"மேல்_வலது", சீரமைப்பு_வகை::மேல்_வலது}, {"மைய_இடது", சீரமைப்பு_வகை::மைய_இடது},
-    {"மையம்", சீரமைப்பு_வகை::மையம்},         {"மைய_வலது", சீரமைப்பு_வகை::மைய_வலது},
-    {"கீழ்_இடது", சீரமைப்பு_வகை::கீழ்_இடது},   {"கீழ்_மையம்", சீரமைப்பு_வகை::கீழ்_மையம்},
-    {"கீழ்_வலது", சீரமைப்பு_வகை::கீழ்_வலது},
-};
 
 // ---- Text style: each key reads the kinds of value it knows and leaves the rest alone ----
 
@@ -125,10 +107,7 @@ bool Parser::parseAlignmentItem(WidgetParts& parts) {
     if (!checkWord("சீரமைப்பு")) return false;
     advance();
     auto value = parseValue();
-    const std::string word = wordOf(*value);
-    for (const AlignmentRow& row : kAlignments) {
-        if (word == row.word) parts.alignment = row.alignment;
-    }
+    parts.alignment = alignmentNamed(wordOf(*value)).value_or(parts.alignment);
     drop(std::move(value));
     return true;
 }
