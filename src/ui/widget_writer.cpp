@@ -10,10 +10,6 @@
 
 namespace {
 
-// What 100 % of a size means.
-constexpr const char* kWidthBase = "(forcedW > 0.0f ? forcedW : winWidth)";
-constexpr const char* kHeightBase = "(forcedH > 0.0f ? forcedH : winHeight)";
-
 constexpr const char* kClipSides[] = {"X", "Y", "W", "H"};
 
 bool names(std::string_view text, std::string_view name) {
@@ -43,8 +39,10 @@ void WidgetWriter::fill(std::string_view widget, const Site& site, Fills fills) 
     text.block("", [&] { text.fill(widget, fills); });
 }
 
+void WidgetWriter::writeExpression(const Expression* value) { programText.visitExpression(value); }
+
 Fill WidgetWriter::expression(std::string_view name, const Expression* value) {
-    return {name, [this, value] { programText.visitExpression(value); }};
+    return {name, [this, value] { writeExpression(value); }};
 }
 
 void WidgetWriter::assignSize(const char* local, const Expression* value, const std::string& base) {

@@ -42,7 +42,9 @@ public:
 
     /// The template of a widget as a brace block, with X, Y and ID of the site where it names them.
     void fill(std::string_view widget, const Site& site, Fills fills);
-    /// An expression of the program where the placeholder stands.
+    /// An expression of the program in place.
+    void writeExpression(const Expression* value);
+    /// The same where the placeholder stands.
     Fill expression(std::string_view name, const Expression* value);
 
     /// Declares both sides, lets the properties for width and height set them, then the size that
