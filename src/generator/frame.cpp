@@ -52,6 +52,7 @@ const Generator::Section Generator::kSections[] = {
     {"scroll state", emitted::scroll_state, nullptr},
     {"web: boilerplate", emitted::web_boilerplate, nullptr},
     {"web: background video", emitted::web_background_video, nullptr},
+    {"web: texts in boxes", emitted::web_box_text, nullptr},
 
     {"structures", "", &Generator::writeStructures},
     {"functions", "", &Generator::writeFunctions},

@@ -94,6 +94,7 @@ void drawFixedText(float x, float y, const char* text, const char* color, float 
 void drawWebText(float x, float y, const char* text, const char* color, float size,
                  const char* align);
 float getTextWidth(const char* text, float fontSize);
+float getBoxTextWidth(const char* text, const char* fontWeight, float fontSize);
 void copyToClipboard(const char* text);
 void setupClipboardListener();
 EM_BOOL key_callback(int eventType, const EmscriptenKeyboardEvent* e, void* userData);

@@ -23,6 +23,7 @@ const struct {
     {"ctx.fillText(text, x, y)", "drawText"},
     {"setTimeout(function() { element.remove(); }", "drawFleetingText"},
     {"ctx.font = 'normal ' + $1", "measureText"},
+    {"ctx.font = UTF8ToString($1) + ' ' + $2", "measureBoxText"},
     {"navigator.clipboard.writeText(str)", "copyToClipboard"},
     {"addEventListener('paste'", "listenForPaste"},
     // The start and the keys
