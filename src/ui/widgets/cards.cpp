@@ -11,12 +11,8 @@
 
 namespace {
 
-std::string pixels(const WidgetNode& card, const std::string& key, const char* fallback) {
-    for (const std::string& name : {"style_" + key, key}) {
-        const auto* number = dynamic_cast<const NumberLiteral*>(property(card, name));
-        if (number != nullptr) return processPercentage(number, "");
-    }
-    return fallback;
+std::string styledSize(const WidgetNode& card, const std::string& key, const char* fallback) {
+    return numberSizeOr(card, "style_" + key, numberSizeOr(card, key, fallback));
 }
 
 PozhilColor cardColour(const WidgetNode& card) {
@@ -41,8 +37,8 @@ void writeCard(WidgetWriter& w, const Site& at) {
              [&] {
                  w.writeSize(at, {"cardW", "350.0f"}, {"cardH", "200.0f"}, "0.0f");
              }},
-            {"RADIUS", pixels(at.node, "வளைவு", "12.0f")},
-            {"ELEVATION", pixels(at.node, "எலிவேஷன்", "4.0f")},
+            {"RADIUS", styledSize(at.node, "வளைவு", "12.0f")},
+            {"ELEVATION", styledSize(at.node, "எலிவேஷன்", "4.0f")},
             {"COLOUR", channelTexts(cardColour(at.node))},
             {"OPEN_CLIP", [&] { w.openClip("cardX", "cardY", "cardW", "cardH"); }},
             {"CHILDREN", [&] { writeCardChildren(w, at.node); }},

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "emitted/widgets/block_named.h"
 #include "emitted/widgets/blocks.h"
 #include "emitted/widgets/surroundings.h"
 
@@ -61,9 +60,11 @@ protected:
         browser().window["mouseClicked"] = 1;
         return drawn(box);
     }
-
-    static Calls drawn(const std::function<void()>& box) { return Surroundings::drawn(box); }
-    static Calls drawn(const std::string& block) { return drawn(application::blockNamed(block)); }
+    static Calls clickOn(const std::string& block) {
+        pointAt(50, 50);
+        browser().window["mouseClicked"] = 1;
+        return drawnBlock(block);
+    }
 
     /// The calls named `name`.
     static Calls only(const Calls& calls, const std::string& name) {
@@ -169,30 +170,28 @@ TEST_F(BoxTest, IsColouredWithoutItsPictureAndDoesNotTryAgain) {
 // ---- Whole boxes: look and size ----
 
 TEST_F(BoxTest, IsAClearSquareByItself) {
-    const Calls calls = drawn("box_bare");
+    const Calls calls = drawnBlock("box_bare");
     EXPECT_EQ(rectangles(calls), Calls{"nvgRoundedRect(0, 0, 100, 100, 0)"});
     EXPECT_EQ(colours(calls), Calls{"nvgFillColor(rgba(0, 0, 0, 0))"});
 }
 
 TEST_F(BoxTest, TakesItsSizes) {
     browser().window = {{"innerWidth", 800}, {"innerHeight", 600}};
-    EXPECT_EQ(rectangles(drawn("box_sized")), Calls{"nvgRoundedRect(0, 0, 200, 120, 0)"});
-    EXPECT_EQ(rectangles(drawn("box_sized_by_shares")), Calls{"nvgRoundedRect(0, 0, 400, 150, 0)"});
-    EXPECT_EQ(rectangles(drawn("box_sized_by_its_group_first")),
+    EXPECT_EQ(rectangles(drawnBlock("box_sized")), Calls{"nvgRoundedRect(0, 0, 200, 120, 0)"});
+    EXPECT_EQ(rectangles(drawnBlock("box_sized_by_shares")),
+              Calls{"nvgRoundedRect(0, 0, 400, 150, 0)"});
+    EXPECT_EQ(rectangles(drawnBlock("box_sized_by_its_group_first")),
               Calls{"nvgRoundedRect(0, 0, 200, 120, 0)"});
-    EXPECT_EQ(rectangles(drawn("box_sized_by_no_size")),
+    EXPECT_EQ(rectangles(drawnBlock("box_sized_by_no_size")),
               Calls{"nvgRoundedRect(0, 0, 100, 100, 0)"});
 }
 
 TEST_F(BoxTest, IsAsLargeAsItsParentForces) {
     const auto forced = [](const char* block) {
-        return drawn([block] {
-            forcedW = 50;
-            forcedH = 40;
-            application::blockNamed(block)();
-            EXPECT_EQ(forcedW, 50);
-            EXPECT_EQ(forcedH, 40);
-        });
+        const Calls calls = drawnBlock(block, 50, 40);
+        EXPECT_EQ(forcedW, 50);
+        EXPECT_EQ(forcedH, 40);
+        return calls;
     };
     EXPECT_EQ(rectangles(forced("box_sized")), Calls{"nvgRoundedRect(0, 0, 50, 40, 0)"});
     EXPECT_EQ(rectangles(forced("box_sized_by_shares")), Calls{"nvgRoundedRect(0, 0, 50, 40, 0)"});
@@ -204,7 +203,7 @@ TEST_F(BoxTest, IsAsLargeAsItsParentForces) {
 TEST_F(BoxTest, ChoosesItsSizeByTheWindow) {
     const auto sizeAt = [](double width, const char* block) {
         browser().window = {{"innerWidth", width}, {"innerHeight", 300}};
-        return rectangles(drawn(block));
+        return rectangles(drawnBlock(block));
     };
     EXPECT_EQ(sizeAt(500, "box_wide_by_choice"), Calls{"nvgRoundedRect(0, 0, 500, 60, 0)"});
     EXPECT_EQ(sizeAt(700, "box_wide_by_choice"), Calls{"nvgRoundedRect(0, 0, 350, 60, 0)"});
@@ -219,23 +218,23 @@ TEST_F(BoxTest, ChoosesItsSizeByTheWindow) {
 }
 
 TEST_F(BoxTest, TakesItsLookFromItsStyleBlock) {
-    const Calls away = drawn("box_of_its_style_block");
+    const Calls away = drawnBlock("box_of_its_style_block");
     const Calls twice = {"nvgRoundedRect(0, 0, 300, 150, 12)",
                          "nvgRoundedRect(0, 0, 300, 150, 12)"};
     EXPECT_EQ(rectangles(away), twice) << "the hole of its shadow, and itself";
     EXPECT_EQ(colours(away).size(), 1U);
     EXPECT_TRUE(holds(away, "nvgRect(-34, -34, 368, 218)"));
     pointAt(-1, -1);
-    EXPECT_EQ(colours(drawn("box_of_its_style_block")).front().substr(0, 23),
+    EXPECT_EQ(colours(drawnBlock("box_of_its_style_block")).front().substr(0, 23),
               "nvgFillColor(rgba(255, ");
     pointAt(150, 75);
-    EXPECT_EQ(colours(drawn("box_of_its_style_block")),
+    EXPECT_EQ(colours(drawnBlock("box_of_its_style_block")),
               Calls{"nvgFillColor(rgba(0, 0, 255, 255))"});
 }
 
 TEST_F(BoxTest, OverridesItsStyleBlock) {
     pointAt(50, 50);
-    const Calls calls = drawn("box_above_its_style_block");
+    const Calls calls = drawnBlock("box_above_its_style_block");
     EXPECT_EQ(rectangles(calls), Calls{"nvgRoundedRect(0, 0, 200, 120, 4)"});
     EXPECT_EQ(colours(calls), Calls{"nvgFillColor(rgba(0, 255, 0, 255))"});
 }
@@ -244,24 +243,24 @@ TEST_F(BoxTest, OverridesItsStyleBlock) {
 
 TEST_F(BoxTest, DoesWhatItsPressSaysOnce) {
     pointAt(50, 50);
-    drawn("box_pressed");
+    drawnBlock("box_pressed");
     EXPECT_EQ(g_currentPage, "home");
-    clickAt(50, 50, application::blockNamed("box_pressed"));
+    clickOn("box_pressed");
     EXPECT_EQ(g_currentPage, "அடுத்து");
     g_currentPage = "home";
-    drawn("box_pressed");
+    drawnBlock("box_pressed");
     EXPECT_EQ(g_currentPage, "home");
 }
 
 TEST_F(BoxTest, DoesWhatItsStyleBlockSaysOfAPress) {
-    drawn("box_pressed_by_its_block");
+    drawnBlock("box_pressed_by_its_block");
     EXPECT_EQ(global_vars.count("எண்ணிக்கை"), 0U);
-    EXPECT_TRUE(holds(clickAt(50, 50, application::blockNamed("box_pressed_by_its_block")), kHand));
+    EXPECT_TRUE(holds(clickOn("box_pressed_by_its_block"), kHand));
     EXPECT_EQ(global_vars.count("எண்ணிக்கை"), 1U);
 }
 
 TEST_F(BoxTest, ThatIsDisabledIsDeaf) {
-    const Calls calls = clickAt(50, 50, application::blockNamed("box_disabled"));
+    const Calls calls = clickOn("box_disabled");
     EXPECT_EQ(g_currentPage, "home");
     EXPECT_FALSE(holds(calls, kHand));
     EXPECT_EQ(colours(calls), Calls{"nvgFillColor(rgba(0, 255, 0, 255))"});
@@ -269,8 +268,8 @@ TEST_F(BoxTest, ThatIsDisabledIsDeaf) {
 
 TEST_F(BoxTest, MovesWhileThePointerIsOverItAndBack) {
     const auto shape = [](int frames) {
-        for (int i = 1; i < frames; i++) drawn("box_animated");
-        const Calls calls = drawn("box_animated");
+        for (int i = 1; i < frames; i++) drawnBlock("box_animated");
+        const Calls calls = drawnBlock("box_animated");
         Calls both = rectangles(calls);
         both.push_back(colours(calls).back());
         return both;
@@ -291,11 +290,11 @@ TEST_F(BoxTest, MovesWhileThePointerIsOverItAndBack) {
 }
 
 TEST_F(BoxTest, MovesByItselfToItsEndAndStays) {
-    const auto colour = [] { return colours(drawn("box_animated_by_itself")).back(); };
+    const auto colour = [] { return colours(drawnBlock("box_animated_by_itself")).back(); };
     EXPECT_NE(colour(), "nvgFillColor(rgba(0, 0, 0, 0))");
     for (int i = 0; i < 10; i++) colour();
     for (int i = 0; i < 3; i++) EXPECT_EQ(colour(), "nvgFillColor(rgba(255, 0, 0, 255))");
-    EXPECT_EQ(rectangles(drawn("box_animated_at_the_top")),
+    EXPECT_EQ(rectangles(drawnBlock("box_animated_at_the_top")),
               Calls{"nvgRoundedRect(0, 0, 100, 100, 0)"})
         << "at the window's upper edge it doesn't begin";
 }
@@ -308,23 +307,24 @@ TEST_F(BoxTest, PutsAChildAtEachOfNinePlaces) {
         {"middle_left", "0, 28"}, {"middle", "88, 28"}, {"middle_right", "176, 28"},
         {"bottom_left", "0, 56"}, {"bottom", "88, 56"}, {"bottom_right", "176, 56"}};
     for (const auto& [word, place] : places) {
-        EXPECT_EQ(rectangles(drawn(std::string("box_aligned_") + word)).back(),
+        EXPECT_EQ(rectangles(drawnBlock(std::string("box_aligned_") + word)).back(),
                   std::string("nvgRoundedRect(") + place + ", 24, 24, 5)")
             << word;
     }
 }
 
 TEST_F(BoxTest, IsAlignedByItsGroupUnlessAPropertySaysOther) {
-    EXPECT_EQ(rectangles(drawn("box_aligned_in_a_group")).back(),
+    EXPECT_EQ(rectangles(drawnBlock("box_aligned_in_a_group")).back(),
               "nvgRoundedRect(176, 76, 24, 24, 5)");
-    EXPECT_EQ(rectangles(drawn("box_aligned_by_an_unknown_word")).back(),
+    EXPECT_EQ(rectangles(drawnBlock("box_aligned_by_an_unknown_word")).back(),
               "nvgRoundedRect(38, 38, 24, 24, 5)");
-    EXPECT_EQ(rectangles(drawn("box_aligned_twice")).back(), "nvgRoundedRect(76, 76, 24, 24, 5)");
+    EXPECT_EQ(rectangles(drawnBlock("box_aligned_twice")).back(),
+              "nvgRoundedRect(76, 76, 24, 24, 5)");
 }
 
 TEST_F(BoxTest, PutsATextByTheWidthThatTheBrowserTells) {
     browser().answerWith("measureBoxText", 50);
-    const Calls calls = drawn("box_aligned_in_a_group");
+    const Calls calls = drawnBlock("box_aligned_in_a_group");
     EXPECT_TRUE(holds(calls, "measureBoxText(\"அ\", \"normal\", 16)"));
     const Calls texts = only(calls, "drawText");
     ASSERT_EQ(texts.size(), 1U);
@@ -334,10 +334,11 @@ TEST_F(BoxTest, PutsATextByTheWidthThatTheBrowserTells) {
 TEST_F(BoxTest, MeasuresATextInItsStyleAndUnscaled) {
     browser().window["innerWidth"] = 640;
     global_vars["எண்ணிக்கை"] = 5LL;
-    const Calls calls = drawn("box_around_a_styled_text");
+    const Calls calls = drawnBlock("box_around_a_styled_text");
     EXPECT_TRUE(holds(calls, "measureBoxText(\"5\", \"700\", 24)"));
     EXPECT_NE(only(calls, "drawText").at(0).find(", 15.6, \"left\", \"700\""), std::string::npos);
-    EXPECT_TRUE(holds(drawn("box_around_an_empty_text"), "measureBoxText(\"\", \"normal\", 16)"));
+    EXPECT_TRUE(
+        holds(drawnBlock("box_around_an_empty_text"), "measureBoxText(\"\", \"normal\", 16)"));
 }
 
 TEST_F(BoxTest, TellsTheClipToItsChildren) {
@@ -347,7 +348,7 @@ TEST_F(BoxTest, TellsTheClipToItsChildren) {
                 stand_in::describe(g_currentClipW), stand_in::describe(g_currentClipH)};
         return 0;
     };
-    drawn("box_aligned_in_a_group");
+    drawnBlock("box_aligned_in_a_group");
     EXPECT_EQ(clip, (Calls{"0", "0", "200", "100"}));
     EXPECT_EQ(g_currentClipW, -1);
 }

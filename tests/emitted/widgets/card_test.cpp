@@ -1,7 +1,6 @@
 // A card: its sheet, its shadow, and its children below each other.
 #include "emitted/widgets/placeholders/card.h"
 
-#include "emitted/widgets/block_named.h"
 #include "emitted/widgets/blocks.h"
 #include "emitted/widgets/surroundings.h"
 
@@ -23,11 +22,6 @@ namespace {
 class CardTest : public Surroundings {
 protected:
     CardTest() { browser().window["innerWidth"] = 1280; }
-
-    using Surroundings::drawn;
-    static Calls drawn(const std::string& block) {
-        return Surroundings::drawn(application::blockNamed(block));
-    }
 
     static Calls only(const Calls& calls, const std::string& name) {
         Calls found;
@@ -65,25 +59,25 @@ TEST_F(CardTest, ThatLiesFlatHasNoShadow) { EXPECT_EQ(drawn(flat::card), kSheet)
 TEST_F(CardTest, IsNoWiderThanTheWindow) {
     const auto widthAt = [](double width) {
         browser().window["innerWidth"] = width;
-        return only(drawn("card_bare"), "nvgIntersectScissor");
+        return only(drawnBlock("card_bare"), "nvgIntersectScissor");
     };
     EXPECT_EQ(widthAt(1280), Calls{"nvgIntersectScissor(0, 0, 350, 200)"});
     EXPECT_EQ(widthAt(300), Calls{"nvgIntersectScissor(0, 0, 300, 200)"});
 }
 
 TEST_F(CardTest, TakesItsStyle) {
-    const Calls sized = drawn("card_sized");
+    const Calls sized = drawnBlock("card_sized");
     EXPECT_EQ(only(sized, "nvgIntersectScissor"), Calls{"nvgIntersectScissor(0, 0, 640, 120)"});
-    const Calls styled = drawn("card_styled");
+    const Calls styled = drawnBlock("card_styled");
     EXPECT_EQ(only(styled, "nvgRoundedRect").back(), "nvgRoundedRect(0, 0, 350, 200, 4)");
     EXPECT_EQ(only(styled, "nvgFillColor").size(), 1U);
     EXPECT_NE(only(styled, "nvgFillColor").at(0), "nvgFillColor(rgba(255, 255, 255, 255))");
-    EXPECT_EQ(only(drawn("card_in_a_plain_colour"), "nvgFillColor"),
+    EXPECT_EQ(only(drawnBlock("card_in_a_plain_colour"), "nvgFillColor"),
               Calls{"nvgFillColor(rgba(0, 255, 0, 255))"});
 }
 
 TEST_F(CardTest, PutsItsChildrenBelowEachOther) {
-    const Calls calls = drawn("card_around_children");
+    const Calls calls = drawnBlock("card_around_children");
     const Calls texts = only(calls, "drawText");
     ASSERT_EQ(texts.size(), 2U);
     EXPECT_EQ(texts[0].substr(0, 17), "drawText(15, 15, ");
@@ -93,22 +87,19 @@ TEST_F(CardTest, PutsItsChildrenBelowEachOther) {
 }
 
 TEST_F(CardTest, ForcesItsSizeOnItsChildrenAlone) {
-    drawn([] {
-        forcedW = 400;
-        application::blockNamed("card_in_a_card")();
-        EXPECT_EQ(forcedW, 400);
-        EXPECT_EQ(forcedH, -1);
-    });
+    drawnBlock("card_in_a_card", 400);
+    EXPECT_EQ(forcedW, 400);
+    EXPECT_EQ(forcedH, -1);
 }
 
 TEST_F(CardTest, InACardFillsIt) {
     EXPECT_EQ(
-        only(drawn("card_in_a_card"), "nvgIntersectScissor"),
+        only(drawnBlock("card_in_a_card"), "nvgIntersectScissor"),
         (Calls{"nvgIntersectScissor(0, 0, 350, 200)", "nvgIntersectScissor(15, 15, 350, 200)"}));
 }
 
 TEST_F(CardTest, InABoxInACardHasItsOwnSize) {
-    EXPECT_EQ(only(drawn("card_in_a_box_in_a_card"), "nvgIntersectScissor"),
+    EXPECT_EQ(only(drawnBlock("card_in_a_box_in_a_card"), "nvgIntersectScissor"),
               (Calls{"nvgIntersectScissor(0, 0, 350, 200)", "nvgIntersectScissor(15, 15, 350, 200)",
                      "nvgIntersectScissor(15, 15, 350, 200)"}));
 }
@@ -120,7 +111,7 @@ TEST_F(CardTest, TellsTheClipToItsChildren) {
                 stand_in::describe(g_currentClipW), stand_in::describe(g_currentClipH)};
         return 0;
     };
-    drawn("card_around_children");
+    drawnBlock("card_around_children");
     EXPECT_EQ(clip, (Calls{"0", "0", "350", "200"}));
 }
 
