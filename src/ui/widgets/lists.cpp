@@ -1,5 +1,4 @@
-// Containers that place their children by a pattern: on top of each other, in lines, in cells,
-// below each other without an end.
+// Containers that place their children by a pattern: on top of each other, in lines, in cells.
 #include "ui/alignment.h"
 #include "ui/measure.h"
 #include "ui/properties.h"
@@ -99,5 +98,3 @@ void writeGrid(WidgetWriter& w, const Site& at) {
             {"WIDTH", numberSizeOr(at.node, "width", numberSizeOr(at.node, "அகலம்", measured))},
             childrenOf(w, at, writeGridChild)});
 }
-
-void writeList(WidgetWriter& w, const Site& at) { writeInLines(w, at); }
