@@ -54,3 +54,11 @@ const WidgetNode* childNamed(const WidgetNode& widget, const std::string& name) 
     }
     return nullptr;
 }
+
+const WidgetNode* childWithString(const WidgetNode& widget, const std::string& name,
+                                  const std::string& key) {
+    for (const WidgetNode* child : widgetChildren(widget)) {
+        if (child->name == name && stringProperty(*child, key) != nullptr) return child;
+    }
+    return nullptr;
+}

@@ -35,3 +35,7 @@ const WidgetNode* firstWidget(const WidgetNode& widget);
 
 /// The first child that is a widget of that name; null without one.
 const WidgetNode* childNamed(const WidgetNode& widget, const std::string& name);
+
+/// The first child of that name whose `key` is a string literal; null without one.
+const WidgetNode* childWithString(const WidgetNode& widget, const std::string& name,
+                                  const std::string& key);

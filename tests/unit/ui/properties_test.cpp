@@ -52,6 +52,23 @@ TEST_F(WidgetProperties, FindAChildByItsName) {
     EXPECT_EQ(childNamed(widget, "அட்டை"), nullptr);
 }
 
+TEST_F(WidgetProperties, FindAChildByItsNameAndAStringOfIt) {
+    const auto add = [&](const char* name, std::unique_ptr<Expression> value) {
+        auto child = std::make_unique<WidgetNode>(name, PropertyMap(), WidgetList(),
+                                                  சீரமைப்பு_வகை::மேல்_இடது, false);
+        child->properties["பாதை"] = std::move(value);
+        widget.children.push_back(std::move(child));
+        return dynamic_cast<const WidgetNode*>(widget.children.back().get());
+    };
+    add("உரை", std::make_unique<StringLiteral>("அ"));
+    add("படம்", std::make_unique<NumberLiteral>("1"));
+    EXPECT_EQ(childWithString(widget, "படம்", "பாதை"), nullptr);
+    const WidgetNode* image = add("படம்", std::make_unique<StringLiteral>("ஆ"));
+    add("படம்", std::make_unique<StringLiteral>("இ"));
+    EXPECT_EQ(childWithString(widget, "படம்", "பாதை"), image);
+    EXPECT_EQ(childWithString(widget, "படம்", "உரை"), nullptr);
+}
+
 std::string channels(const std::optional<PozhilColor>& colour) {
     return colour ? channelTexts(*colour) : "none";
 }
