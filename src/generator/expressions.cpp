@@ -4,11 +4,12 @@
 #include "generator/generator.h"
 #include "static_error.h"
 #include "ui/properties.h"
+#include "ui/web_form.h"
 
 void Generator::visitExpression(const Expression* expression) {
     if (visitValue(expression) || visitOperation(expression)) return;
     if (const WidgetNode* widget = widgetOf(expression)) {
-        return generateWidgetCode(widget, "0.0f", "0.0f");
+        return web->widgets.writeValue(*widget);
     }
     throw_static_error("பொழில்-399", "Unknown expression type in generator");
 }

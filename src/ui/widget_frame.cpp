@@ -49,7 +49,7 @@ const WidgetRow kWidgets[] = {
     {"உரைபெட்டி", writeNothing},
     {"பட்டியல்_உருப்படி", writeNothing},
     {"கடவுமறை", writeNothing},
-    {"அறிவிப்பு_பட்டை", writeSnackBarTrigger},
+    {"அறிவிப்பு_பட்டை", writeNothing},  // it shows when it is called: see writeValue
 };
 
 /// The test by which a flag of the program shows or hides the widget of that name. A warning is
@@ -69,6 +69,12 @@ void WidgetWriter::write(const WidgetNode& widget, const std::string& x, const s
     const Site site = {widget, x, y, identityOf(widget)};
     registerPlace(site);
     writeVisible(site);
+}
+
+void WidgetWriter::writeValue(const WidgetNode& widget) {
+    const auto* message = dynamic_cast<const SnackBarNode*>(&widget);
+    if (message == nullptr) return write(widget, "0.0f", "0.0f");
+    writeSnackBarTrigger(*this, *message);
 }
 
 /// Before the visibility: a hidden widget has its place too.

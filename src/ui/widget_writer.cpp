@@ -58,7 +58,11 @@ void WidgetWriter::writeWidth(const Site& site, Side width) {
 
 void WidgetWriter::writeHeight(const Site& site, Side height) {
     text.line(std::string("float ") + height.local + " = " + height.fallback + ";");
-    assignSize(height.local, styledProperty(site.node, "உயரம்"), kHeightBase);
+    assignHeight(site, height.local);
+}
+
+void WidgetWriter::assignHeight(const Site& site, const char* local) {
+    assignSize(local, styledProperty(site.node, "உயரம்"), kHeightBase);
 }
 
 void WidgetWriter::writeSize(const Site& site, Side width, Side height, const char* margin) {

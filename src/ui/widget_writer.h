@@ -39,6 +39,9 @@ public:
 
     /// Writes a widget and all below it: its identity, its visibility, its own block.
     void write(const WidgetNode& widget, const std::string& x, const std::string& y);
+    /// Writes a widget that stands as a value. The trigger of a message is an expression; any other
+    /// is drawn at the page's origin.
+    void writeValue(const WidgetNode& widget);
 
     /// The template of a widget as a brace block, with X, Y and ID of the site where it names them.
     void fill(std::string_view widget, const Site& site, Fills fills);
@@ -53,6 +56,8 @@ public:
     /// Declares one side and lets the properties for it set it.
     void writeWidth(const Site& site, Side width);
     void writeHeight(const Site& site, Side height);
+    /// Lets the property for the height set a local that is declared already.
+    void assignHeight(const Site& site, const char* local);
     /// A child in a brace block of its own, at a place named by two locals, with the size that
     /// `forced` names.
     void writeChild(const WidgetNode& child, const std::string& x, const std::string& y,

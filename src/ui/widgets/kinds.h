@@ -38,7 +38,9 @@ void writePadding(WidgetWriter& w, const Site& at);
 void writeInlinePage(WidgetWriter& w, const Site& at);
 
 // Overlays
-void writeSnackBarTrigger(WidgetWriter& w, const Site& at);
+
+/// The function that shows a message, as an expression.
+void writeSnackBarTrigger(WidgetWriter& w, const SnackBarNode& message);
 
 /// All children one below the other, for containers that don't lay out yet.
 void writeInLines(WidgetWriter& w, const Site& at);
