@@ -53,6 +53,7 @@ const Generator::Section Generator::kSections[] = {
     {"web: boilerplate", emitted::web_boilerplate, nullptr},
     {"web: background video", emitted::web_background_video, nullptr},
     {"web: texts in boxes", emitted::web_box_text, nullptr},
+    {"web: animated images", emitted::web_gif_image, nullptr},
 
     {"structures", "", &Generator::writeStructures},
     {"functions", "", &Generator::writeFunctions},

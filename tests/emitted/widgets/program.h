@@ -78,6 +78,8 @@ float updateProgress(unsigned long long id, std::string condition, bool active, 
                      float durationMs);
 float getCurveValue(std::string name, float t);
 void startBackgroundVideo(const char* path);
+void showGifImage(const char* id, const char* path, float x, float y, float w, float h,
+                  float radius, bool isHovered);
 int loadSVGImage(NVGcontext* vg, const char* filename, float w, float h);
 
 // ---- Text and input ----

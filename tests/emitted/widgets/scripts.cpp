@@ -18,6 +18,7 @@ const struct {
     {"ctx.font = '400 16px ", "measureSnackbar"},
     {"clearRect($0 - 10, $1 - 10, $2 + 20, $3 + 20)", "clearBehindSnackbar"},
     {"video.id = 'pozhilVideo'", "playVideo"},
+    {"{type: 'image/gif'}", "showGif"},
     // The text layer and the clipboard
     {"ctx.clearRect(0, 0, layer.width, layer.height)", "clearTextLayer"},
     {"ctx.fillText(text, x, y)", "drawText"},
