@@ -54,6 +54,7 @@ const Generator::Section Generator::kSections[] = {
     {"web: background video", emitted::web_background_video, nullptr},
     {"web: texts in boxes", emitted::web_box_text, nullptr},
     {"web: animated images", emitted::web_gif_image, nullptr},
+    {"web: inputs", emitted::web_inputs, nullptr},
 
     {"structures", "", &Generator::writeStructures},
     {"functions", "", &Generator::writeFunctions},

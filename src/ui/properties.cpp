@@ -5,6 +5,8 @@ const Expression* property(const WidgetNode& widget, const std::string& key) {
     return found == widget.properties.end() ? nullptr : found->second.get();
 }
 
+bool isEnabled(const WidgetNode& widget) { return property(widget, "செயலிழப்பு") == nullptr; }
+
 const Expression* styledProperty(const WidgetNode& widget, const std::string& key) {
     const Expression* styled = property(widget, "style_" + key);
     return styled != nullptr ? styled : property(widget, key);

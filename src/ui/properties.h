@@ -12,6 +12,9 @@
 /// The value under `key`; null if there is none.
 const Expression* property(const WidgetNode& widget, const std::string& key);
 
+/// False for a widget with the disabling property, whatever its value.
+bool isEnabled(const WidgetNode& widget);
+
 /// The value under the first of `key` behind "style_" and `key` alone that the widget has.
 const Expression* styledProperty(const WidgetNode& widget, const std::string& key);
 

@@ -127,6 +127,32 @@ void WidgetWriter::closeClip() {
     }
 }
 
+namespace {
+
+/// a = 1; b = 2;
+std::string assignments(const ChannelNames& names, const ChannelBytes& bytes, const char* between) {
+    std::string line;
+    for (std::size_t i = 0; i < names.size(); i++) {
+        line += (i == 0 ? "" : between) + std::string(names[i]) + " = " + std::to_string(bytes[i]);
+    }
+    return line + ";";
+}
+
+}  // namespace
+
+void WidgetWriter::declareChannels(const ChannelNames& names, const ChannelBytes& fallback) {
+    text.line("int " + assignments(names, fallback, ", "));
+}
+
+void WidgetWriter::assignChannels(const ChannelNames& names,
+                                  const std::optional<PozhilColor>& colour) {
+    if (!colour) return;
+    text.line(assignments(names,
+                          {channelByte(colour->r), channelByte(colour->g), channelByte(colour->b),
+                           channelByte(colour->a)},
+                          "; "));
+}
+
 void WidgetWriter::writeChannels(const Site& site, const std::string& prefix, Rgb fallback,
                                  const char* key) {
     const auto assignments = [&](const char* type, const Rgb& colour) {

@@ -2,8 +2,10 @@
 // one kind draws stands in its template (src/emitted/widgets) and its function (src/ui/widgets).
 #pragma once
 
+#include <array>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -25,6 +27,9 @@ struct Side {
     const char* local;
     const char* fallback;
 };
+
+using ChannelNames = std::array<const char*, 4>;
+using ChannelBytes = std::array<int, 4>;
 
 /// The size that a parent forces on a child, as C++ texts: by default none.
 struct Forced {
@@ -70,6 +75,10 @@ public:
     void openClip(const std::string& x, const std::string& y, const std::string& w,
                   const std::string& h);
     void closeClip();
+    /// Ints of those names, a colour's channels as bytes: red, green, blue, alpha.
+    void declareChannels(const ChannelNames& names, const ChannelBytes& fallback);
+    /// Sets them, unless there is no colour.
+    void assignChannels(const ChannelNames& names, const std::optional<PozhilColor>& colour);
     /// Three ints named `prefix` and R, G, B: `fallback`, then what the property `key` says.
     void writeChannels(const Site& site, const std::string& prefix, Rgb fallback, const char* key);
 

@@ -76,7 +76,7 @@ bool hasPress(const WidgetNode& widget) {
 
 /// The node that says what a press does: the box, else its style block; null without a press.
 const WidgetNode* pressOf(const WidgetNode& box) {
-    if (property(box, "செயலிழப்பு") != nullptr) return nullptr;
+    if (!isEnabled(box)) return nullptr;
     for (const WidgetNode* node : {&box, childNamed(box, kStyleBlock)}) {
         if (node != nullptr && hasPress(*node)) return node;
     }
@@ -137,7 +137,7 @@ void writeBox(WidgetWriter& w, const Site& at) {
              }},
             {"HAS_HOVER_COLOUR", hoverColour.has_value()},
             {"HOVER_COLOUR", channelTexts(hoverColour.value_or(kTransparent))},
-            {"IS_ENABLED", property(box, "செயலிழப்பு") == nullptr},
+            {"IS_ENABLED", isEnabled(box)},
             {"HAS_IMAGE", image != nullptr},
             w.expression("IMAGE", image),
             {"IS_PRESSED", press != nullptr},

@@ -73,29 +73,15 @@ std::string faceOf(const Label& label) {
 
 // ---- The colours of a button ----
 
-using Channels = std::array<const char*, 4>;
-constexpr Channels kFill = {"r", "g", "b", "a"};
-constexpr Channels kText = {"tr", "tg", "tb", "ta"};
-
-/// r = 255; g = 0; b = 0; a = 255;
-void assign(WidgetWriter& w, const Channels& names, const std::optional<PozhilColor>& colour) {
-    if (!colour) return;
-    const int bytes[] = {channelByte(colour->r), channelByte(colour->g), channelByte(colour->b),
-                         channelByte(colour->a)};
-    std::string line;
-    for (std::size_t i = 0; i < names.size(); i++) {
-        line +=
-            (i == 0 ? "" : " ") + std::string(names[i]) + " = " + std::to_string(bytes[i]) + ";";
-    }
-    w.text.line(line);
-}
+constexpr ChannelNames kFill = {"r", "g", "b", "a"};
+constexpr ChannelNames kText = {"tr", "tg", "tb", "ta"};
 
 /// In the order in which they count: the last one that is given holds.
 void writeColours(WidgetWriter& w, const WidgetNode& button, const Label& label) {
-    assign(w, kFill, colourProperty(button, "பொபின்னணி"));
-    assign(w, kFill, colourProperty(button, "style_பின்னணி"));
-    if (!label.colour.empty()) assign(w, kText, colourOfText(label.colour));
-    assign(w, kText, colourProperty(button, "style_எழுத்து_நிறம்"));
+    w.assignChannels(kFill, colourProperty(button, "பொபின்னணி"));
+    w.assignChannels(kFill, colourProperty(button, "style_பின்னணி"));
+    if (!label.colour.empty()) w.assignChannels(kText, colourOfText(label.colour));
+    w.assignChannels(kText, colourProperty(button, "style_எழுத்து_நிறம்"));
     const auto hover = colourProperty(button, "style_மேம்படுத்தப்பட்ட_நிறம்");
     if (!hover) return;
     const Rgb bytes = channelBytes(*hover);
@@ -110,8 +96,6 @@ void turnColour(WidgetWriter& w) {
         w.text.line(std::string(channel) + " = (int)(currentCol." + channel + " * 255.0f + 0.5f);");
     }
 }
-
-bool isEnabled(const WidgetNode& widget) { return property(widget, "செயலிழப்பு") == nullptr; }
 
 }  // namespace
 

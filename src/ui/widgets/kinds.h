@@ -12,7 +12,22 @@ float fontSizeOf(const WidgetNode& text);
 
 void writeNothing(WidgetWriter& w, const Site& at);
 void writeText(WidgetWriter& w, const Site& at);
+
+// What is chosen and typed
 void writeCheckBox(WidgetWriter& w, const Site& at);
+void writeRadio(WidgetWriter& w, const Site& at);
+void writeSwitch(WidgetWriter& w, const Site& at);
+void writeSlider(WidgetWriter& w, const Site& at);
+void writeDropdown(WidgetWriter& w, const Site& at);
+void writeTextBox(WidgetWriter& w, const Site& at);
+void writePasswordBox(WidgetWriter& w, const Site& at);
+void writeSearchBar(WidgetWriter& w, const Site& at);
+
+// What shows a state
+void writeSpinner(WidgetWriter& w, const Site& at);
+void writeProgressBar(WidgetWriter& w, const Site& at);
+void writeMessageBar(WidgetWriter& w, const Site& at);
+void writeListTile(WidgetWriter& w, const Site& at);
 
 // Buttons and pictures
 void writeButton(WidgetWriter& w, const Site& at);
@@ -37,10 +52,9 @@ void writeDivider(WidgetWriter& w, const Site& at);
 void writePadding(WidgetWriter& w, const Site& at);
 void writeInlinePage(WidgetWriter& w, const Site& at);
 
-// Overlays
-
+// What lies over a page and around it
+void writeAlert(WidgetWriter& w, const Site& at);
+void writeBottomBar(WidgetWriter& w, const Site& at);
+void writeTabBar(WidgetWriter& w, const Site& at);
 /// The function that shows a message, as an expression.
 void writeSnackBarTrigger(WidgetWriter& w, const SnackBarNode& message);
-
-/// All children one below the other, for containers that don't lay out yet.
-void writeInLines(WidgetWriter& w, const Site& at);

@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr ChannelNames kLine = {"r", "g", "b", "a"};
+
 /// Digits that a float is made of by what is appended: a number with a point becomes text that
 /// doesn't compile. Meant: a size here is a whole number.
 std::string wholePixels(const std::string& digits) { return digits + ".0f"; }
@@ -15,16 +17,17 @@ std::string dividerThickness(const WidgetNode& divider) {
     return number == nullptr ? "1.0f" : wholePixels(number->value);
 }
 
-void writeDividerColour(WidgetWriter& w, const WidgetNode& divider) {
-    w.text.line("int r=158, g=158, b=158, a=255;");
-    const auto colour = colourOf(styledProperty(divider, "நிறம்"));
-    if (!colour) return;
-    const auto channel = [](float value) { return std::to_string(channelByte(value)); };
-    w.text.line("r=" + channel(colour->r) + "; g=" + channel(colour->g) +
-                "; b=" + channel(colour->b) + "; a=" + channel(colour->a) + ";");
+}  // namespace
+
+void writeNothing(WidgetWriter&, const Site&) {}
+
+/// The space is the parent's to give: without a child nothing is written, and the share is taken
+/// all the same.
+void writeFirstChild(WidgetWriter& w, const Site& at) {
+    if (const WidgetNode* child = firstWidget(at.node)) w.write(*child, at.x, at.y);
 }
 
-}  // namespace
+void writeSpacer(WidgetWriter& w, const Site&) { w.text.line("// இவெ (Spacer) - Space reserved"); }
 
 void writeDivider(WidgetWriter& w, const Site& at) {
     w.fill(widget_templates::divider, at,
@@ -33,7 +36,10 @@ void writeDivider(WidgetWriter& w, const Site& at) {
                  w.writeSize(at, {"divWidth", "300.0f"}, {"divHeight", "20.0f"}, "0.0f");
              }},
             {"THICKNESS", dividerThickness(at.node)},
-            {"COLOUR", [&] { writeDividerColour(w, at.node); }}});
+            {"COLOUR", [&] {
+                 w.declareChannels(kLine, {158, 158, 158, 255});
+                 w.assignChannels(kLine, colourOf(styledProperty(at.node, "நிறம்")));
+             }}});
 }
 
 /// The word of a source makes a node of another name, so that a padding that a program writes draws

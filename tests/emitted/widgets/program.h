@@ -80,6 +80,18 @@ float getCurveValue(std::string name, float t);
 void startBackgroundVideo(const char* path);
 void showGifImage(const char* id, const char* path, float x, float y, float w, float h,
                   float radius, bool isHovered);
+
+// ---- Inputs of the page, and the script of warnings ----
+void placeTextBox(const char* id, const char* hint, bool isMultiline, const char* color, float x,
+                  float y, float w, float h, float fontSize);
+void placePasswordBox(const char* id, const char* hint, const char* background, const char* color,
+                      float x, float y, float w, float h);
+void placeSearchBar(const char* id, const char* hint, float x, float y, float w, float h,
+                    float fontSize);
+void emptyInput(const char* id);
+float measureOnFreshCanvas(const char* text, float fontSize);
+void dimAround(float x, float y, float w, float h, float radius, float winW, float winH);
+
 int loadSVGImage(NVGcontext* vg, const char* filename, float w, float h);
 
 // ---- Text and input ----

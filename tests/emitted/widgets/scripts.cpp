@@ -27,6 +27,13 @@ const struct {
     {"ctx.font = UTF8ToString($1) + ' ' + $2", "measureBoxText"},
     {"navigator.clipboard.writeText(str)", "copyToClipboard"},
     {"addEventListener('paste'", "listenForPaste"},
+    // Inputs of the page
+    {"isMultiline ? 'textarea' : 'input'", "placeTextBox"},
+    {"input.style.borderColor = '#2196F3'", "placePasswordBox"},
+    {"input.style.color = '#333';", "placeSearchBar"},
+    {"if (input) input.value = \"\";", "emptyInput"},
+    {"document.createElement('canvas').getContext('2d')", "measureOnFreshCanvas"},
+    {"'rgba(0,0,0,0.63)'", "dimAround"},
     // The start and the keys
     {"document.activeElement.tagName === 'INPUT' ? 1 : 0", "isInputActive"},
     {"GLFW.onKeydown = function", "letInputsHaveTheirKeys"},

@@ -21,7 +21,7 @@ bool contains(const std::string& text, const std::string& part) {
 }
 
 TEST(WidgetFrame, RegistersAPlaceBeforeTheVisibility) {
-    const std::string text = written("மாற்றி(அடையாளம்: \"அ\", காட்சி_பெயர்: \"நி\")");
+    const std::string text = written("வெற்றிடம்(அடையாளம்: \"அ\", காட்சி_பெயர்: \"நி\")");
     EXPECT_EQ(text.rfind("{\n"
                          "    std::string _wid = fn_any_to_string(std::string(u8\"அ\"));\n"
                          "    if (!_wid.empty()) g_widgetPositions[_wid] = {(float)(wX), "
@@ -35,7 +35,7 @@ TEST(WidgetFrame, RegistersAPlaceBeforeTheVisibility) {
 }
 
 TEST(WidgetFrame, ShowsAnythingUntilItsFlagIsCleared) {
-    EXPECT_EQ(written("மாற்றி(காட்சி_பெயர்: \"நி\")"),
+    EXPECT_EQ(written("வெற்றிடம்(காட்சி_பெயர்: \"நி\")"),
               "// --- Visibility Check for: நி ---\n"
               "g_alert_names.insert(\"நி\");\n"
               "if (global_vars.find(\"நி\") == global_vars.end() || "
@@ -45,16 +45,22 @@ TEST(WidgetFrame, ShowsAnythingUntilItsFlagIsCleared) {
 }
 
 TEST(WidgetFrame, HidesAWarningUntilItsFlagIsSet) {
-    EXPECT_EQ(written("எச்சரிக்கை(காட்சி_பெயர்: \"நி\")"),
-              "// --- Visibility Check for: நி ---\n"
-              "g_alert_names.insert(\"நி\");\n"
-              "if (global_vars.count(\"நி\") && global_vars[\"நி\"].type() == typeid(bool) && "
-              "std::any_cast<bool>(global_vars[\"நி\"]) == true) {\n"
-              "} // End Visibility Check for நி\n");
+    const std::string text = written("எச்சரிக்கை(காட்சி_பெயர்: \"நி\")");
+    EXPECT_EQ(text.rfind("// --- Visibility Check for: நி ---\n"
+                         "g_alert_names.insert(\"நி\");\n"
+                         "if (global_vars.count(\"நி\") && global_vars[\"நி\"].type() == "
+                         "typeid(bool) && std::any_cast<bool>(global_vars[\"நி\"]) == true) {\n"
+                         "    {\n"
+                         "        g_overlays.push_back(",
+                         0),
+              0U)
+        << text;
+    const std::string end = "    }\n} // End Visibility Check for நி\n";
+    EXPECT_EQ(text.substr(text.size() - end.size()), end);
 }
 
 TEST(WidgetFrame, HasNoGateForANameThatIsNoLiteral) {
-    EXPECT_EQ(written("மாற்றி(காட்சி_பெயர்: நி)"), "");
+    EXPECT_EQ(written("வெற்றிடம்(காட்சி_பெயர்: நி)"), "");
 }
 
 TEST(WidgetFrame, GivesAShareItsFirstChildAtTheSamePlace) {

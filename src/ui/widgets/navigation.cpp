@@ -1,0 +1,76 @@
+// Bars that lead from page to page.
+#include "ui/properties.h"
+#include "ui/widgets/kinds.h"
+#include "widget_templates.h"
+#include "writing/texts.h"
+
+namespace {
+
+std::vector<const WidgetNode*> itemsOf(const WidgetNode& bar, const char* name) {
+    std::vector<const WidgetNode*> items;
+    for (const WidgetNode* child : widgetChildren(bar)) {
+        if (child->name == name) items.push_back(child);
+    }
+    return items;
+}
+
+/// The digits of a number literal; "0" for anything else.
+std::string chosen(const WidgetNode& bar, const char* key) {
+    const std::string* number = numberProperty(bar, key);
+    return number == nullptr ? "0" : *number;
+}
+
+std::string background(const WidgetNode& bar, const PozhilColor& fallback) {
+    return channelTexts(colourProperty(bar, "style_பின்னணி").value_or(fallback));
+}
+
+/// The path of an item's picture; null without one.
+const std::string* iconOf(const WidgetNode& item) {
+    const WidgetNode* picture = childNamed(item, "படம்");
+    const std::string* path = picture == nullptr ? nullptr : stringProperty(*picture, "பாதை");
+    return path != nullptr ? path : stringProperty(item, "பாதை");
+}
+
+void writeBottomItem(WidgetWriter& w, const Site& at, const WidgetNode& item, std::size_t place) {
+    const std::string* icon = iconOf(item);
+    const Expression* label = property(item, "உரை");
+    w.fill(widget_templates::bottom_item, at,
+           {{"PLACE", std::to_string(place)},
+            {"HAS_ICON", icon != nullptr},
+            {"ICON", asWritten(icon == nullptr ? "" : *icon)},
+            {"HAS_LABEL", label != nullptr},
+            w.expression("LABEL", label)});
+}
+
+}  // namespace
+
+void writeBottomBar(WidgetWriter& w, const Site& at) {
+    const auto items = itemsOf(at.node, "அடி_உருப்படி");
+    w.fill(widget_templates::bottom_bar, at,
+           {{"CHOSEN", chosen(at.node, "அடிப்பகுதிதேர்வு")},
+            {"COUNT", std::to_string(items.size())},
+            {"BACKGROUND", background(at.node, {1, 1, 1, 1})},
+            {"HANDLER", [&] { w.writeHandler(at, "அழுத்தினால்"); }},
+            {"ITEMS", [&] {
+                 for (std::size_t i = 0; i < items.size(); i++) {
+                     writeBottomItem(w, at, *items[i], i);
+                 }
+             }}});
+}
+
+void writeTabBar(WidgetWriter& w, const Site& at) {
+    const auto items = itemsOf(at.node, "தத்தல்_உருப்படி");
+    w.fill(widget_templates::tab_bar, at,
+           {{"CHOSEN", chosen(at.node, "தத்தல்_தேர்வு")},
+            {"COUNT", std::to_string(items.size())},
+            {"BACKGROUND", background(at.node, {33 / 255.0F, 150 / 255.0F, 243 / 255.0F, 1})},
+            {"HANDLER", [&] { w.writeHandler(at, "அழுத்தினால்"); }},
+            {"ITEMS", [&] {
+                 for (std::size_t i = 0; i < items.size(); i++) {
+                     const Expression* label = property(*items[i], "உரை");
+                     if (label == nullptr) continue;
+                     w.fill(widget_templates::tab_item, at,
+                            {{"PLACE", std::to_string(i)}, w.expression("LABEL", label)});
+                 }
+             }}});
+}

@@ -1,0 +1,7 @@
+// What stands for the placeholders of this widget where it is compiled alone.
+#pragma once
+
+#define POZHIL_CHOSEN 0
+#define POZHIL_COUNT 2
+#define POZHIL_BACKGROUND 1.0f, 1.0f, 1.0f, 1.0f
+#define POZHIL_ITEMS nvgCircle(vg, itemW, navY, currentIndex);
