@@ -162,6 +162,7 @@ int ErrorHandler::visualWidth(std::string text) {
 
 #ifdef POZHIL_WITH_INSTANCES
 #include "emitted/includes.cpp"
+#include "emitted/animation_state.cpp"
 #include "error_codes.h"
 
 #define POZHIL_INSTANCE template

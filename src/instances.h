@@ -4,6 +4,7 @@
 // They name parts of libstdc++ that only its own headers show, and are for g++ alone.
 
 struct _StructBase;
+struct AnimationState;
 
 namespace pozhil {
 using List = std::vector<std::any>;
@@ -30,6 +31,12 @@ POZHIL_MAP_INSTANCE(bool)
 POZHIL_MAP_INSTANCE(int)
 POZHIL_MAP_INSTANCE(float)
 #undef POZHIL_MAP_INSTANCE
+
+POZHIL_INSTANCE class std::map<unsigned long long, AnimationState>;
+POZHIL_INSTANCE class std::_Rb_tree<
+    unsigned long long, std::pair<const unsigned long long, AnimationState>,
+    std::_Select1st<std::pair<const unsigned long long, AnimationState>>,
+    std::less<unsigned long long>>;
 
 POZHIL_INSTANCE class std::shared_ptr<_StructBase>;
 POZHIL_INSTANCE class std::__shared_ptr<_StructBase>;

@@ -1,35 +1,38 @@
 // The animation engine: easing curves by name, and how far each animation is. What widgets call
 // each frame is updateProgress of the boilerplate; the pair that looks at the clock is here for
-// whoever wants it, and no widget calls it.
+// whoever wants it, and no widget calls it. Every program carries the engine and few use it: so
+// that the others are built as fast without it, what needs containers are templates, all else is
+// inline, and curves stand in plain tables.
 
-struct AnimationState {
-    double startTime = 0.0;
-    bool isRunning = false;
-    float currentProgress = 0.0f;
-    bool hasTriggered = false;
-};
 std::map<unsigned long long, AnimationState> g_animationStates;
 
-float lerp(float start, float target, float progress) {
+inline float lerp(float start, float target, float progress) {
     return start + (target - start) * progress;
 }
 
-float easeLinear(float t) { return t; }
-float easeInQuad(float t) { return t * t; }
-float easeOutQuad(float t) { return t * (2.0f - t); }
-float easeInOutQuad(float t) { return t < 0.5f ? 2.0f * t * t : -1.0f + (4.0f - 2.0f * t) * t; }
-float easeInCubic(float t) { return t * t * t; }
-float easeOutCubic(float t) { return (t - 1.0f) * (t - 1.0f) * (t - 1.0f) + 1.0f; }
-// The upper half isn't the usual one: at 0.5 it gives -3.5.
-float easeInOutCubic(float t) {
+inline float easeLinear(float t) { return t; }
+inline float easeInQuad(float t) { return t * t; }
+inline float easeOutQuad(float t) { return t * (2.0f - t); }
+inline float easeInOutQuad(float t) {
+    return t < 0.5f ? 2.0f * t * t : -1.0f + (4.0f - 2.0f * t) * t;
+}
+inline float easeInCubic(float t) { return t * t * t; }
+inline float easeOutCubic(float t) { return (t - 1.0f) * (t - 1.0f) * (t - 1.0f) + 1.0f; }
+// The upper half isn't the usual one: at 0.5 it gives -3.5. Meant.
+inline float easeInOutCubic(float t) {
     return t < 0.5f ? 4.0f * t * t * t
                     : 1.0f + (t - 1.0f) * (2.0f * (t - 2.0f)) * (2.0f * (t - 2.0f));
 }
 
+struct PozhilCurve {
+    const char* name;
+    float (*curve)(float);
+};
+
 namespace PozhilCurves {
 const float PI = 3.14159265358979323846f;
 
-float bounceOut(float t) {
+inline float bounceOut(float t) {
     if (t < 1.0f / 2.75f) return 7.5625f * t * t;
     if (t < 2.0f / 2.75f) {
         t -= 1.5f / 2.75f;
@@ -42,21 +45,21 @@ float bounceOut(float t) {
     t -= 2.625f / 2.75f;
     return 7.5625f * t * t + 0.984375f;
 }
-float bounceIn(float t) { return 1.0f - bounceOut(1.0f - t); }
-float elasticIn(float t) {
+inline float bounceIn(float t) { return 1.0f - bounceOut(1.0f - t); }
+inline float elasticIn(float t) {
     if (t == 0.0f || t == 1.0f) return t;
     return -powf(2.0f, 10.0f * t - 10.0f) * sinf((10.0f * t - 10.75f) * (2.0f * PI) / 3.0f);
 }
-float elasticOut(float t) {
+inline float elasticOut(float t) {
     if (t == 0.0f || t == 1.0f) return t;
     return powf(2.0f, -10.0f * t) * sinf((10.0f * t - 0.75f) * (2.0f * PI) / 3.0f) + 1.0f;
 }
 }  // namespace PozhilCurves
 
+template <typename Curve = float (*)(float)>
 std::function<float(float)> பெறு_அசைவூட்ட_வளைவு(const std::string& curveName) {
-    using Curve = float (*)(float);
     using namespace PozhilCurves;
-    static const std::unordered_map<std::string, Curve> curves = {
+    static const PozhilCurve rows[] = {
         {"சாதாரண", [](float t) { return t; }},
         {"இயல்பான", [](float t) { return t * t * (3.0f - 2.0f * t); }},
         {"மெது_தொடக்கம்", [](float t) { return t * t; }},
@@ -153,21 +156,40 @@ std::function<float(float)> பெறு_அசைவூட்ட_வளைவ�
         {"மின்_வேகம்", [](float t) { return powf(t, 2.5f); }},
         {"சீறு", [](float t) { return t * t * t * t; }},
     };
+    static std::unordered_map<std::string, Curve> curves;
+    if (curves.empty()) {
+        for (const PozhilCurve& row : rows) curves[row.name] = row.curve;
+    }
     const auto found = curves.find(curveName);
     return found == curves.end() ? easeLinear : found->second;
 }
 
+template <typename = void>
 std::function<float(float)> getEasingFunction(const std::string& curveName) {
-    const std::string& n = curveName;
-    if (n == "ease_in" || n == "easeIn" || n == "மெதுவா_தொடங்கு") return easeInQuad;
-    if (n == "ease_out" || n == "easeOut" || n == "மெதுவா_முடி") return easeOutQuad;
-    if (n == "ease_in_out" || n == "easeInOut" || n == "மெதுவா_தொடங்கி_முடி") return easeInOutQuad;
-    if (n == "ease_in_cubic" || n == "easeInCubic") return easeInCubic;
-    if (n == "ease_out_cubic" || n == "easeOutCubic") return easeOutCubic;
-    if (n == "ease_in_out_cubic" || n == "easeInOutCubic") return easeInOutCubic;
+    static const PozhilCurve rows[] = {
+        {"ease_in", easeInQuad},
+        {"easeIn", easeInQuad},
+        {"மெதுவா_தொடங்கு", easeInQuad},
+        {"ease_out", easeOutQuad},
+        {"easeOut", easeOutQuad},
+        {"மெதுவா_முடி", easeOutQuad},
+        {"ease_in_out", easeInOutQuad},
+        {"easeInOut", easeInOutQuad},
+        {"மெதுவா_தொடங்கி_முடி", easeInOutQuad},
+        {"ease_in_cubic", easeInCubic},
+        {"easeInCubic", easeInCubic},
+        {"ease_out_cubic", easeOutCubic},
+        {"easeOutCubic", easeOutCubic},
+        {"ease_in_out_cubic", easeInOutCubic},
+        {"easeInOutCubic", easeInOutCubic},
+    };
+    for (const PozhilCurve& row : rows) {
+        if (curveName == row.name) return row.curve;
+    }
     return பெறு_அசைவூட்ட_வளைவு(curveName);
 }
 
+template <typename = void>
 void updateAnimationProgress(unsigned long long nodeId, float duration) {
     AnimationState& state = g_animationStates[nodeId];
     if (!(duration > 0.0f) || state.currentProgress >= 1.0f) return;
@@ -183,6 +205,7 @@ void updateAnimationProgress(unsigned long long nodeId, float duration) {
     state.currentProgress = std::min(1.0f, (float)(elapsed / (double)duration));
 }
 
+template <typename = void>
 float applyAnimation(unsigned long long nodeId, float duration, const std::string& curve,
                      float startValue, float targetValue) {
     updateAnimationProgress(nodeId, duration);

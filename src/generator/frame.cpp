@@ -37,7 +37,8 @@ const Generator::Section Generator::kSections[] = {
     {"values: arithmetic", emitted::arithmetic, nullptr},
     {"module search", emitted::module_path, nullptr},
     {"values: conversion", emitted::conversion, nullptr},
-    {"animation engine", emitted::animation, nullptr},
+    {"animation: its state", emitted::animation_state, nullptr},
+    {"animation: the engine", emitted::animation, nullptr},
 
     {"library: files", emitted::files, nullptr},
     {"library: text", emitted::text, nullptr},

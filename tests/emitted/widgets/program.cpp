@@ -45,6 +45,18 @@ void drawTextByItsDefaults() { drawFixedText(1, 2, "அ", "#000000", 16, "left")
 
 float widthByItsDefault() { return responsiveW(800, 800); }
 
+void advanceByTheClock(unsigned long long nodeId, float duration) {
+    updateAnimationProgress(nodeId, duration);
+}
+
+float leadByTheClock(unsigned long long nodeId, float duration, const std::string& curve,
+                     float startValue, float targetValue) {
+    return applyAnimation(nodeId, duration, curve, startValue, targetValue);
+}
+
+/// The blocks of widgets call it from other files, though it is inline here.
+[[gnu::used]] float (*const keptLerp)(float, float, float) = lerp;
+
 }  // namespace application
 
 #include "emitted/widgets/blocks.h"

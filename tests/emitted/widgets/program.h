@@ -68,9 +68,6 @@ float responsiveTextSize(float baseSize, float winWidth);
 
 // ---- Animation ----
 extern std::map<unsigned long long, AnimationState> g_animationStates;
-void updateAnimationProgress(unsigned long long nodeId, float duration);
-float applyAnimation(unsigned long long nodeId, float duration, const std::string& curve,
-                     float startValue, float targetValue);
 TextParts splitText(std::string s);
 float lerp(float start, float target, float progress);
 NVGcolor lerpColor(NVGcolor a, NVGcolor b, float t);
@@ -139,6 +136,10 @@ int start();
 void drawTextByItsDefaults();
 /// responsiveW(800, 800) with the default of the text itself.
 float widthByItsDefault();
+/// updateAnimationProgress and applyAnimation, which are templates in the text.
+void advanceByTheClock(unsigned long long nodeId, float duration);
+float leadByTheClock(unsigned long long nodeId, float duration, const std::string& curve,
+                     float startValue, float targetValue);
 /// main of the same text for anything but the browser.
 int startOutsideABrowser();
 

@@ -100,22 +100,22 @@ protected:
 
 TEST_F(ClockTest, StartsWithTheFirstCallAndEndsAtOne) {
     browser().now = 5000;
-    updateAnimationProgress(kId, 2);
+    application::advanceByTheClock(kId, 2);
     EXPECT_EQ(progress(), 0);
     EXPECT_TRUE(g_animationStates[kId].isRunning);
     EXPECT_EQ(g_animationStates[kId].startTime, 5.0);
     browser().now = 5500;
-    updateAnimationProgress(kId, 2);
+    application::advanceByTheClock(kId, 2);
     EXPECT_EQ(progress(), 0.25F);
     browser().now = 99000;
-    updateAnimationProgress(kId, 2);
+    application::advanceByTheClock(kId, 2);
     EXPECT_EQ(progress(), 1);
 }
 
 TEST_F(ClockTest, StaysAtItsEnd) {
     g_animationStates[kId] = {1.0, true, 1.0F, false};
     browser().now = 1250;
-    updateAnimationProgress(kId, 2);
+    application::advanceByTheClock(kId, 2);
     EXPECT_EQ(progress(), 1);
     EXPECT_TRUE(g_animationStates[kId].isRunning) << "so it doesn't begin anew";
 }
@@ -123,19 +123,19 @@ TEST_F(ClockTest, StaysAtItsEnd) {
 TEST_F(ClockTest, WithoutADurationStandsStill) {
     for (const float duration : {0.0F, -1.0F}) {
         browser().now += 1000;
-        updateAnimationProgress(kId, duration);
+        application::advanceByTheClock(kId, duration);
         EXPECT_EQ(progress(), 0);
         EXPECT_FALSE(g_animationStates[kId].isRunning);
     }
 }
 
 TEST_F(ClockTest, LeadsAValueAlongACurve) {
-    EXPECT_EQ(applyAnimation(kId, 2, "மெது_தொடக்கம்", 10, 20), 10);
+    EXPECT_EQ(application::leadByTheClock(kId, 2, "மெது_தொடக்கம்", 10, 20), 10);
     browser().now = 1000;
-    EXPECT_EQ(applyAnimation(kId, 2, "மெது_தொடக்கம்", 10, 20), 12.5F);
-    EXPECT_EQ(applyAnimation(kId, 2, "linear", 10, 20), 15);
+    EXPECT_EQ(application::leadByTheClock(kId, 2, "மெது_தொடக்கம்", 10, 20), 12.5F);
+    EXPECT_EQ(application::leadByTheClock(kId, 2, "linear", 10, 20), 15);
     browser().now = 3000;
-    EXPECT_EQ(applyAnimation(kId, 2, "மெது_தொடக்கம்", 10, 20), 20);
+    EXPECT_EQ(application::leadByTheClock(kId, 2, "மெது_தொடக்கம்", 10, 20), 20);
 }
 
 class AnimatedValuesTest : public Surroundings {};
