@@ -10,6 +10,10 @@ constexpr float kFontSize = 16;  ///< Pixels, where no style gives another.
 /// The size of a text as its style gives it, in pixels, before the window scales it.
 float fontSizeOf(const WidgetNode& text);
 
+/// What a text shows, as a value of the program, where the placeholder stands: whoever measures a
+/// text takes it from here too.
+Fill contentOf(WidgetWriter& w, std::string_view name, const WidgetNode& text);
+
 void writeNothing(WidgetWriter& w, const Site& at);
 void writeText(WidgetWriter& w, const Site& at);
 
