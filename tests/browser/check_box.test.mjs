@@ -25,10 +25,10 @@ const source = `வலைதளம் படிவம்(
 `;
 
 const blue = [33, 150, 243], green = [46, 125, 50], white = [255, 255, 255], red = [244, 67, 54];
-// The boxes are 24 pixels wide; a pixel of the fill lies left of the tick.
-const named = {x: 16 + 3, y: 16 + 12}, disabled = {x: 16 + 3, y: 16 + 3 * 32 + 12};
-const ofProgram = {x: 16 + 3, y: 16 + 4 * 32 + 12};
-const edgeOfError = {x: 16 + 12, y: 16 - 3};
+// The column begins at the page's corner: boxes of 24 pixels at 0, 56 and 80, two texts of 16 between.
+// A pixel of the fill lies left of the tick.
+const named = {x: 3, y: 12}, disabled = {x: 3, y: 56 + 12}, ofProgram = {x: 3, y: 80 + 12};
+const edgeOfError = {x: 12, y: 26};
 
 let workplace, compiler, browser, page;
 
@@ -77,9 +77,9 @@ test('starts as source and program say, with the error shown', async () => {
 });
 
 test('a click on the box toggles it once, tells the program, and clears the error', async () => {
-    await page.mouse.move(28, 28);
+    await page.mouse.move(12, 12);
     await until(() => page.evaluate(() => document.body.style.cursor === 'pointer'), 'the pointer');
-    await page.mouse.click(28, 28);
+    await page.mouse.click(12, 12);
     await shows(named, blue);
     await shows(edgeOfError, white);
     await drawsText('மெய்');
@@ -87,7 +87,7 @@ test('a click on the box toggles it once, tells the program, and clears the erro
 });
 
 test('a click on its label toggles it too', async () => {
-    await page.mouse.click(16 + 24 + 12 + 20, 28);
+    await page.mouse.click(24 + 12 + 20, 12);
     await shows(named, white);
     await drawsText('பொய்');
 });
