@@ -65,3 +65,12 @@ std::string chainOfSums(int terms) {
     for (int i = 1; i < terms; i++) source += " கூட்டு " + std::to_string(i % 9 + 1);
     return source + "\n";
 }
+
+std::string columnOfBoxes(int boxes) {
+    std::string source = "வலைதளம் பட்டி(\n    தலைமை()\n    குமரி(\n        நெடுவரிசை(\n";
+    for (int i = 0; i < boxes; i++) {
+        source += "            பெட்டி(அகலம்: 200, உயரம்: 40, பெட்டி_பாணி(பின்னணி: \"#2196F3\"), உரை(\"" +
+                  name(i) + "\")),\n";
+    }
+    return source + "        )\n    )\n    வரையறை()\n)\n";
+}

@@ -17,6 +17,9 @@ std::string mixedLines(int lines);
 /// One assignment of a sum of `terms` numbers.
 std::string chainOfSums(int terms);
 
+/// An application of one column of `boxes` boxes, each with its style and a text.
+std::string columnOfBoxes(int boxes);
+
 /// Seconds of processor time that `action` takes: the same whatever else the machine does.
 template <typename Action>
 double secondsOf(Action action) {

@@ -62,4 +62,10 @@ TEST(FrontEnd, TimeATermOfAChainDoesNotGrow) {
               kMaxGrowthOfTerms);
 }
 
+TEST(FrontEnd, TimeABoxOfAColumnDoesNotGrow) {
+    EXPECT_LE(
+        growth({columnOfBoxes(100), 100}, {columnOfBoxes(1'000), 1'000}, 10, kMaxGrowthOfLines),
+        kMaxGrowthOfLines);
+}
+
 }  // namespace
