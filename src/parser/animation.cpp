@@ -1,6 +1,6 @@
 // The animation block of a widget. It is a literal form: values are read straight from tokens, and
 // indentation in it is free, without any count.
-#include "parser/number_text.h"
+#include "number_text.h"
 #include "parser/parser.h"
 
 namespace {

@@ -2,7 +2,7 @@
 // and parentheses, with free indentation inside.
 #include <utility>
 
-#include "parser/number_text.h"
+#include "number_text.h"
 #include "parser/parser.h"
 
 namespace {

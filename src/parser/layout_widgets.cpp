@@ -3,7 +3,7 @@
 // others take everything in one group. Every missing parenthesis is told at the widget's word.
 #include <utility>
 
-#include "parser/number_text.h"
+#include "number_text.h"
 #include "parser/parser.h"
 #include "parser/token_predicates.h"
 

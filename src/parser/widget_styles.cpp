@@ -1,5 +1,5 @@
 // Alignment, the text style, and the style blocks of buttons and other widgets.
-#include "parser/number_text.h"
+#include "number_text.h"
 #include "parser/parser.h"
 #include "syntax/alignment.h"
 

@@ -1,9 +1,11 @@
 #include "ui/measure.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
+#include "number_text.h"
 #include "static_error.h"
 #include "ui/properties.h"
 
@@ -11,10 +13,11 @@ namespace {
 
 using Measure = float (*)(const Statement*);
 
-/// The number under `key`, or `fallback` where there is none. Throws as std::stof does.
+/// The number under `key`, or `fallback` where there is none. Throws as std::stof does, in every
+/// locale.
 float numberOr(const WidgetNode& widget, const std::string& key, float fallback) {
     const std::string* number = numberProperty(widget, key);
-    return number == nullptr ? fallback : std::stof(*number);
+    return number == nullptr ? fallback : floatOf(*number);
 }
 
 bool isPercentage(const Expression* value) {
@@ -159,12 +162,12 @@ float boxWidth(const WidgetNode& widget) {
     if (style != nullptr) {
         const Expression* width = property(*style, "அகலம்");
         if (isPercentage(width) || isTernary(width)) return 0;
-        if (const std::string* number = numberProperty(*style, "அகலம்")) return std::stof(*number);
+        if (const std::string* number = numberProperty(*style, "அகலம்")) return floatOf(*number);
     }
     for (const char* key : {"style_அகலம்", "அகலம்"}) {
         const Expression* width = property(widget, key);
         if (isPercentage(width) || isTernary(width)) return 0;
-        if (const std::string* number = numberProperty(widget, key)) return std::stof(*number);
+        if (const std::string* number = numberProperty(widget, key)) return floatOf(*number);
     }
     return 100;
 }
@@ -183,11 +186,9 @@ float listTileHeight(const WidgetNode& widget) {
 
 // ---- Grids ----
 
-/// Raises 301 for none: the rows are what is left of a division by it.
-int gridColumns(const WidgetNode& grid, const char* first, const char* second) {
-    const std::string* number = numberProperty(grid, first);
-    if (number == nullptr) number = numberProperty(grid, second);
-    const int columns = number == nullptr ? 3 : std::stoi(*number);
+/// Raises 301 for none: the rows are the result of a division by it.
+float gridColumns(const WidgetNode& grid, const char* first, const char* second) {
+    const float columns = numberOr(grid, first, numberOr(grid, second, 3));
     if (columns == 0) throw_static_error("பொழில்-301", "");
     return columns;
 }
@@ -207,18 +208,16 @@ float orIfZero(float size, float fallback) { return size == 0 ? fallback : size;
 float cells(float count, float size, float gap) { return count * size + (count - 1) * gap; }
 
 float gridWidth(const WidgetNode& grid) {
-    const int columns = gridColumns(grid, "குறுக்கு_எண்ணிக்கை", "cols");
-    const float all = cells(static_cast<float>(columns), orIfZero(largestWidth(grid), 150),
-                            gridGap(grid, "அகலம்"));
+    const float all = cells(gridColumns(grid, "குறுக்கு_எண்ணிக்கை", "cols"),
+                            orIfZero(largestWidth(grid), 150), gridGap(grid, "அகலம்"));
     return explicitSize(grid, "அகலம்", numberOr(grid, "width", all));
 }
 
 float gridHeight(const WidgetNode& grid) {
-    const long long columns = gridColumns(grid, "cols", "குறுக்கு_எண்ணிக்கை");
-    const auto children = static_cast<long long>(widgetChildren(grid).size());
+    const float columns = gridColumns(grid, "cols", "குறுக்கு_எண்ணிக்கை");
+    const auto children = static_cast<float>(widgetChildren(grid).size());
     if (children == 0) return 0;
-    const long long rows = (children + columns - 1) / columns;
-    return cells(static_cast<float>(rows), orIfZero(largestHeight(grid), 40),
+    return cells(std::ceil(children / columns), orIfZero(largestHeight(grid), 40),
                  numberOr(grid, "v_gap", gridGap(grid, "உயரம்")));
 }
 

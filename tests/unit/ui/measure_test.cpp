@@ -1,26 +1,9 @@
-// What widgets measure as far as the source tells.
-#include "ui/measure.h"
-
+// What widgets measure as far as the source tells: texts, check boxes, and what is no widget.
 #include <gtest/gtest.h>
 
-#include "support/front_end.h"
+#include "unit/ui/measured.h"
 
 namespace {
-
-struct Size {
-    float width;
-    float height;
-};
-bool operator==(const Size& a, const Size& b) { return a.width == b.width && a.height == b.height; }
-std::ostream& operator<<(std::ostream& out, const Size& size) {
-    return out << size.width << " x " << size.height;
-}
-
-Size measured(const std::string& widget) {
-    const Parsed parsed = parse(widget + "\n");
-    const Statement* statement = parsed.program.statements.at(0).get();
-    return {calculateWidgetWidth(statement), calculateWidgetHeight(statement)};
-}
 
 TEST(Measure, OfATextCountsCodePoints) {
     EXPECT_EQ(measured("உரை(\"வணக்கம்\")"), (Size{7 * (0.65F * 16), 16}));

@@ -1,4 +1,4 @@
-#include "parser/number_text.h"
+#include "number_text.h"
 
 #include <charconv>
 #include <stdexcept>

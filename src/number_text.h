@@ -1,4 +1,4 @@
-// Numbers of the source that the parser itself reads.
+// Numbers of the source that the compiler itself reads.
 #pragma once
 
 #include <string>

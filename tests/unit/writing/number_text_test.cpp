@@ -1,5 +1,5 @@
-// The numbers that the parser itself reads.
-#include "parser/number_text.h"
+// The numbers that the compiler itself reads.
+#include "number_text.h"
 
 #include <gtest/gtest.h>
 
