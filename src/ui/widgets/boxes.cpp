@@ -100,7 +100,7 @@ void writeBoxChild(WidgetWriter& w, const Site& at, const WidgetNode& child) {
             {"IS_TEXT", child.name == "உரை"},
             {"KIND", asWritten(child.name)},
             {"HAS_TEXT", content != nullptr},
-            w.expression("TEXT", content),
+            contentOf(w, "TEXT", child),
             {"FONT_WEIGHT", asWritten(orDefault(child.textStyle.fontWeight, "400"))},
             {"FONT_SIZE", to_fstr(fontSizeOf(child))},
             {"ALIGN_X", oneDecimal(alignX)},

@@ -51,7 +51,7 @@ void writeDrawnColumnChild(WidgetWriter& w, const Site& at, const WidgetNode& ch
            {{"WIDTH", to_fstr(calculateWidgetWidth(&child))},
             {"IS_TEXT", isText},
             {"HAS_CONTENT", content != nullptr},
-            w.expression("CONTENT", content),
+            contentOf(w, "CONTENT", child),
             {"FONT_SIZE", to_fstr(fontSizeOf(child))},
             {"HAS_SHARE", hasShare},
             {"SHARE", shareText(child, kDown)},
