@@ -64,7 +64,15 @@ TEST(Colours, SevenDigitsReadThreeChannels) {
     expectColour(colour("#ff8000f", true), 1, 128 / 255.0F, 0, 1);
 }
 
+TEST(Colours, NineDigitsReadThreeChannels) {
+    expectColour(colour("#ff8000800", true), 1, 128 / 255.0F, 0, 1);
+}
+
 TEST(Colours, WhatCannotBeReadStaysZero) { expectColour(colour("#ffzz00", true), 1, 0, 0, 1); }
+
+TEST(Colours, AlphaThatCannotBeReadStaysFull) {
+    expectColour(colour("#ff8000zz", true), 1, 128 / 255.0F, 0, 1);
+}
 
 TEST(Colours, MarkMayBeCutAlready) { expectColour(colour("ff8000", true), 1, 128 / 255.0F, 0, 1); }
 
@@ -87,6 +95,10 @@ TEST(ColourText, OfASignAmongTheDigitsIsAFullChannel) {
     EXPECT_EQ(written("#-ff8000", true), "nvgRGBA(255, 248, 0, 255)");
 }
 
-TEST(Colours, HexWithoutMarkIsAName) { expectColour(colour("ff8000", false), 0, 0, 0, 1); }
+TEST(Colours, HexWithoutMarkIsAName) {
+    expectColour(colour("ff8000", false), 0, 0, 0, 1);
+    expectColour(colourOfText("ff8000"), 0, 0, 0, 1);
+    expectColour(colourOfText("#ff8000"), 1, 128 / 255.0F, 0, 1);
+}
 
 }  // namespace
