@@ -23,6 +23,10 @@ void showGifImage(const char* id, const char* path, float x, float y, float w, f
             }
             element.dataset.rawSrc = source;
             element.src = source;
+            // A Blob is found by its bare address only: it starts over all the same.
+            element.onerror = function() {
+                if (element.getAttribute('src') !== source) element.src = source;
+            };
             document.body.appendChild(element);
         }
         var state = $7 ? 'true' : 'false';
