@@ -7,6 +7,7 @@
 #include "ui/sizes.h"
 #include "widget_templates.h"
 #include "writing/marks.h"
+#include "writing/texts.h"
 
 namespace {
 
@@ -130,10 +131,11 @@ void WidgetWriter::closeClip() {
 namespace {
 
 /// a = 1; b = 2;
-std::string assignments(const ChannelNames& names, const ChannelBytes& bytes, const char* between) {
+std::string assignments(const ChannelNames& names, const std::array<std::string, 4>& values,
+                        const char* between) {
     std::string line;
     for (std::size_t i = 0; i < names.size(); i++) {
-        line += (i == 0 ? "" : between) + std::string(names[i]) + " = " + std::to_string(bytes[i]);
+        line += (i == 0 ? "" : between) + std::string(names[i]) + " = " + values[i];
     }
     return line + ";";
 }
@@ -141,16 +143,24 @@ std::string assignments(const ChannelNames& names, const ChannelBytes& bytes, co
 }  // namespace
 
 void WidgetWriter::declareChannels(const ChannelNames& names, const ChannelBytes& fallback) {
-    text.line("int " + assignments(names, fallback, ", "));
+    const auto digits = [&](std::size_t i) { return std::to_string(fallback[i]); };
+    text.line("int " + assignments(names, {digits(0), digits(1), digits(2), digits(3)}, ", "));
 }
 
 void WidgetWriter::assignChannels(const ChannelNames& names,
                                   const std::optional<PozhilColor>& colour) {
     if (!colour) return;
-    text.line(assignments(names,
-                          {channelByte(colour->r), channelByte(colour->g), channelByte(colour->b),
-                           channelByte(colour->a)},
-                          "; "));
+    const auto digits = [](float channel) { return std::to_string(channelByte(channel)); };
+    text.line(assignments(
+        names, {digits(colour->r), digits(colour->g), digits(colour->b), digits(colour->a)}, "; "));
+}
+
+void WidgetWriter::assignParts(const ChannelNames& names,
+                               const std::optional<PozhilColor>& colour) {
+    if (!colour) return;
+    text.line(assignments(
+        names, {to_fstr(colour->r), to_fstr(colour->g), to_fstr(colour->b), to_fstr(colour->a)},
+        "; "));
 }
 
 void WidgetWriter::writeChannels(const Site& site, const std::string& prefix, Rgb fallback,

@@ -79,6 +79,8 @@ public:
     void declareChannels(const ChannelNames& names, const ChannelBytes& fallback);
     /// Sets them, unless there is no colour.
     void assignChannels(const ChannelNames& names, const std::optional<PozhilColor>& colour);
+    /// The same for floats from 0 to 1.
+    void assignParts(const ChannelNames& names, const std::optional<PozhilColor>& colour);
     /// Three ints named `prefix` and R, G, B: `fallback`, then what the property `key` says.
     void writeChannels(const Site& site, const std::string& prefix, Rgb fallback, const char* key);
 

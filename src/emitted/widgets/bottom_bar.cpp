@@ -1,5 +1,5 @@
 // The bar at the foot of the window, wherever it stands in the source. The program owns which item
-// is chosen: a click only tells it.
+// is chosen: a click only tells it. Meant.
 
 void bottom_bar() {
     float winW = (float)EM_ASM_DOUBLE({ return window.innerWidth; });
@@ -15,7 +15,8 @@ void bottom_bar() {
     nvgFill(vg);
     nvgBeginPath(vg);
     nvgRect(vg, 0, navY, winW, navH);
-    nvgFillColor(vg, nvgRGBAf(POZHIL_BACKGROUND));
+    POZHIL_COLOUR;
+    nvgFillColor(vg, nvgRGBA(r, g, b, a));
     nvgFill(vg);
     float itemW = itemCount > 0 ? winW / itemCount : winW;
     float mx = (float)EM_ASM_DOUBLE({ return window.mouseX; });

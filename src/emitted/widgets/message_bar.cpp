@@ -5,7 +5,8 @@ void message_bar() {
     float sbY = std::floor(POZHIL_Y);
     POZHIL_SIZE;
     float radius = sbHeight / 2;
-    float br = POZHIL_RED, bg = POZHIL_GREEN, bb = POZHIL_BLUE, ba = POZHIL_ALPHA;
+    float br = 50.0f / 255.0f, bg = 50.0f / 255.0f, bb = 50.0f / 255.0f, ba = 230.0f / 255.0f;
+    POZHIL_COLOUR;
 #if POZHIL_HAS_MESSAGE
     std::string sbMsg = fn_any_to_string(POZHIL_MESSAGE);
 #else

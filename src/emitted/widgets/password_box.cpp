@@ -1,5 +1,5 @@
 // An input whose look is the page's: the canvas draws a plate below it. It doesn't mask what is
-// typed. It moves the place of what follows by its height.
+// typed. It moves the place of what follows by its height. Meant.
 
 void password_box() {
     float tx = std::floor(POZHIL_X);

@@ -1,5 +1,5 @@
 // One of several to choose. With a value and its group's value the program owns the choice: a click
-// tells the program and changes nothing here. Otherwise it is a mark of its own.
+// tells the program and changes nothing here. Otherwise it is a mark of its own. Meant.
 
 void radio() {
     float rbX = std::floor(POZHIL_X);

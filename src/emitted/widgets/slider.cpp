@@ -1,5 +1,5 @@
 // A slider. The handler runs in every frame of a drag, and the hit area is 10 pixels wider on each
-// side.
+// side. Meant.
 
 void slider() {
     float slX = std::floor(POZHIL_X);

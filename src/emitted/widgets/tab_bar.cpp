@@ -1,4 +1,4 @@
-// A bar of tabs, as wide as the window. It moves the place of what follows by its height.
+// A bar of tabs, as wide as the window. It moves the place of what follows by its height. Meant.
 
 void tab_bar() {
     float tbX = POZHIL_X;
@@ -14,7 +14,8 @@ void tab_bar() {
     nvgFill(vg);
     nvgBeginPath(vg);
     nvgRect(vg, tbX, tbY, tbW, tbH);
-    nvgFillColor(vg, nvgRGBAf(POZHIL_BACKGROUND));
+    POZHIL_COLOUR;
+    nvgFillColor(vg, nvgRGBA(r, g, b, a));
     nvgFill(vg);
     float tabW = tabCount > 0 ? tbW / tabCount : tbW;
     float mx = (float)EM_ASM_DOUBLE({ return window.mouseX; });

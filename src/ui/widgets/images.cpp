@@ -38,13 +38,6 @@ void writeDiameter(WidgetWriter& w, const Site& at) {
     if (!radius.empty()) w.text.line("diameter = " + radius + " * 2.0f;");
 }
 
-void writeBackground(WidgetWriter& w, const WidgetNode& avatar) {
-    const auto colour = colourOf(styledProperty(avatar, "பின்னணி"));
-    if (!colour) return;
-    w.text.line("br = " + to_fstr(colour->r) + "; bg = " + to_fstr(colour->g) +
-                "; bb = " + to_fstr(colour->b) + "; ba = " + to_fstr(colour->a) + ";");
-}
-
 std::string literalOf(const WidgetNode* widget, const char* key) {
     return asWritten(widget == nullptr ? "" : *stringProperty(*widget, key));
 }
@@ -58,14 +51,18 @@ void writeAvatar(WidgetWriter& w, const Site& at) {
     const std::string width =
         numberSizeOr(avatar, "style_கரை_அளவு", numberSizeOr(avatar, "கரை_அளவு", "0.0f"));
     const auto border = colourOf(styledProperty(avatar, "கரை_நிறம்"));
-    w.fill(widget_templates::avatar, at,
-           {{"DIAMETER", [&] { writeDiameter(w, at); }},
-            {"BACKGROUND", [&] { writeBackground(w, avatar); }},
-            {"HAS_PICTURE", picture != nullptr},
-            {"PICTURE", literalOf(picture, "பாதை")},
-            {"HAS_BORDER", width != "0.0f"},
-            {"BORDER_COLOUR", channelTexts(border.value_or(colourOfText("#000000")))},
-            {"BORDER_WIDTH", width},
-            {"HAS_INITIALS", initials != nullptr},
-            {"INITIALS", literalOf(initials, "உரை")}});
+    w.fill(
+        widget_templates::avatar, at,
+        {{"DIAMETER", [&] { writeDiameter(w, at); }},
+         {"BACKGROUND",
+          [&] {
+              w.assignParts({"br", "bg", "bb", "ba"}, colourOf(styledProperty(avatar, "பின்னணி")));
+          }},
+         {"HAS_PICTURE", picture != nullptr},
+         {"PICTURE", literalOf(picture, "பாதை")},
+         {"HAS_BORDER", width != "0.0f"},
+         {"BORDER_COLOUR", channelTexts(border.value_or(colourOfText("#000000")))},
+         {"BORDER_WIDTH", width},
+         {"HAS_INITIALS", initials != nullptr},
+         {"INITIALS", literalOf(initials, "உரை")}});
 }

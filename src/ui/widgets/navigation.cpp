@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr ChannelNames kFill = {"r", "g", "b", "a"};
+
 std::vector<const WidgetNode*> itemsOf(const WidgetNode& bar, const char* name) {
     std::vector<const WidgetNode*> items;
     for (const WidgetNode* child : widgetChildren(bar)) {
@@ -18,10 +20,6 @@ std::vector<const WidgetNode*> itemsOf(const WidgetNode& bar, const char* name) 
 std::string chosen(const WidgetNode& bar, const char* key) {
     const std::string* number = numberProperty(bar, key);
     return number == nullptr ? "0" : *number;
-}
-
-std::string background(const WidgetNode& bar, const PozhilColor& fallback) {
-    return channelTexts(colourProperty(bar, "style_பின்னணி").value_or(fallback));
 }
 
 /// The path of an item's picture; null without one.
@@ -49,7 +47,11 @@ void writeBottomBar(WidgetWriter& w, const Site& at) {
     w.fill(widget_templates::bottom_bar, at,
            {{"CHOSEN", chosen(at.node, "அடிப்பகுதிதேர்வு")},
             {"COUNT", std::to_string(items.size())},
-            {"BACKGROUND", background(at.node, {1, 1, 1, 1})},
+            {"COLOUR",
+             [&] {
+                 w.declareChannels(kFill, {255, 255, 255, 255});
+                 w.assignChannels(kFill, colourProperty(at.node, "style_பின்னணி"));
+             }},
             {"HANDLER", [&] { w.writeHandler(at, "அழுத்தினால்"); }},
             {"ITEMS", [&] {
                  for (std::size_t i = 0; i < items.size(); i++) {
@@ -63,7 +65,11 @@ void writeTabBar(WidgetWriter& w, const Site& at) {
     w.fill(widget_templates::tab_bar, at,
            {{"CHOSEN", chosen(at.node, "தத்தல்_தேர்வு")},
             {"COUNT", std::to_string(items.size())},
-            {"BACKGROUND", background(at.node, {33 / 255.0F, 150 / 255.0F, 243 / 255.0F, 1})},
+            {"COLOUR",
+             [&] {
+                 w.declareChannels(kFill, {33, 150, 243, 255});
+                 w.assignChannels(kFill, colourProperty(at.node, "style_பின்னணி"));
+             }},
             {"HANDLER", [&] { w.writeHandler(at, "அழுத்தினால்"); }},
             {"ITEMS", [&] {
                  for (std::size_t i = 0; i < items.size(); i++) {

@@ -3,13 +3,11 @@
 #include "ui/sizes.h"
 #include "ui/widgets/kinds.h"
 #include "widget_templates.h"
-#include "writing/texts.h"
 
 namespace {
 
 constexpr ChannelNames kChannels = {"r", "g", "b", "a"};
 constexpr ChannelBytes kPrimary = {33, 150, 243, 255};
-constexpr PozhilColor kMessage = {50 / 255.0F, 50 / 255.0F, 50 / 255.0F, 230 / 255.0F};
 
 /// The literal colour of the style's key, or else of the plain one.
 void writeColour(WidgetWriter& w, const Site& at) {
@@ -43,16 +41,16 @@ void writeProgressBar(WidgetWriter& w, const Site& at) {
 
 void writeMessageBar(WidgetWriter& w, const Site& at) {
     const Expression* message = property(at.node, "செய்தி");
-    const PozhilColor colour = colourOf(styledProperty(at.node, "பின்னணி")).value_or(kMessage);
-    w.fill(widget_templates::message_bar, at,
-           {{"SIZE",
-             [&] {
-                 w.writeSize(at, {"sbWidth", "300.0f"}, {"sbHeight", "40.0f"}, "0.0f");
-             }},
-            {"RED", to_fstr(colour.r)},
-            {"GREEN", to_fstr(colour.g)},
-            {"BLUE", to_fstr(colour.b)},
-            {"ALPHA", to_fstr(colour.a)},
-            {"HAS_MESSAGE", message != nullptr},
-            w.expression("MESSAGE", message)});
+    w.fill(
+        widget_templates::message_bar, at,
+        {{"SIZE",
+          [&] {
+              w.writeSize(at, {"sbWidth", "300.0f"}, {"sbHeight", "40.0f"}, "0.0f");
+          }},
+         {"COLOUR",
+          [&] {
+              w.assignParts({"br", "bg", "bb", "ba"}, colourOf(styledProperty(at.node, "பின்னணி")));
+          }},
+         {"HAS_MESSAGE", message != nullptr},
+         w.expression("MESSAGE", message)});
 }

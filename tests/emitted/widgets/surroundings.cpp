@@ -50,14 +50,18 @@ Calls Surroundings::frame(const std::function<void()>& page) {
     return callsOf(render_frame);
 }
 
-Calls Surroundings::drawnBlock(const std::string& name, float forcedWidth, float forcedHeight) {
+const application::Block& Surroundings::blockNamed(const std::string& name) {
     const application::Block* block = application::kBlocks;
     while (block->name != nullptr && block->name != name) block++;
     if (block->name == nullptr) throw std::invalid_argument("no block " + name);
+    return *block;
+}
+
+Calls Surroundings::drawnBlock(const std::string& name, float forcedWidth, float forcedHeight) {
     return drawn([&] {
         forcedW = forcedWidth;
         forcedH = forcedHeight;
-        block->draw();
+        blockNamed(name).draw();
     });
 }
 

@@ -28,7 +28,9 @@ protected:
     static Calls frame(const std::function<void()>& page = {});
     /// The calls of `block` alone, made where the blocks of the pages stand.
     static Calls drawn(const std::function<void()>& block);
-    /// The same of a widget's text in tests/widgets: "text_plain" is that of text/plain.block. A
+    /// A widget's text in tests/widgets. Throws std::invalid_argument for an unknown name.
+    static const application::Block& blockNamed(const std::string& name);
+    /// The calls of a widget's text in tests/widgets: "text_plain" is that of text/plain.block. A
     /// parent forces the size on it that is given.
     static Calls drawnBlock(const std::string& name, float forcedWidth = -1,
                             float forcedHeight = -1);

@@ -3,5 +3,5 @@
 
 #define POZHIL_CHOSEN 0
 #define POZHIL_COUNT 2
-#define POZHIL_BACKGROUND 1.0f, 1.0f, 1.0f, 1.0f
+#define POZHIL_COLOUR int r = 255, g = 255, b = 255, a = 255;
 #define POZHIL_ITEMS nvgCircle(vg, itemW, navY, currentIndex);

@@ -3,5 +3,5 @@
 
 #define POZHIL_CHOSEN 0
 #define POZHIL_COUNT 2
-#define POZHIL_BACKGROUND 0.1f, 0.6f, 0.9f, 1.0f
+#define POZHIL_COLOUR int r = 33, g = 150, b = 243, a = 255;
 #define POZHIL_ITEMS nvgCircle(vg, tabW, tbY, 1);

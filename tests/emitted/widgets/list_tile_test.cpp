@@ -1,0 +1,73 @@
+// Lines of a list: where their parts stand, and what a press does.
+#include "emitted/widgets/forms.h"
+
+namespace {
+
+class ListTileTest : public FormTest {
+protected:
+    ListTileTest() { browser().window["innerWidth"] = 1280; }
+
+    static Calls plate(const std::string& rectangle, const std::string& colour) {
+        return {"nvgBeginPath()", "nvgRoundedRect(" + rectangle + ")",
+                "nvgFillColor(" + colour + ")", "nvgFill()"};
+    }
+};
+
+TEST_F(ListTileTest, WithoutPartsIsAWhitePlate) {
+    EXPECT_EQ(drawnBlock("list_tile_defaults"),
+              join({kPointer, plate("0, 0, 200, 56, 8", "rgba(255, 255, 255, 255)")}));
+    EXPECT_EQ(drawnBlock("list_tile_strings_are_no_titles"),
+              join({kPointer, plate("0, 0, 200, 72, 8", "rgba(255, 255, 255, 255)")}))
+        << "a second line that is no widget makes room and draws nothing";
+}
+
+TEST_F(ListTileTest, IsDarkerUnderThePointer) {
+    pointAt(200, 56);
+    EXPECT_EQ(drawnBlock("list_tile_defaults"),
+              join({kPointer, {kHand}, plate("0, 0, 200, 56, 8", "rgba(245, 245, 245, 255)")}));
+    pointAt(200.5, 56);
+    EXPECT_FALSE(holds(drawnBlock("list_tile_defaults"), kHand));
+}
+
+TEST_F(ListTileTest, SetsItsPartsBesideEachOther) {
+    browser().answerWith("measureText", 60);
+    browser().answerWith("nvgCreateImage", 5);
+    const Calls calls = drawnBlock("list_tile_whole");
+    EXPECT_TRUE(holds(calls, "nvgRoundedRect(0, 0, 400, 72, 12)"));
+    EXPECT_TRUE(holds(calls, "nvgRect(16, 16, 40, 40)")) << "in the middle of 72";
+    bool hasTitle = false;
+    bool hasSubtitle = false;
+    for (const std::string& call : calls) {
+        if (call.rfind("drawText(68, 12, \"தலைப்பு\"", 0) == 0) hasTitle = true;
+        if (call.rfind("drawText(68, 44, \"துணை\"", 0) == 0) hasSubtitle = true;
+    }
+    EXPECT_TRUE(hasTitle) << "16, the picture's 40, 12";
+    EXPECT_TRUE(hasSubtitle) << "72 less 16 and 12";
+}
+
+TEST_F(ListTileTest, SetsATitleAloneInTheMiddle) {
+    browser().answerWith("measureText", 60);
+    bool hasTitle = false;
+    for (const std::string& call : drawnBlock("list_tile_title_alone")) {
+        if (call.rfind("drawText(16, 20, \"தலைப்பு\"", 0) == 0) hasTitle = true;
+    }
+    EXPECT_TRUE(hasTitle);
+}
+
+TEST_F(ListTileTest, TellsTheProgramOfAPress) {
+    int& calls = countCallsOf("திற");
+    drawnBlock("list_tile_whole");
+    clickAt(450, 10, "list_tile_whole");
+    EXPECT_EQ(calls, 0);
+    clickAt(10, 10, "list_tile_whole");
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(ListTileTest, IsBlindBelowAWarning) {
+    pointAt(10, 10);
+    g_alert_names.insert("எச்சரி");
+    global_vars["எச்சரி"] = true;
+    EXPECT_FALSE(holds(drawnBlock("list_tile_defaults"), kHand));
+}
+
+}  // namespace
