@@ -17,12 +17,6 @@ const FlexAxis kAcross = {
 
 namespace {
 
-/// A number literal as C++ text; empty for anything else.
-std::string numberText(const WidgetNode& widget, const std::string& key) {
-    const bool isNumber = numberProperty(widget, key) != nullptr;
-    return isNumber ? processPercentage(property(widget, key), "") : "";
-}
-
 std::string countText(int count) { return std::to_string(count) + ".0f"; }
 
 bool isFlexible(const WidgetNode& child) { return child.name == "நெகிழ்வு"; }
@@ -39,10 +33,6 @@ std::string fixedSize(const WidgetNode& child, const FlexAxis& axis) {
 
 }  // namespace
 
-bool isOrigin(const std::string& place) {
-    return place == "0.0f" || place == "0" || place == "0.0";
-}
-
 bool isSpace(const WidgetNode& child) { return child.name == "இவெ"; }
 
 /// Only a number gives a container a size of its own: with any other value it takes the measured
@@ -53,8 +43,7 @@ void writeContainerSize(WidgetWriter& w, const Site& at, const FlexAxis& axis) {
     const std::string styled = "style_" + std::string(axis.key);
     const bool isSized =
         property(at.node, styled) != nullptr || property(at.node, axis.key) != nullptr;
-    std::string own = numberText(at.node, styled);
-    if (own.empty()) own = numberText(at.node, axis.key);
+    const std::string own = numberSizeOr(at.node, styled, numberSizeOr(at.node, axis.key, ""));
     w.text.line("float " + container + " = (" + forced + " > 0.0f) ? " + forced + " : " +
                 to_fstr(axis.measure(&at.node)) + ";");
     if (!own.empty()) w.text.line(container + " = " + own + ";");
@@ -86,7 +75,6 @@ std::string shareAdvance(const WidgetNode& child, const FlexAxis& axis) {
 }
 
 void writeShares(WidgetWriter& w, const WidgetNode& container, const FlexAxis& axis) {
-    const std::string spacing = numberText(container, "இடைவெளி");
     int total = 0;
     for (const WidgetNode* child : widgetChildren(container)) total += shareOf(*child).value_or(0);
     const auto writeFixedSizes = [&] {
@@ -96,7 +84,7 @@ void writeShares(WidgetWriter& w, const WidgetNode& container, const FlexAxis& a
                         " + spacing;");
         }
     };
-    w.text.fill(widget_templates::shares, {{"SPACING", spacing.empty() ? "0.0f" : spacing},
+    w.text.fill(widget_templates::shares, {{"SPACING", numberSizeOr(container, "இடைவெளி", "0.0f")},
                                            {"TOTAL", countText(total)},
                                            {"FIXED_SUM", axis.fixedSum},
                                            {"FIXED_SIZES", writeFixedSizes},

@@ -27,12 +27,8 @@ struct FlexAxis {
 extern const FlexAxis kDown;
 extern const FlexAxis kAcross;
 
-/// True for the text of a page's own corner: such a container fills the window, and nothing can be
-/// assigned to it.
-bool isOrigin(const std::string& place);
-
 /// Declares the container's size: the forced one or else what it measures, its own number, or the
-/// window's.
+/// window's at a page's own corner.
 void writeContainerSize(WidgetWriter& w, const Site& at, const FlexAxis& axis);
 
 /// The number of shares that a child takes of the free space; nothing for one that keeps its size.

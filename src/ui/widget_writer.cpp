@@ -24,6 +24,10 @@ bool names(std::string_view text, std::string_view name) {
 
 }  // namespace
 
+bool isOrigin(const std::string& place) {
+    return place == "0.0f" || place == "0" || place == "0.0";
+}
+
 WidgetWriter::WidgetWriter(TextWriter& text, ProgramText programText)
     : text(text), programText(std::move(programText)) {}
 

@@ -22,6 +22,9 @@ struct Site {
     std::string id;
 };
 
+/// True for the place of a page's own corner, which is no variable: nothing can be assigned to it.
+bool isOrigin(const std::string& place);
+
 /// One side of a widget: the local that holds it, and the C++ text of its default.
 struct Side {
     const char* local;

@@ -49,11 +49,6 @@ void writeGridChild(WidgetWriter& w, const Site& at, const WidgetNode& child) {
     w.fill(widget_templates::grid_child, at, {heightOf(child), childAtCursor(w, child)});
 }
 
-/// True for the places that are no variable, so that nothing can be assigned to them.
-bool isLiteralPlace(const std::string& place) {
-    return place == "0.0f" || place == "0" || place == "0.0";
-}
-
 /// The digits of the first of the two keys that has a number, else two. A grid without either is
 /// measured by three. Meant.
 std::string gridColumns(const WidgetNode& grid) {
@@ -84,7 +79,7 @@ void writeStack(WidgetWriter& w, const Site& at) {
 void writeWrap(WidgetWriter& w, const Site& at) {
     w.fill(widget_templates::wrap, at,
            {{"SPACING", numberSizeOr(at.node, "இடைவெளி", "10.0f")},
-            {"WRITES_BACK", !isLiteralPlace(at.y)},
+            {"WRITES_BACK", !isOrigin(at.y)},
             childrenOf(w, at, writeWrapChild)});
 }
 
