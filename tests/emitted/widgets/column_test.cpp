@@ -62,6 +62,15 @@ TEST_F(ColumnTest, SharesOutNothingForNoShare) {
     EXPECT_EQ(placesIn("column_shares_of_none"), (Calls{"அ at 0, 0"}));
 }
 
+TEST_F(ColumnTest, SharesOutNothingWhereNothingIsLeft) {
+    EXPECT_EQ(placesIn("column_shares_of_no_room"), (Calls{"அ at 0, 0", "ஆ at 0, 0"}));
+}
+
+TEST_F(ColumnTest, MovesThePlaceOfWhatHoldsIt) {
+    EXPECT_EQ(placesIn("column_moves_what_holds_it"),
+              (Calls{"அ at 0, 0", "ஆ at 0, 16", "இ at 20.4, 32"}));
+}
+
 TEST_F(ColumnTest, SkipsSpaces) {
     EXPECT_EQ(placesIn("column_spaces"), (Calls{"அ at 0, 0", "ஆ at 0, 708"}));
 }

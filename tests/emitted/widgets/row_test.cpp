@@ -53,6 +53,11 @@ TEST_F(RowTest, ForcesAShareOnItsChild) {
     EXPECT_EQ(size(frameOf("row_shares_in_the_middle")), "3.9,");
 }
 
+TEST_F(RowTest, ForcesNoHeightOnABoxThatSharesItsWidth) {
+    EXPECT_EQ(placesIn("row_of_boxes"), (Calls{"nvgRoundedRect(0, 550, 600, 50, 0)",
+                                               "nvgRoundedRect(600, 540, 200, 60, 0)"}));
+}
+
 TEST_F(RowTest, SkipsSpaces) {
     EXPECT_EQ(placesIn("row_spaces"), (Calls{"அ at 0, 0", "ஆ at 110.4, 0"}));
 }
