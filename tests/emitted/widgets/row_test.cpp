@@ -54,7 +54,7 @@ TEST_F(RowTest, ForcesAShareOnItsChild) {
 }
 
 TEST_F(RowTest, ForcesNoHeightOnABoxThatSharesItsWidth) {
-    EXPECT_EQ(placesIn("row_of_boxes"), (Calls{"nvgRoundedRect(0, 550, 600, 50, 0)",
+    EXPECT_EQ(placesIn("row_of_boxes"), (Calls{"nvgRoundedRect(0, 560, 600, 40, 0)",
                                                "nvgRoundedRect(600, 540, 200, 60, 0)"}));
 }
 

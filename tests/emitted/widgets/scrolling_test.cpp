@@ -50,6 +50,16 @@ TEST_F(ScrollingTest, NeedsThePointerInsideOrOnTheEdge) {
     EXPECT_EQ(placesAfterWheel("column_scrolls", 0, 0, -30)[0], "அ at 0, 0");
 }
 
+TEST_F(ScrollingTest, NeedsThePointerWhereverTheColumnBegins) {
+    const auto top = [](double x, double y) {
+        return placesAfterWheel("column_scrolls_inside", x, y, 30)[1];
+    };
+    EXPECT_EQ(top(100, 15), "ஆ at 0, 16");
+    EXPECT_EQ(top(301, 100), "ஆ at 0, 16");
+    EXPECT_EQ(top(100, 617), "ஆ at 0, 16");
+    EXPECT_EQ(top(100, 616), "ஆ at 0, -14");
+}
+
 TEST_F(ScrollingTest, OfAColumnLeavesTheWheelToARowThatWantsIt) {
     g_nextHoveringH = true;
     EXPECT_EQ(placesAfterWheel("column_scrolls", 100, 100, 30)[0], "அ at 0, 0");
