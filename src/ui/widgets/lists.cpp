@@ -35,7 +35,8 @@ void writeStackChild(WidgetWriter& w, const Site& at, const WidgetNode& child) {
             {"CHILD", [&] { w.writeChild(child, "childX", "childY"); }}});
 }
 
-/// A place in a wrap or a grid is the container's own, since it moves on behind each child.
+/// The place is the container's own cursor. So a child that tells its parent where it ends, as a
+/// column does, moves the rest of the line down. Meant.
 Fill childAtCursor(WidgetWriter& w, const WidgetNode& child) {
     return {"CHILD", [&w, &child] { w.writeChild(child, "curX", "curY"); }};
 }

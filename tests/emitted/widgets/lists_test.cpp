@@ -73,6 +73,12 @@ TEST_F(ListsTest, WrapInsideAWrapTakesNoWidth) {
     EXPECT_EQ(placesOf("wrap_inside_a_wrap"), (Calls{"0, 0, 24, 24", "10, 0, 24, 24"}));
 }
 
+TEST_F(ListsTest, WrapMovesTheColumnItStandsInBesideItsMeasure) {
+    // It ends at 24 + 10, and measures three lines of 24 and 20.
+    EXPECT_EQ(placesOf("wrap_in_a_column"),
+              (Calls{"0, 0, 24, 24", "34, 0, 24, 24", "0, 126, 24, 24"}));
+}
+
 // ---- Grids ----
 
 TEST_F(ListsTest, GridHasTwoColumnsOfAGridMeasuredForThree) {
@@ -110,6 +116,17 @@ TEST_F(ListsTest, GridOfOneIsOneColumn) {
 TEST_F(ListsTest, GridBeginsEachLineAtItsPlace) {
     EXPECT_EQ(placesOf("grid_at_a_place"),
               (Calls{"100, 40, 24, 24", "210, 40, 24, 24", "320, 40, 24, 24", "100, 74, 24, 24"}));
+}
+
+TEST_F(ListsTest, GridTakesWhatEachKindMeasures) {
+    // The widest measures 120: three cells and two gaps make 380, and a cell 120.
+    EXPECT_EQ(placesOf("grid_of_many_kinds"),
+              (Calls{"130, 0, 120, 80", "260, 0, 60, 24", "0, 90, 24, 24"}));
+}
+
+TEST_F(ListsTest, GridGoesDownBehindEachColumn) {
+    EXPECT_EQ(placesOf("grid_of_columns"),
+              (Calls{"0, 0, 24, 24", "34, 24, 24, 24", "0, 82, 24, 24"}));
 }
 
 TEST_F(ListsTest, ForcesNothingOnItsChildren) {

@@ -69,6 +69,11 @@ TEST_F(SpacesTest, PaddingOfASourceDrawsNothing) {
     EXPECT_EQ(drawnBlock("padding_of_the_other_word"), Calls{});
 }
 
+TEST_F(SpacesTest, PaddingOfASourceTakesItsPlaceAllTheSame) {
+    const Calls calls = drawnBlock("padding_takes_its_place_all_the_same");
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "nvgRoundedRect(0, 40, 24, 24, 5)"), 1);
+}
+
 TEST_F(SpacesTest, InlinePageShowsWhileItsNameIsThePages) {
     EXPECT_EQ(drawnBlock("inline_page_named"), Calls{});
     g_currentPage = "உதவி";
