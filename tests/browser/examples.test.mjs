@@ -67,7 +67,7 @@ async function still(page) {
         last = sum;
         await page.waitForTimeout(300);
         return isStill;
-    }, 'the texts to come to rest', 30);
+    }, 'the texts to come to rest', 120);
 }
 
 // What an example does, on the desk's screen. One without a row is opened alone.
