@@ -96,7 +96,7 @@ for (const [width, height, deviceScaleFactor] of [[1280, 720, 1], [400, 700, 1],
 
     /** Photographs the page until each of `places`, [x, y, colour], shows its colour. */
     async function sees(what, places, seconds = 60) {
-        let wrong;
+        let wrong = ['no photograph'];
         const looked = until(async () => {
             const picture = PNG.sync.read(await photograph(page, `boxes_${what}_${width}_${deviceScaleFactor}`));
             wrong = places.map(([left, top, colour]) => {
@@ -119,6 +119,7 @@ for (const [width, height, deviceScaleFactor] of [[1280, 720, 1], [400, 700, 1],
         page = await openPage(browser,
             {viewport: {width, height}, screen: {width: 1920, height: 1080}, deviceScaleFactor},
             opened => opened.addInitScript(keepTexts));
+        page.setDefaultTimeout(120_000);  // a large photograph takes long on a busy machine
         await page.goto(address);
         const right = width - 60, low = height - 40;
         await sees('corners', [

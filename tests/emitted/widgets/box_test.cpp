@@ -317,7 +317,7 @@ TEST_F(BoxTest, IsAlignedByItsGroupUnlessAPropertySaysOther) {
     EXPECT_EQ(rectangles(drawnBlock("box_aligned_in_a_group")).back(),
               "nvgRoundedRect(176, 76, 24, 24, 5)");
     EXPECT_EQ(rectangles(drawnBlock("box_aligned_by_an_unknown_word")).back(),
-              "nvgRoundedRect(38, 38, 24, 24, 5)");
+              "nvgRoundedRect(76, 76, 24, 24, 5)");
     EXPECT_EQ(rectangles(drawnBlock("box_aligned_twice")).back(),
               "nvgRoundedRect(76, 76, 24, 24, 5)");
 }
