@@ -8,11 +8,7 @@ void box_child() {
     float childH = POZHIL_HEIGHT;
 #if POZHIL_IS_TEXT
     if (std::string(u8"உரை") == POZHIL_KIND) {
-#if POZHIL_HAS_TEXT
         std::string _boxTxt = fn_any_to_string(POZHIL_TEXT);
-#else
-        std::string _boxTxt = std::string("");
-#endif
         childW = getBoxTextWidth(_boxTxt.c_str(), POZHIL_FONT_WEIGHT, POZHIL_FONT_SIZE);
     }
 #endif

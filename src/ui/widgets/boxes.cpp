@@ -93,13 +93,11 @@ const WidgetNode* pressOf(const WidgetNode& box) {
 
 void writeBoxChild(WidgetWriter& w, const Site& at, const WidgetNode& child) {
     const auto [alignX, alignY] = getAlignmentCoords(alignmentOf(at.node));
-    const Expression* content = property(child, "உரை");
     w.fill(widget_templates::box_child, at,
            {{"WIDTH", to_fstr(calculateWidgetWidth(&child))},
             {"HEIGHT", to_fstr(calculateWidgetHeight(&child))},
             {"IS_TEXT", child.name == "உரை"},
             {"KIND", asWritten(child.name)},
-            {"HAS_TEXT", content != nullptr},
             contentOf(w, "TEXT", child),
             {"FONT_WEIGHT", asWritten(orDefault(child.textStyle.fontWeight, "400"))},
             {"FONT_SIZE", to_fstr(fontSizeOf(child))},
