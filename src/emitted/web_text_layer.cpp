@@ -34,8 +34,13 @@ int loadSVGImage(NVGcontext* vg, const char* filename, float w, float h) {
     return handle;
 }
 
+// How wide texts are, by size and text: several widgets ask for the same text in each frame, and
+// each question is one to the browser. Fonts arrive late, so they are asked anew whenever one has.
+std::map<std::pair<float, std::string>, float> g_textWidths;
+
 void setupAndClearTextLayer() {
-    EM_ASM({
+    static int fontsSeen = 0;
+    int fonts = EM_ASM_INT({
         var layer = document.getElementById('textCanvas');
         var canvas = document.getElementById('canvas');
         if (!layer) {
@@ -62,7 +67,17 @@ void setupAndClearTextLayer() {
         ctx.setTransform(1, 0, 0, 1, 0, 0);
         ctx.clearRect(0, 0, layer.width, layer.height);
         ctx.scale(dpr, dpr);
+
+        if (window.pozhilFontsLoaded === undefined) {
+            window.pozhilFontsLoaded = 0;
+            document.fonts.addEventListener('loadingdone', function() {
+                window.pozhilFontsLoaded++;
+            });
+        }
+        return document.fonts.status === 'loading' ? -1 : window.pozhilFontsLoaded;
     });
+    if (fonts == -1 || fonts != fontsSeen) g_textWidths.clear();
+    fontsSeen = fonts;
 }
 
 void drawFixedText(float x, float y, const char* text, const char* color, float fontSize, const char* align, const char* fontWeight = "400", bool isUnderline = false, const char* fontPath = "", float alpha = 1.0f, float offsetY = 0.0f) {
@@ -141,13 +156,20 @@ void drawWebText(float x, float y, const char* text, const char* color, float si
 }
 
 float getTextWidth(const char* text, float fontSize) {
-    return (float)EM_ASM_DOUBLE({
+    const std::pair<float, std::string> key(fontSize, text);
+    const auto known = g_textWidths.find(key);
+    if (known != g_textWidths.end()) return known->second;
+    float width = (float)EM_ASM_DOUBLE({
         var layer = document.getElementById('textCanvas');
-        if (!layer) return 0;
+        if (!layer) return -1;
         var ctx = layer.getContext('2d');
         ctx.font = 'normal ' + $1 + 'px "Noto Sans Tamil", Arial, sans-serif';
         return ctx.measureText(UTF8ToString($0)).width;
     }, text, fontSize);
+    if (width < 0.0f) return 0.0f;
+    if (g_textWidths.size() >= 1000) g_textWidths.clear();
+    g_textWidths[key] = width;
+    return width;
 }
 
 void copyToClipboard(const char* text) {

@@ -25,6 +25,7 @@ Surroundings::Surroundings() {
     g_inputSelected.clear();
     g_focusedInput = "";
     g_animationStates.clear();
+    g_textWidths.clear();
     application::logic = {};
     application::page = {};
     vg = stand_in::context();
@@ -36,6 +37,10 @@ Surroundings::Surroundings() {
     forcedW = forcedH = maxW = maxH = -1.0F;
 
     browser() = {};
+    // A font arrives with each frame, so that each asks for its texts anew.
+    browser().answers["clearTextLayer"] = [fonts = 0](const stand_in::Arguments&) mutable {
+        return ++fonts;
+    };
     browser().window = {{"innerWidth", 800}, {"innerHeight", 600}};
 }
 

@@ -38,6 +38,77 @@ TEST_F(TextLayerTest, IsClearedInOneCall) {
     EXPECT_EQ(callsOf(setupAndClearTextLayer), Calls{"clearTextLayer()"});
 }
 
+/// The widths of texts are kept until a font arrives.
+class TextWidthTest : public Surroundings {
+protected:
+    TextWidthTest() {
+        browser().answerWith("measureText", 50);
+        browser().answerWith("clearTextLayer", 0);
+        setupAndClearTextLayer();
+    }
+
+    /// Whether the browser is asked.
+    static bool asks(const char* text, float size, float width) {
+        bool isAsked = false;
+        const Calls calls = callsOf([&] { EXPECT_EQ(getTextWidth(text, size), width) << text; });
+        for (const std::string& call : calls) isAsked |= call.rfind("measureText(", 0) == 0;
+        return isAsked;
+    }
+};
+
+TEST_F(TextWidthTest, IsAskedOnceForEachTextAndSize) {
+    EXPECT_TRUE(asks("அ", 16, 50));
+    EXPECT_FALSE(asks("அ", 16, 50));
+    EXPECT_TRUE(asks("ஆ", 16, 50));
+    EXPECT_TRUE(asks("அ", 17, 50));
+    EXPECT_FALSE(asks("அ", 16, 50));
+    frame();
+    EXPECT_FALSE(asks("அ", 16, 50)) << "in the next frame";
+}
+
+TEST_F(TextWidthTest, IsAskedAnewWhenAFontHasArrived) {
+    EXPECT_TRUE(asks("அ", 16, 50));
+    browser().answerWith("measureText", 60);
+    frame();
+    EXPECT_FALSE(asks("அ", 16, 50));
+    browser().answerWith("clearTextLayer", 1);
+    frame();
+    EXPECT_TRUE(asks("அ", 16, 60));
+    frame();
+    EXPECT_FALSE(asks("அ", 16, 60));
+}
+
+TEST_F(TextWidthTest, IsAskedInEachFrameWhileAFontIsOnItsWay) {
+    browser().answerWith("clearTextLayer", -1);
+    for (int i = 0; i < 3; i++) {
+        frame();
+        EXPECT_TRUE(asks("அ", 16, 50));
+        EXPECT_FALSE(asks("அ", 16, 50));
+    }
+    browser().answerWith("clearTextLayer", 0);
+    frame();
+    EXPECT_TRUE(asks("அ", 16, 50)) << "it may have come without a word";
+    frame();
+    EXPECT_FALSE(asks("அ", 16, 50));
+}
+
+TEST_F(TextWidthTest, IsNothingWithoutALayerAndAskedAgain) {
+    browser().answerWith("measureText", -1);
+    EXPECT_TRUE(asks("அ", 16, 0));
+    EXPECT_TRUE(asks("அ", 16, 0));
+    browser().answerWith("measureText", 0);
+    EXPECT_TRUE(asks("அ", 16, 0));
+    EXPECT_FALSE(asks("அ", 16, 0)) << "a text may have none";
+}
+
+TEST_F(TextWidthTest, IsKeptForAThousandTexts) {
+    for (int i = 0; i < 5000; i++) {
+        getTextWidth(std::to_string(i).c_str(), 16);
+        EXPECT_LE(g_textWidths.size(), 1000U);
+    }
+    EXPECT_FALSE(asks("4999", 16, 50));
+}
+
 TEST_F(TextLayerTest, CopiesAndListensForPaste) {
     EXPECT_EQ(callsOf([] { copyToClipboard("அ"); }), Calls{"copyToClipboard(\"அ\")"});
     EXPECT_EQ(callsOf(setupClipboardListener), Calls{"listenForPaste()"});
