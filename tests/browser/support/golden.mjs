@@ -29,6 +29,9 @@ export async function shapes(page, seconds = 10) {
     }
 }
 
+/** The size and the pixels of a PNG. */
+export const readPicture = bytes => PNG.sync.read(bytes);
+
 /** How many pixels of two pictures differ, of how many, and a picture of where. Sizes are to agree. */
 export function compare(expected, actual) {
     const {width, height} = expected;
@@ -55,7 +58,7 @@ export function holdPicture(name, shot, {folder = committed, kept = output, rewr
     if (!trouble) return;
     if (rewrite) {
         mkdirSync(folder, {recursive: true});
-        writeFileSync(golden, PNG.sync.write(PNG.sync.read(shot), {colorType: 2, deflateLevel: 9}));
+        writeFileSync(golden, PNG.sync.write(readPicture(shot), {colorType: 2, deflateLevel: 9}));
         return;
     }
     keep('actual', shot);
@@ -65,7 +68,7 @@ export function holdPicture(name, shot, {folder = committed, kept = output, rewr
 /** What is wrong with the picture, or nothing. */
 function troubleOf(golden, shot, keep) {
     const bytes = readFileSync(golden);
-    const [expected, actual] = [PNG.sync.read(bytes), PNG.sync.read(shot)];
+    const [expected, actual] = [readPicture(bytes), readPicture(shot)];
     const size = ({width, height}) => `${width}x${height}`;
     if (size(expected) !== size(actual)) {
         keep('expected', bytes);

@@ -28,7 +28,8 @@ export function makeWorkplace() {
         `if [ -e '${root}/drawn_by_hand.cpp' ]; then\nfor word; do\n` +
         `[[ $word != *.cpp ]] || sed -i '/if (!bgSet) nvgFillColor/{n;s|$|\\n#include "${root}/drawn_by_hand.cpp"|}' "$word"\n` +
         `done\nfi\n` +
-        `echo "start $EPOCHREALTIME" >>'${root}/times'\n'${emxx}' "$@"\nstatus=$?\n` +
+        `echo "start $EPOCHREALTIME" >>'${root}/times'\nprintf '%s\\0' "$@" >'${root}/words'\n` +
+        `'${emxx}' "$@"\nstatus=$?\ntimes >'${root}/spent'\n` +
         `echo "end $EPOCHREALTIME" >>'${root}/times'\nexit $status`);
     return {
         root,
@@ -42,6 +43,15 @@ export function makeWorkplace() {
         compilerTimes() {
             return readFileSync(join(root, 'times'), 'utf8').trim().split('\n')
                 .map(line => Number(line.split(' ')[1]) * 1000);
+        },
+        /** The words of the last command for em++, and the seconds of processor time that it took. */
+        lastCompilation() {
+            const [user, system] = readFileSync(join(root, 'spent'), 'utf8').trim().split('\n')[1].split(' ')
+                .map(time => /(\d+)m([\d.]+)s/.exec(time)).map(([, minutes, seconds]) => minutes * 60 + Number(seconds));
+            return {
+                words: readFileSync(join(root, 'words'), 'utf8').split('\0').slice(0, -1),
+                seconds: user + system,
+            };
         },
         /** From now on em++ misses an object, or no longer does. */
         breakCompiler(broken) {
