@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# bench.sh [programs]: measures, side by side in one run, the g++ step of a program with and without
+# bench.sh [programs|frames|growth]: measures, side by side in one run, the g++ step of a program with and without
 # the warmed header, the front end on growing sources, the scanner with and without its checks, and
 # the programs of bench/programs beside the same programs in Python. With `programs` those alone.
+# With `frames` the time of a frame in the browser beside the same page drawn by hand, with `growth`
+# the time of em++ for applications that grow; both say whether the aims hold.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -13,8 +15,8 @@ cd "$root"
 
 what=${1:-all}
 case "$what" in
-    all | programs) ;;
-    *) refuse "பயன்பாடு: scripts/bench.sh [programs]" ;;
+    all | programs | frames | growth) ;;
+    *) refuse "பயன்பாடு: scripts/bench.sh [programs|frames|growth]" ;;
 esac
 
 scripts/build_release.sh
@@ -129,7 +131,18 @@ measure_programs() {
     done
 }
 
+# The compiler and the driver of the browser are told where they stand, as by ctest.
+measure_web() {
+    scripts/setup_web.sh
+    scripts/setup_browser_tests.sh
+    POZHIL_EXECUTABLE_DIR="$root" node bench/web/measure.mjs "$1"
+}
+
 say "⏱ அளவிடப்படுகிறது..."
+if [ "$what" = frames ] || [ "$what" = growth ]; then
+    measure_web "$what"
+    exit
+fi
 if [ "$what" = all ]; then
     build_measures
     measure_native_build
