@@ -161,8 +161,8 @@ int ErrorHandler::visualWidth(std::string text) {
 #endif
 
 #ifdef POZHIL_WITH_INSTANCES
-#include "emitted/includes.cpp"
 #include "emitted/animation_state.cpp"
+#include "emitted/includes.cpp"
 #include "error_codes.h"
 
 #define POZHIL_INSTANCE template
