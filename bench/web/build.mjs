@@ -27,6 +27,7 @@ export async function build(count) {
         await until(() => compiler.output.includes('🌍 பிரவுசர்') || compiler.ended, 'the build', patience);
         assert.ok(compiler.output.includes('வெற்றி!'), compiler.output);
         const {words, seconds} = workplace.lastCompilation();
+        await until(() => fetch(address).then(() => true, () => false), 'the server');
         const program = await readProgram(address);
         return {
             program,
