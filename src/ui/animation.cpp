@@ -52,5 +52,5 @@ void writeAnimation(WidgetWriter& w, const Site& at, const Moved& moved,
         fills.push_back({target.isSet, isSet});
         fills.push_back({target.value, isSet ? to_fstr(found->second) : ""});
     }
-    w.fill(widget_templates::animation, at, fills);
+    w.text.block("", [&] { w.text.fill(widget_templates::animation, fills); });
 }

@@ -41,7 +41,8 @@ void WidgetWriter::fill(std::string_view widget, const Site& site, Fills fills) 
     for (const Fill& each : own) {
         if (names(widget, each.name)) fills.push_back(each);
     }
-    text.block("", [&] { text.fill(widget, fills); });
+    text.block(
+        "[&] ", [&] { text.fill(widget, fills); }, "();\n");
 }
 
 void WidgetWriter::writeExpression(const Expression* value) { programText.visitExpression(value); }
@@ -112,7 +113,8 @@ void WidgetWriter::writeHandler(const Site& site, const char* key) {
         programText.visitExpression(handler);
         return;
     }
-    fill(widget_templates::handler, site, {expression("CALLBACK", handler)});
+    text.block("",
+               [&] { text.fill(widget_templates::handler, {expression("CALLBACK", handler)}); });
 }
 
 void WidgetWriter::openClip(const std::string& x, const std::string& y, const std::string& w,

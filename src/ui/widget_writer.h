@@ -51,7 +51,9 @@ public:
     /// is drawn at the page's origin.
     void writeValue(const WidgetNode& widget);
 
-    /// The template of a widget as a brace block, with X, Y and ID of the site where it names them.
+    /// The template of a widget as a block, with X, Y and ID of the site where it names them. The
+    /// block is a function that is called where it stands: a browser refuses a function of more
+    /// than 50,000 locals, and em++ takes long over large ones.
     void fill(std::string_view widget, const Site& site, Fills fills);
     /// An expression of the program in place.
     void writeExpression(const Expression* value);

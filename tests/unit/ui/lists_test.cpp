@@ -31,7 +31,7 @@ void setNumber(WidgetNode& widget, const char* key, const char* digits) {
 
 TEST(Wrap, TellsItsEndToAPlaceThatIsAVariable) {
     const WidgetNode wrap = node("மடிப்பு");
-    EXPECT_TRUE(contains(written(wrap, "wX", "wY"), "    wY = curY + rowMaxH + spacing;\n}\n"));
+    EXPECT_TRUE(contains(written(wrap, "wX", "wY"), "    wY = curY + rowMaxH + spacing;\n}();\n"));
     for (const char* literal : {"0.0f", "0", "0.0"}) {
         EXPECT_FALSE(contains(written(wrap, "wX", literal), "= curY + ")) << literal;
     }
@@ -104,7 +104,7 @@ TEST(Padding, OfTheDrawnNameMovesItsChildren) {
     padding.children.push_back(std::make_unique<WidgetNode>(node("இவெ")));
     padding.children.push_back(std::make_unique<WidgetNode>(node("இவெ")));
     const auto text = [](const std::string& size) {
-        return "{\n"
+        return "[&] {\n"
                "    // Inside another block the place is named like the locals below.\n"
                "    float paddedX = wX;\n"
                "    float paddedY = wY;\n"
@@ -118,7 +118,7 @@ TEST(Padding, OfTheDrawnNameMovesItsChildren) {
                "        // இவெ (Spacer) - Space reserved\n"
                "        // இவெ (Spacer) - Space reserved\n"
                "    }\n"
-               "}\n";
+               "}();\n";
     };
     EXPECT_EQ(written(padding, "wX", "wY"), text("0.0f"));
     setNumber(padding, "அளவு", "8");

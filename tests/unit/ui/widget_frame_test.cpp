@@ -50,12 +50,12 @@ TEST(WidgetFrame, HidesAWarningUntilItsFlagIsSet) {
                          "g_alert_names.insert(\"நி\");\n"
                          "if (global_vars.count(\"நி\") && global_vars[\"நி\"].type() == "
                          "typeid(bool) && std::any_cast<bool>(global_vars[\"நி\"]) == true) {\n"
-                         "    {\n"
+                         "    [&] {\n"
                          "        g_overlays.push_back(",
                          0),
               0U)
         << text;
-    const std::string end = "    }\n} // End Visibility Check for நி\n";
+    const std::string end = "    }();\n} // End Visibility Check for நி\n";
     EXPECT_EQ(text.substr(text.size() - end.size()), end);
 }
 

@@ -102,6 +102,9 @@ Rebreaker::Bracket Rebreaker::bracketAt(std::size_t word) const {
         case TokenType::ROW:
         case TokenType::STACK:
         case TokenType::LIST_VIEW: return groupAt(word + 1);
+        case TokenType::BOX:
+            // An alignment has a group of its own, on one line.
+            return token(word + 2).text == "சீரமைப்பு" ? Bracket::Expression : Bracket::Items;
         default: break;
     }
     if (levels.empty()) return Bracket::Items;  // the application's own
@@ -120,6 +123,10 @@ Rebreaker::Bracket Rebreaker::groupAt(std::size_t parenthesis) const {
     return isProperty ? Bracket::Properties : Bracket::Children;
 }
 
+bool Rebreaker::isAlignmentOfABox(const Level& level) {
+    return level.bracket == Bracket::Expression && level.owner == TokenType::BOX;
+}
+
 void Rebreaker::open(const Token& bracket) {
     const TokenType owner = at == 0 ? TokenType::UNKNOWN : token(at - 1).type;
     if (bracket.type == TokenType::LEFT_BRACE) {
@@ -127,7 +134,8 @@ void Rebreaker::open(const Token& bracket) {
     } else if (bracket.type == TokenType::LEFT_BRACKET) {
         levels.push_back({Bracket::Expression, owner});
     } else if (justClosedGroup) {
-        levels.push_back({Bracket::Children, owner});
+        levels.push_back(
+            {groupOwner == TokenType::BOX ? Bracket::Items : Bracket::Children, owner});
     } else {
         levels.push_back({bracketAt(at - 1), owner});
     }
@@ -179,8 +187,9 @@ std::string Rebreaker::text() {
         }
         boundary = false;
         const bool wasGroup =
-            next.type == TokenType::RIGHT_PAREN && (levels.back().bracket == Bracket::Properties ||
-                                                    levels.back().owner == TokenType::GRID_VIEW);
+            next.type == TokenType::RIGHT_PAREN &&
+            (levels.back().bracket == Bracket::Properties ||
+             levels.back().owner == TokenType::GRID_VIEW || isAlignmentOfABox(levels.back()));
         if (next.type == TokenType::DEFINITIONS) {
             writeLogic();
             justOpened = justClosedGroup = false;
@@ -197,7 +206,10 @@ std::string Rebreaker::text() {
         const bool closes = next.type == TokenType::RIGHT_PAREN ||
                             next.type == TokenType::RIGHT_BRACE ||
                             next.type == TokenType::RIGHT_BRACKET;
-        if (closes) levels.pop_back();
+        if (closes) {
+            groupOwner = levels.back().owner;
+            levels.pop_back();
+        }
         at++;
     }
     return out + "\n";

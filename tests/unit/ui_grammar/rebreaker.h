@@ -44,6 +44,7 @@ private:
     void writeLogic();
     Bracket bracketAt(std::size_t word) const;
     Bracket groupAt(std::size_t parenthesis) const;
+    static bool isAlignmentOfABox(const Level& level);
     void open(const Token& token);
 
     std::vector<Token> tokens;
@@ -54,6 +55,7 @@ private:
     std::vector<int> widths = {0};  ///< As the scanner keeps them.
     std::vector<Level> levels;
     bool justOpened = false;
-    bool justClosedGroup = false;  ///< A second group may follow.
-    bool boundary = false;         ///< An item has ended.
+    bool justClosedGroup = false;               ///< A second group may follow.
+    TokenType groupOwner = TokenType::UNKNOWN;  ///< The word before the bracket that closed last.
+    bool boundary = false;                      ///< An item has ended.
 };
