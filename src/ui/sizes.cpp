@@ -2,6 +2,7 @@
 
 #include <locale>
 #include <sstream>
+#include <vector>
 
 #include "files.h"
 #include "syntax/expressions.h"
@@ -41,6 +42,19 @@ std::string numberSize(const std::string& digits) {
     return digits + (digits.find('.') == std::string::npos ? ".0f" : "f");
 }
 
+/// {a, b, c}, {"?", ":"}  ->  (a ? b : c). A part that is no size leaves none to the whole, so that
+/// the widget keeps its default.
+std::string bracketed(const std::vector<std::string>& parts,
+                      const std::vector<const char*>& signs) {
+    std::string text = "(";
+    for (std::size_t i = 0; i < parts.size(); i++) {
+        if (parts[i].empty()) return "";
+        if (i > 0) text += std::string(" ") + signs[i - 1] + " ";
+        text += parts[i];
+    }
+    return text + ")";
+}
+
 std::string variableSize(const std::string& name) {
     if (name == "திரை_அகலம்") return "winWidth";
     if (name == "திரை_உயரம்") return "winHeight";
@@ -61,15 +75,14 @@ std::string processPercentage(const Expression* value, const std::string& base) 
         return numberSize(node->value);
     }
     if (const auto* node = dynamic_cast<const GroupingExpression*>(value)) {
-        return "(" + part(node->expression) + ")";
+        return bracketed({part(node->expression)}, {});
     }
     if (const auto* node = dynamic_cast<const TernaryExpression*>(value)) {
-        return "(" + part(node->condition) + " ? " + part(node->thenBranch) + " : " +
-               part(node->elseBranch) + ")";
+        return bracketed({part(node->condition), part(node->thenBranch), part(node->elseBranch)},
+                         {"?", ":"});
     }
     if (const auto* node = dynamic_cast<const BinaryExpression*>(value)) {
-        return "(" + part(node->left) + " " + comparisonSign(node->op.text) + " " +
-               part(node->right) + ")";
+        return bracketed({part(node->left), part(node->right)}, {comparisonSign(node->op.text)});
     }
     if (const auto* node = dynamic_cast<const VariableAccess*>(value)) {
         return variableSize(node->name);

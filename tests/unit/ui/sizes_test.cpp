@@ -61,6 +61,15 @@ TEST(Size, OfAnythingElseIsEmpty) {
     EXPECT_EQ(processPercentage(nullptr, "B"), "");
 }
 
+TEST(Size, OfWhatHoldsNoSizeSomewhereIsEmpty) {
+    EXPECT_EQ(sizeOf("(1.5)"), "");
+    EXPECT_EQ(sizeOf("1.5 பெரிது 2"), "");
+    EXPECT_EQ(sizeOf("2 பெரிது 1.5"), "");
+    EXPECT_EQ(sizeOf("திரை_அகலம் சிறிது 600 ? 1.5 : 50%"), "");
+    EXPECT_EQ(sizeOf("திரை_அகலம் சிறிது 600 ? 50% : 1.5"), "");
+    EXPECT_EQ(sizeOf("மெய் மற்றும் பொய் ? 50% : 25%"), "");
+}
+
 TEST(Size, OfANumberAlone) {
     WidgetNode widget("மடிப்பு", {}, {}, சீரமைப்பு_வகை::மேல்_இடது, false);
     EXPECT_EQ(numberSizeOr(widget, "இடைவெளி", "10.0f"), "10.0f");
