@@ -29,14 +29,14 @@ void writeCheckBox(WidgetWriter& w, const Site& at) {
     const std::string* name = stringProperty(at.node, "அடையாளம்");
     const WidgetNode* child = firstWidget(at.node);
     const WidgetNode* label = childNamed(at.node, "உரை");
-    const Expression* labelText = label == nullptr ? nullptr : property(*label, "உரை");
     w.fill(widget_templates::check_box, at,
            {{"SIZE",
              [&] {
                  w.writeSize(at, {"cb_w", "24.0f"}, {"cb_h", "24.0f"}, "0.0f");
              }},
-            {"HAS_LABEL_TEXT", labelText != nullptr},
-            w.expression("LABEL_TEXT", labelText),
+            {"HAS_LABEL_TEXT", label != nullptr && property(*label, "உரை") != nullptr},
+            label == nullptr ? w.expression("LABEL_TEXT", nullptr)
+                             : contentOf(w, "LABEL_TEXT", *label),
             {"LABEL_SIZE", to_fstr(label == nullptr ? kFontSize : fontSizeOf(*label))},
             {"STARTS_CHECKED", isTrueLiteral(at.node, "தேர்வுபெட்டிநிலை") ? "true" : "false"},
             {"IS_ENABLED", isEnabled(at.node)},
