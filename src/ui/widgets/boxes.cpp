@@ -83,12 +83,14 @@ const WidgetNode* pressOf(const WidgetNode& box) {
     return nullptr;
 }
 
-/// The box's own, unless a property of the name says another, by its word.
+/// The box's own, unless a property of the name says another: a string or a member's name. A bare
+/// word there says nothing. Meant: an alignment has a group of its own.
 சீரமைப்பு_வகை alignmentOf(const WidgetNode& box) {
-    const Expression* value = property(box, "சீரமைப்பு");
-    if (value == nullptr) return box.alignment;
+    const auto* member = dynamic_cast<const GetExpression*>(property(box, "சீரமைப்பு"));
     const std::string* text = stringProperty(box, "சீரமைப்பு");
-    return alignmentNamed(text == nullptr ? wordOf(*value) : *text).value_or(box.alignment);
+    if (member != nullptr) text = &member->name.text;
+    if (text == nullptr) return box.alignment;
+    return alignmentNamed(*text).value_or(box.alignment);
 }
 
 void writeBoxChild(WidgetWriter& w, const Site& at, const WidgetNode& child) {

@@ -89,11 +89,13 @@ void writeColours(WidgetWriter& w, const WidgetNode& button, const Label& label)
                 ", hb = " + std::to_string(bytes.b) + ";");
 }
 
-/// From the colour so far to the one that the animation aims at, to the nearest whole channels.
+/// From the colour so far to the one that the animation aims at, to the nearest whole channels: a
+/// curve may lead beyond either.
 void turnColour(WidgetWriter& w) {
     w.text.line("NVGcolor currentCol = lerpColor(nvgRGBA(r, g, b, a), targetCol, t);");
     for (const char* channel : kFill) {
-        w.text.line(std::string(channel) + " = (int)(currentCol." + channel + " * 255.0f + 0.5f);");
+        w.text.line(std::string(channel) + " = std::max(0, std::min(255, (int)(currentCol." +
+                    channel + " * 255.0f + 0.5f)));");
     }
 }
 

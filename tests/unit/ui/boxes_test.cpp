@@ -97,6 +97,21 @@ TEST_F(BoxText, LeavesOutWhatIsNoWidgetAndItsStyleBlock) {
     EXPECT_FALSE(holds("childW"));
 }
 
+TEST_F(BoxText, OfItsAlignmentReadsAStringOrAMember) {
+    widget.children.push_back(
+        std::make_unique<WidgetNode>("இவெ", PropertyMap(), WidgetList(), சீரமைப்பு_வகை::மேல்_இடது));
+    const auto lies = [this](const std::string& x) {
+        return holds("float childX = boxX + (boxW - childW) * (1.0f + " + x + ") / 2.0f;\n");
+    };
+    set<VariableAccess>(widget, "சீரமைப்பு", "மையம்");
+    EXPECT_TRUE(lies("-1.0f")) << "a bare word says nothing";
+    set<StringLiteral>(widget, "சீரமைப்பு", "மையம்");
+    EXPECT_TRUE(lies("0.0f"));
+    widget.properties["சீரமைப்பு"] = std::make_unique<GetExpression>(
+        std::make_unique<VariableAccess>("இடம்"), Token{TokenType::IDENTIFIER, "கீழ்_வலது", 1});
+    EXPECT_TRUE(lies("1.0f"));
+}
+
 TEST_F(BoxText, OfATextWithoutAWeightMeasuresTheUsualOne) {
     auto text =
         std::make_unique<WidgetNode>("உரை", PropertyMap(), WidgetList(), சீரமைப்பு_வகை::மேல்_இடது);
