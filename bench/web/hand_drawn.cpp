@@ -25,7 +25,8 @@ void clearTexts() {
     EM_ASM({
         var layer = document.getElementById('textCanvas');
         var ratio = window.devicePixelRatio;
-        if (layer.width != window.innerWidth * ratio || layer.height != window.innerHeight * ratio) {
+        if (layer.width != window.innerWidth * ratio ||
+            layer.height != window.innerHeight * ratio) {
             layer.width = window.innerWidth * ratio;
             layer.height = window.innerHeight * ratio;
             layer.style.width = window.innerWidth + 'px';
@@ -39,13 +40,15 @@ void clearTexts() {
 }
 
 void text(float x, float y, const char* shown, const char* color, float size, const char* align) {
-    EM_ASM({
-        var ctx = document.getElementById('textCanvas').getContext('2d');
-        ctx.font = '400 ' + $4 + 'px "Noto Sans Tamil", Arial, sans-serif';
-        ctx.fillStyle = UTF8ToString($3);
-        ctx.textAlign = UTF8ToString($5);
-        ctx.fillText(UTF8ToString($2), $0, $1);
-    }, x, y, shown, color, size, align);
+    EM_ASM(
+        {
+            var ctx = document.getElementById('textCanvas').getContext('2d');
+            ctx.font = '400 ' + $4 + 'px "Noto Sans Tamil", Arial, sans-serif';
+            ctx.fillStyle = UTF8ToString($3);
+            ctx.textAlign = UTF8ToString($5);
+            ctx.fillText(UTF8ToString($2), $0, $1);
+        },
+        x, y, shown, color, size, align);
 }
 
 void roundedBox(float x, float y, float radius, NVGcolor color) {
@@ -108,7 +111,8 @@ int main() {
     EM_ASM({
         var layer = document.createElement('canvas');
         layer.id = 'textCanvas';
-        layer.style.cssText = 'position: absolute; left: 0; top: 0; pointer-events: none; z-index: 1000';
+        layer.style.cssText =
+            'position: absolute; left: 0; top: 0; pointer-events: none; z-index: 1000';
         document.body.appendChild(layer);
         document.body.style.margin = '0';
         document.body.style.overflow = 'hidden';

@@ -89,7 +89,7 @@ const not = (...colours) => seen => colours.every(colour => !same(seen, colour))
 /** A shade between white and the darkest that a shadow casts. */
 const shade = ([r, g, b]) => r === g && g === b && r > 200 && r < 250;
 
-for (const [width, height, deviceScaleFactor] of [[1280, 720, 1], [400, 700, 1], [1280, 720, 2], [400, 700, 2]]) {
+for (const [width, height, deviceScaleFactor] of [[640, 400, 1], [320, 400, 2]]) {
     const name = `${width} by ${height} at ${deviceScaleFactor}`;
     const x = width / 2, y = height / 2;
     let page;
@@ -111,6 +111,7 @@ for (const [width, height, deviceScaleFactor] of [[1280, 720, 1], [400, 700, 1],
     }
     async function goOn() {
         await page.mouse.click(15, y);
+        await page.waitForFunction(() => window.mouseClicked === 0);  // a frame has looked where it was
         await page.mouse.move(5, 150);
     }
     const texts = () => page.evaluate(() => window.texts);
@@ -143,7 +144,6 @@ for (const [width, height, deviceScaleFactor] of [[1280, 720, 1], [400, 700, 1],
         });
         assert.ok(Math.abs(text.x - (width - measured) / 2) < 0.6, `${text.x}, ${measured}`);
         assert.ok(Math.abs(text.y - ((height - 16) / 2 + 2)) < 0.6, `${text.y}`);
-        if (width === 1280) assert.ok(Math.abs(text.x + text.width / 2 - x) < 1, `${text.x}, ${text.width}`);
     });
 
     test(`an automatic animation runs to its end, ${name}`, async () => {
