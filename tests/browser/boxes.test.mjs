@@ -3,7 +3,7 @@
 import assert from 'node:assert/strict';
 import {after, before, test} from 'node:test';
 import {PNG} from 'pngjs';
-import {launch, openPage, photograph, until} from './support/browser.mjs';
+import {launch, openPage, photograph, press, until} from './support/browser.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 /** A page over the whole window, each of whose layers lies over all of it. */
@@ -110,8 +110,7 @@ for (const [width, height, deviceScaleFactor] of [[640, 400, 1], [320, 400, 2]])
         await looked.catch(error => assert.fail(`${error.message}: ${wrong.join('; ')}`));
     }
     async function goOn() {
-        await page.mouse.click(15, y);
-        await page.waitForFunction(() => window.mouseClicked === 0);  // a frame has looked where it was
+        await press(page, 15, y);
         await page.mouse.move(5, 150);
     }
     const texts = () => page.evaluate(() => window.texts);
@@ -156,9 +155,9 @@ for (const [width, height, deviceScaleFactor] of [[640, 400, 1], [320, 400, 2]])
         const count = async () => (await texts()).at(-1)?.text;
         await goOn();
         await until(async () => await count() === '0', 'the count');
-        await page.mouse.click(x, 30);
+        await press(page, x, 30);
         await until(async () => await count() === '1', 'the press');
-        await page.mouse.click(x + 52, 30);
+        await press(page, x + 52, 30);
         await page.mouse.move(x + 10, 30);
         await until(() => page.evaluate(() => document.body.style.cursor === 'pointer'), 'the hand');
         assert.equal(await count(), '1', 'beside the box nothing is pressed, and nothing twice');

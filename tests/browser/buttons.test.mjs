@@ -5,7 +5,7 @@ import {mkdirSync, writeFileSync} from 'node:fs';
 import {join} from 'node:path';
 import {after, before, test} from 'node:test';
 import {PNG} from 'pngjs';
-import {launch, openPage, photograph, pixel, until} from './support/browser.mjs';
+import {launch, openPage, photograph, pixel, press, until} from './support/browser.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const source = `வலைதளம் பொத்தான்கள்(
@@ -183,7 +183,7 @@ test('under the pointer it is darker and the cursor a hand', async () => {
 test('a click runs its handler once, and what it changed shows', async () => {
     const middle = await buttonOf('கூடும்');
     for (const value of ['1', '2']) {
-        await page.mouse.click(middle.x, middle.y);
+        await press(page, middle.x, middle.y);
         await placeOf(value);
     }
     await nextFrames();
@@ -193,7 +193,7 @@ test('a click runs its handler once, and what it changed shows', async () => {
 test('a disabled button darkens, shows no hand and takes no click', async () => {
     const middle = await buttonOf('முடக்கம்');
     await shows({x: middle.x - 55, y: middle.y}, primary);
-    await page.mouse.click(middle.x, middle.y);
+    await press(page, middle.x, middle.y);
     await shows({x: middle.x - 55, y: middle.y}, darkPrimary);
     assert.equal(await cursor(), 'default');
     assert.equal(await page.evaluate(() => window.texts['3']), undefined);
@@ -205,7 +205,7 @@ test('a hover colour is darkened too, and a message is shown', async () => {
     await shows({x: middle.x - 55, y: middle.y}, darkCrimson);
     // It leaves after 2.5 s, which may be less than a photograph takes: the clock is held.
     await page.evaluate(() => { window.heldTime = performance.now(); });
-    await page.mouse.click(middle.x, middle.y);
+    await press(page, middle.x, middle.y);
     await placeOf('சேமித்தாயிற்று');
     const bar = await appears(purple);
     assert.ok(bar.width >= 200, `a bar ${bar.width} wide`);
@@ -219,7 +219,7 @@ test('a text button takes its hover colour and goes to another page', async () =
     const middle = await buttonOf('படங்கள்');
     await page.mouse.move(middle.x, middle.y);
     await until(async () => await cursor() === 'pointer', 'the hand');
-    await page.mouse.click(middle.x, middle.y);
+    await press(page, middle.x, middle.y);
     await placeOf('திரும்பு');
 });
 
@@ -278,11 +278,11 @@ test('it starts over when the pointer comes near, and stays seen', async () => {
 
 test('it is hidden when its page is left, and back with it', async () => {
     const back = await buttonOf('திரும்பு');
-    await page.mouse.click(back.x, back.y);
+    await press(page, back.x, back.y);
     await until(async () => (await gifImage()).display === 'none', 'the hidden image');
     for (const colour of [blue, cyan]) assert.equal(await boundsOf(colour), null);
     const forward = await buttonOf('படங்கள்');
-    await page.mouse.click(forward.x, forward.y);
+    await press(page, forward.x, forward.y);
     await until(async () => (await gifImage()).display === 'block', 'the image again');
 });
 

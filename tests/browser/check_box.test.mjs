@@ -1,7 +1,7 @@
 // Check boxes in the browser: what a click changes, what the program changes, what an error shows.
 import assert from 'node:assert/strict';
 import {after, before, test} from 'node:test';
-import {launch, openPage, photograph, pixel, until} from './support/browser.mjs';
+import {launch, openPage, photograph, pixel, press, until} from './support/browser.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const source = `வலைதளம் படிவம்(
@@ -79,7 +79,7 @@ test('starts as source and program say, with the error shown', async () => {
 test('a click on the box toggles it once, tells the program, and clears the error', async () => {
     await page.mouse.move(12, 12);
     await until(() => page.evaluate(() => document.body.style.cursor === 'pointer'), 'the pointer');
-    await page.mouse.click(12, 12);
+    await press(page, 12, 12);
     await shows(named, blue);
     await shows(edgeOfError, white);
     await drawsText('மெய்');
@@ -87,21 +87,21 @@ test('a click on the box toggles it once, tells the program, and clears the erro
 });
 
 test('a click on its label toggles it too', async () => {
-    await page.mouse.click(24 + 12 + 20, 12);
+    await press(page, 24 + 12 + 20, 12);
     await shows(named, white);
     await drawsText('பொய்');
 });
 
 test('a disabled box takes no click and shows no hand', async () => {
     await page.mouse.move(disabled.x + 9, disabled.y);
-    await page.mouse.click(disabled.x + 9, disabled.y);
+    await press(page, disabled.x + 9, disabled.y);
     await page.evaluate(() => new Promise(done => requestAnimationFrame(() => requestAnimationFrame(done))));
     assert.equal(await page.evaluate(() => document.body.style.cursor), 'default');
     await shows(disabled, green);
 });
 
 test('a box that the program set can be cleared', async () => {
-    await page.mouse.click(ofProgram.x + 9, ofProgram.y);
+    await press(page, ofProgram.x + 9, ofProgram.y);
     await shows(ofProgram, white);
     assert.deepEqual(page.problems.filter(line => !line.includes('ERR_FAILED')), []);
 });

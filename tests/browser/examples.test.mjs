@@ -5,7 +5,7 @@ import {cpSync, existsSync, readdirSync, readFileSync} from 'node:fs';
 import {basename, dirname, join} from 'node:path';
 import {fileURLToPath} from 'node:url';
 import {after, afterEach, before, describe, test} from 'node:test';
-import {launch, openPage, photograph, until} from './support/browser.mjs';
+import {launch, openPage, photograph, press, until} from './support/browser.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const folder = join(dirname(fileURLToPath(import.meta.url)), '..', '..', 'examples', 'web');
@@ -54,7 +54,7 @@ const problems = page => page.problems.filter(line => !line.includes('ERR_FAILED
 async function clickChangesTexts(page, x, y) {
     await still(page);
     const before = (await texts(page)).sum;
-    await page.mouse.click(x, y);
+    await press(page, x, y);
     await until(async () => (await texts(page)).sum !== before, `a change by a click at ${x}, ${y}`, 20);
 }
 

@@ -5,7 +5,7 @@ import {mkdirSync, readFileSync, writeFileSync} from 'node:fs';
 import {dirname, join} from 'node:path';
 import {after, before, test} from 'node:test';
 import {fileURLToPath} from 'node:url';
-import {launch, openPage, photograph, pixel, until} from './support/browser.mjs';
+import {launch, openPage, photograph, pixel, press, until} from './support/browser.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const here = dirname(fileURLToPath(import.meta.url));
@@ -58,7 +58,7 @@ test('starts on the first page and goes where it is told', async () => {
 });
 
 test('a click reaches the page once', async () => {
-    await page.mouse.click(300, 200);
+    await press(page, 300, 200);
     await untilSeen(({page}) => page.clicks === 1, 'the click');
     const {page: {x, xInScript}, overlay} = await seen();
     assert.deepEqual([x, xInScript], [300, 300]);
@@ -69,7 +69,7 @@ test('an overlay hides the pointer and the wheel from the page and takes the cli
     await tell('warn');
     await untilSeen(({overlay}) => overlay.x === 300, 'the overlay');
     await untilSeen(({page}) => page.x === -9999 && page.xInScript === -9999, 'the blinded page');
-    await page.mouse.click(310, 200);
+    await press(page, 310, 200);
     await untilSeen(({overlay}) => overlay.clicks === 1, 'the click on the overlay');
     await untilSeen(({page}) => page.x === 310, 'the page to see again');
     const {page: {clicks}, overlay} = await seen();
@@ -84,7 +84,7 @@ test('what an overlay pushes is drawn in the same frame', async () => {
 });
 
 test('a click under the overlay is lost to the page also later', async () => {
-    await page.mouse.click(320, 200);
+    await press(page, 320, 200);
     await untilSeen(({page}) => page.clicks === 2, 'a click that follows');
     assert.equal((await seen()).overlay.clicks, 1);
 });

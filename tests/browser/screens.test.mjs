@@ -5,7 +5,7 @@ import {readFileSync} from 'node:fs';
 import {dirname, join} from 'node:path';
 import {after, before, test} from 'node:test';
 import {fileURLToPath} from 'node:url';
-import {desk, launch, openPage, photograph, pixels, until} from './support/browser.mjs';
+import {desk, launch, openPage, photograph, pixels, press, until} from './support/browser.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const source = `வலைதளம் திரைகள்(
@@ -130,7 +130,7 @@ for (const ratio of [1, 2, 3]) {
         const clicks = {hits: [[142, 102], [239, 199]], misses: [[139, 150], [242, 150], [190, 99], [190, 202]]};
         for (const [kind, places] of Object.entries(clicks)) {
             for (const [i, [x, y]] of places.entries()) {
-                await page.mouse.click(x, y);
+                await press(page, x, y);
                 await until(() => page.evaluate(name => window.seen[name], kind).then(count => count === i + 1),
                     `${kind} at ${x}, ${y}`);
             }

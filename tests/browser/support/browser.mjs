@@ -20,14 +20,23 @@ export function launch(extraFlags = []) {
     });
 }
 
+/** Without a GPU a frame takes the processor: a pause between frames leaves it to the other tests. */
+function slowFrames(milliseconds) {
+    const request = window.requestAnimationFrame;
+    window.requestAnimationFrame = callback =>
+        setTimeout(() => request.call(window, callback), milliseconds);
+}
+
 /**
  * A page of a context of its own. `page.problems` collects errors of console and scripts,
  * `page.printed` what programs print; warnings are the driver's. Nothing outside this machine is reached.
+ * Between frames lie `pause` milliseconds.
  */
-export async function openPage(browser, options = desk, prepare = async () => {}) {
+export async function openPage(browser, options = desk, prepare = async () => {}, pause = 40) {
     const context = await browser.newContext(options);
     await context.route(url => url.hostname !== 'localhost', route => route.abort());
     const page = await context.newPage();
+    if (pause > 0) await page.addInitScript(slowFrames, pause);
     page.problems = [];
     page.printed = [];
     page.on('console', message => {
@@ -59,6 +68,12 @@ export async function pixels(page, clip) {
 /** The colour [red, green, blue] at one place of what the user sees. */
 export async function pixel(page, x, y) {
     return (await pixels(page, {x, y, width: 1, height: 1}))[0];
+}
+
+/** Clicks, and waits until a frame has taken the click: a pointer that moves on before takes it along. */
+export async function press(page, x, y) {
+    await page.mouse.click(x, y);
+    await until(() => page.evaluate(() => !window.mouseClicked), 'a frame to take the click');
 }
 
 /** Waits until `holds` answers something true, and returns it. */

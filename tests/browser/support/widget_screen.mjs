@@ -15,10 +15,9 @@ import {address, makeWorkplace, startCompiler, tidyUp} from './tool.mjs';
 const screens = join(dirname(fileURLToPath(import.meta.url)), '..', 'widgets');
 export const windows = [{width: 1280, height: 600}, {width: 700, height: 600}, {width: 400, height: 600}];
 const fineWindows = windows.slice(1);  // with four pixels for each of the page
-const pause = 30;  // milliseconds between frames: drawing without a GPU takes much
 
 /** Notes the texts of each frame on `window.texts`, and on `window.frames` how many were drawn. */
-function noteTexts(pause) {
+function noteTexts() {
     let texts = [];
     window.frames = 0;
     const fillText = CanvasRenderingContext2D.prototype.fillText;
@@ -30,12 +29,12 @@ function noteTexts(pause) {
         return fillText.call(this, text, x, y);
     };
     const request = window.requestAnimationFrame;
-    window.requestAnimationFrame = callback => setTimeout(() => request.call(window, time => {
+    window.requestAnimationFrame = callback => request.call(window, time => {
         texts = [];
         callback(time);
         window.texts = texts;
         window.frames++;
-    }), pause);
+    });
 }
 
 /**
@@ -60,7 +59,7 @@ export function widgetScreen(family, prepare = () => {}) {
         if (shown?.ratio === ratio) return shown.page;
         await shown?.page.context().close();  // it would go on drawing, and take its time from this one
         const options = {viewport: windows[2], screen: {width: 1920, height: 1080}, deviceScaleFactor: ratio};
-        const page = await openPage(browser, options, page => page.addInitScript(noteTexts, pause));
+        const page = await openPage(browser, options, page => page.addInitScript(noteTexts));
         shown = {page, ratio};
         await page.goto(address);
         await until(() => page.evaluate(() => window.frames > 1), 'the first frames');

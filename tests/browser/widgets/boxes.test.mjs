@@ -1,7 +1,7 @@
 // Boxes and cards: sizes, colours, children in corners and in the middle, what is cut off, the colour
 // under the pointer, and a press.
 import {test} from 'node:test';
-import {pixel, until} from '../support/browser.mjs';
+import {pixel, press, until} from '../support/browser.mjs';
 import {resize, standsAsMeasured, texts, widgetScreen, windows} from '../support/widget_screen.mjs';
 
 const ground = [236, 239, 241], red = [198, 40, 40], blue = [21, 101, 192], green = [46, 125, 50];
@@ -29,7 +29,7 @@ test('a box under the pointer takes its other colour, and a press counts', async
     const becomes = colour => until(async () => (await pixel(page, 150, 80)).join() === colour.join(), `${colour}`);
     await page.mouse.move(150, 90);
     await becomes(lit);
-    await page.mouse.click(150, 90);
+    await press(page, 150, 90);
     await until(async () => (await texts(page)).some(({text}) => text === '1'), 'the count');
     await page.mouse.move(700, 90);
     await becomes(red);

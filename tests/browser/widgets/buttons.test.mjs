@@ -1,7 +1,7 @@
 // Buttons: sizes, colours, borders and labels, what the pointer does to them, and what a press does.
 import assert from 'node:assert/strict';
 import {test} from 'node:test';
-import {pixel, until} from '../support/browser.mjs';
+import {pixel, press, until} from '../support/browser.mjs';
 import {nextFrames, resize, standsAsMeasured, texts, widgetScreen, windows} from '../support/widget_screen.mjs';
 
 const blue = [33, 150, 243], red = [198, 40, 40], white = [255, 255, 255], yellow = [255, 235, 59];
@@ -41,7 +41,7 @@ test('a button darkens under the pointer and a press calls its function once', a
     await page.mouse.move(20, 65);
     await becomes(page, 10, 65, blue.map(channel => channel - 20));
     assert.equal(await cursor(page), 'pointer');
-    await page.mouse.click(20, 65);
+    await press(page, 20, 65);
     await counts(page, '1');
     await page.mouse.move(700, 65);
     await becomes(page, 10, 65, blue);
@@ -52,7 +52,7 @@ test('a colour for the pointer is darkened too, and its press counts', async () 
     const page = await screen.open();
     await page.mouse.move(20, 140);
     await becomes(page, 20, 140, [0, 180, 63]);
-    await page.mouse.click(20, 140);
+    await press(page, 20, 140);
     await counts(page, '0');
 });
 
@@ -61,14 +61,14 @@ test('a text button takes its colour under the pointer, and its press counts', a
     await page.mouse.move(10, 330);
     await until(async () => (await texts(page)).some(({text, colour}) => text === 'பத்து' && colour === '#3aad68'),
         'its colour');
-    await page.mouse.click(10, 330);
+    await press(page, 10, 330);
     await counts(page, '10');
 });
 
 test('a disabled button and a place beside all take no press', async () => {
     const page = await screen.open();
     for (const [x, y] of [[40, 270], [700, 65]]) {
-        await page.mouse.click(x, y);
+        await press(page, x, y);
         await nextFrames(page);
         assert.equal(await cursor(page), 'default');
         await counts(page, '10');
