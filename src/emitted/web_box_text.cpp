@@ -6,7 +6,7 @@ float getBoxTextWidth(const char* text, const char* fontWeight, float fontSize) 
     return (float)EM_ASM_DOUBLE({
         var layer = document.getElementById('textCanvas');
         if (!layer) return 0;
-        var ctx = layer.getContext('2d');
+        var ctx = layer.pozhilContext || (layer.pozhilContext = layer.getContext('2d'));
         ctx.font = UTF8ToString($1) + ' ' + $2 + 'px "Noto Sans Tamil", Arial, sans-serif';
         return ctx.measureText(UTF8ToString($0)).width;
     }, text, fontWeight, fontSize);

@@ -34,9 +34,31 @@ int loadSVGImage(NVGcontext* vg, const char* filename, float w, float h) {
     return handle;
 }
 
-// How wide texts are, by size and text: several widgets ask for the same text in each frame, and
-// each question is one to the browser. Fonts arrive late, so they are asked anew whenever one has.
-std::map<std::pair<float, std::string>, float> g_textWidths;
+// How wide texts are: several widgets ask for the same text in each frame, and each question is one
+// to the browser. A text has one place, by its letters and its size, and gives it up to another of
+// the same place. Fonts arrive late, so all are asked anew whenever one has.
+struct TextWidth {
+    char* text;  // owned; NULL in a free place
+    float fontSize;
+    float width;
+};
+const unsigned kTextWidths = 4096;  // a power of two
+TextWidth g_textWidths[kTextWidths];
+
+TextWidth& placeOfTextWidth(const char* text, float fontSize) {
+    unsigned hash = 0;
+    memcpy(&hash, &fontSize, sizeof hash);
+    hash ^= hash >> 16;
+    for (const char* at = text; *at; at++) hash = hash * 31 + (unsigned char)*at;
+    return g_textWidths[(hash ^ (hash >> 12)) & (kTextWidths - 1)];
+}
+
+void forgetTextWidths() {
+    for (TextWidth& known : g_textWidths) {
+        free(known.text);
+        known.text = NULL;
+    }
+}
 
 void setupAndClearTextLayer() {
     static int fontsSeen = 0;
@@ -63,7 +85,7 @@ void setupAndClearTextLayer() {
                 layer.height = rect.height * dpr;
             }
         }
-        var ctx = layer.getContext('2d');
+        var ctx = layer.pozhilContext || (layer.pozhilContext = layer.getContext('2d'));
         ctx.setTransform(1, 0, 0, 1, 0, 0);
         ctx.clearRect(0, 0, layer.width, layer.height);
         ctx.scale(dpr, dpr);
@@ -76,7 +98,7 @@ void setupAndClearTextLayer() {
         }
         return document.fonts.status === 'loading' ? -1 : window.pozhilFontsLoaded;
     });
-    if (fonts == -1 || fonts != fontsSeen) g_textWidths.clear();
+    if (fonts == -1 || fonts != fontsSeen) forgetTextWidths();
     fontsSeen = fonts;
 }
 
@@ -89,7 +111,7 @@ void drawFixedText(float x, float y, const char* text, const char* color, float 
         var text = UTF8ToString($2);
         var align = UTF8ToString($5);
         var fontPath = UTF8ToString($8);
-        var ctx = layer.getContext('2d');
+        var ctx = layer.pozhilContext || (layer.pozhilContext = layer.getContext('2d'));
         ctx.save();
         ctx.globalAlpha = $9;
 
@@ -156,19 +178,22 @@ void drawWebText(float x, float y, const char* text, const char* color, float si
 }
 
 float getTextWidth(const char* text, float fontSize) {
-    const std::pair<float, std::string> key(fontSize, text);
-    const auto known = g_textWidths.find(key);
-    if (known != g_textWidths.end()) return known->second;
+    TextWidth& known = placeOfTextWidth(text, fontSize);
+    if (known.text && known.fontSize == fontSize && strcmp(known.text, text) == 0) {
+        return known.width;
+    }
     float width = (float)EM_ASM_DOUBLE({
         var layer = document.getElementById('textCanvas');
         if (!layer) return -1;
-        var ctx = layer.getContext('2d');
+        var ctx = layer.pozhilContext || (layer.pozhilContext = layer.getContext('2d'));
         ctx.font = 'normal ' + $1 + 'px "Noto Sans Tamil", Arial, sans-serif';
         return ctx.measureText(UTF8ToString($0)).width;
     }, text, fontSize);
     if (width < 0.0f) return 0.0f;
-    if (g_textWidths.size() >= 1000) g_textWidths.clear();
-    g_textWidths[key] = width;
+    free(known.text);
+    known.text = strdup(text);
+    known.fontSize = fontSize;
+    known.width = width;
     return width;
 }
 

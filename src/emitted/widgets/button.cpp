@@ -72,13 +72,13 @@ void button() {
     nvgStrokeWidth(vg, POZHIL_BORDER_WIDTH);
     nvgStroke(vg);
 #endif
-    std::string tColor =
-        "rgb(" + std::to_string(tr) + "," + std::to_string(tg) + "," + std::to_string(tb) + ")";
+    char tColor[48];
+    snprintf(tColor, sizeof tColor, "rgb(%d,%d,%d)", tr, tg, tb);
     float labelX = btnX + btnW / 2;
     float labelY = btnY + btnH / 2 - responsiveSize / 2 + 2.0f;
 #ifdef __EMSCRIPTEN__
-    drawFixedText(labelX, labelY, POZHIL_LABEL, tColor.c_str(), responsiveSize, "center",
-                  POZHIL_WEIGHT, false, POZHIL_FONT);
+    drawFixedText(labelX, labelY, POZHIL_LABEL, tColor, responsiveSize, "center", POZHIL_WEIGHT,
+                  false, POZHIL_FONT);
 #else
     nvgFillColor(vg, nvgRGBA(tr, tg, tb, ta));
     nvgTextAlign(vg, NVG_ALIGN_CENTER | NVG_ALIGN_TOP);

@@ -97,7 +97,7 @@ extern std::map<std::string, std::string> g_inputErrors;
 extern std::map<std::string, int> g_inputCursorPos;
 extern std::map<std::string, bool> g_inputSelected;
 extern std::string g_focusedInput;
-extern std::map<std::pair<float, std::string>, float> g_textWidths;
+void forgetTextWidths();
 void setupAndClearTextLayer();
 void drawFixedText(float x, float y, const char* text, const char* color, float fontSize,
                    const char* align, const char* fontWeight POZHIL_DEFAULT("400"),

@@ -25,7 +25,7 @@ Surroundings::Surroundings() {
     g_inputSelected.clear();
     g_focusedInput = "";
     g_animationStates.clear();
-    g_textWidths.clear();
+    forgetTextWidths();
     application::logic = {};
     application::page = {};
     vg = stand_in::context();

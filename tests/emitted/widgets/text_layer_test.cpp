@@ -101,12 +101,34 @@ TEST_F(TextWidthTest, IsNothingWithoutALayerAndAskedAgain) {
     EXPECT_FALSE(asks("அ", 16, 0)) << "a text may have none";
 }
 
-TEST_F(TextWidthTest, IsKeptForAThousandTexts) {
-    for (int i = 0; i < 5000; i++) {
-        getTextWidth(std::to_string(i).c_str(), 16);
-        EXPECT_LE(g_textWidths.size(), 1000U);
+TEST_F(TextWidthTest, IsRightForMoreTextsThanAreKept) {
+    const auto textOf = [](int i) { return "உரை " + std::to_string(i); };
+    for (int i = 0; i < 10000; i++) {
+        browser().answerWith("measureText", i);
+        EXPECT_EQ(getTextWidth(textOf(i).c_str(), 16), static_cast<float>(i));
     }
-    EXPECT_FALSE(asks("4999", 16, 50));
+    browser().answerWith("measureText", -2);
+    EXPECT_FALSE(asks(textOf(9999).c_str(), 16, 9999));
+    int kept = 0;
+    for (int i = 0; i < 10000; i++) {
+        const float width = getTextWidth(textOf(i).c_str(), 16);
+        if (width == 0) continue;
+        EXPECT_EQ(width, static_cast<float>(i));
+        kept++;
+    }
+    EXPECT_GT(kept, 2000) << "those of the last texts";
+}
+
+TEST_F(TextWidthTest, OfAScreensTextsAndSizesIsRarelyForgotten) {
+    std::vector<std::pair<std::string, float>> shown;
+    for (int i = 0; i < 100; i++) {
+        for (const float size : {10.4F, 16.0F})
+            shown.emplace_back("பொருள் " + std::to_string(i), size);
+    }
+    for (const auto& [text, size] : shown) getTextWidth(text.c_str(), size);
+    int asked = 0;
+    for (const auto& [text, size] : shown) asked += asks(text.c_str(), size, 50) ? 1 : 0;
+    EXPECT_LE(asked, 20);
 }
 
 TEST_F(TextLayerTest, CopiesAndListensForPaste) {

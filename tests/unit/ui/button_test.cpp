@@ -56,12 +56,12 @@ TEST_F(ButtonText, TakesTheStyleBelowItsLabel) {
     EXPECT_TRUE(writes("tr = 255; tg = 128; tb = 0; ta = 255;\n"));
     EXPECT_TRUE(writes("responsiveTextSize(20.000f, winWidth)"));
     EXPECT_TRUE(writes("nvgFontFace(vg, \"அ.ttf\");\n"));
-    EXPECT_TRUE(writes("\"தடிமனான\", false, \"அ.ttf\");\n"));
+    EXPECT_TRUE(writes("\"தடிமனான\",\n                  false, \"அ.ttf\");\n"));
 }
 
 TEST_F(ButtonText, TakesAWeightThatIsANumber) {
     addStyle(addLabel("அ")).properties["தடிமன்"] = number("500");
-    EXPECT_TRUE(writes("\"500\", false, \"\");\n"));
+    EXPECT_TRUE(writes("\"500\",\n                  false, \"\");\n"));
 }
 
 TEST_F(ButtonText, PrefersTheStyleBelowItsLabelToTheLabelsOwn) {
@@ -72,7 +72,7 @@ TEST_F(ButtonText, PrefersTheStyleBelowItsLabelToTheLabelsOwn) {
     label.textStyle.fontWeight = "700";
     EXPECT_TRUE(writes("tr = 255; tg = 0; tb = 0; ta = 255;\n"));
     EXPECT_TRUE(writes("responsiveTextSize(30.000f, winWidth)"));
-    EXPECT_TRUE(writes("\"700\", false, \"ஆ.ttf\");\n"));
+    EXPECT_TRUE(writes("\"700\",\n                  false, \"ஆ.ttf\");\n"));
 
     WidgetNode& style = addStyle(label);
     style.properties["நிறம்"] = text("#00FF00");
@@ -81,7 +81,7 @@ TEST_F(ButtonText, PrefersTheStyleBelowItsLabelToTheLabelsOwn) {
     style.properties["தடிமன்"] = number("800");
     EXPECT_TRUE(writes("tr = 0; tg = 255; tb = 0; ta = 255;\n"));
     EXPECT_TRUE(writes("responsiveTextSize(20.000f, winWidth)"));
-    EXPECT_TRUE(writes("\"800\", false, \"அ.ttf\");\n"));
+    EXPECT_TRUE(writes("\"800\",\n                  false, \"அ.ttf\");\n"));
 }
 
 TEST_F(ButtonText, MeasuresInTheHeavyFaceByTheWeight) {
