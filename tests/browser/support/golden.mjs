@@ -13,8 +13,11 @@ const isRewriting = Boolean(process.env.POZHIL_REWRITE);
 const tolerance = 0.05;     // of the distance from black to white, for a pixel
 const share = 1 / 50_000;   // of the picture, that may differ by more
 
-// Fonts differ between machines, and so does all that is written: the text layer is read by itself.
-const withoutText = '#textCanvas { visibility: hidden !important; }';
+// Fonts differ between machines, and so does all that is written: texts are read by themselves.
+const withoutText = `
+    #textCanvas { visibility: hidden !important; }
+    .pozhil-input, .pozhil-input::placeholder { color: transparent !important; }
+`;
 
 /** A photograph of the page but for its texts, when two in a row are equal: nothing moves any more. */
 export async function shapes(page, seconds = 10) {

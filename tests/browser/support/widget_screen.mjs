@@ -10,6 +10,7 @@ import {fileURLToPath} from 'node:url';
 import {launch, openPage, photograph, until} from './browser.mjs';
 import {copyFonts} from './fonts.mjs';
 import {holdPicture, readPicture, shapes} from './golden.mjs';
+import {inputs} from './inputs.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './tool.mjs';
 
 const screens = join(dirname(fileURLToPath(import.meta.url)), '..', 'widgets');
@@ -123,7 +124,8 @@ async function holdText(page, drawn, wanted) {
 
 /**
  * One test for each window and ratio. `expected({width, height, scale})` answers `texts`, all that
- * are drawn, and `colours`: rows of x, y and [red, green, blue]; scale is that of the texts' sizes.
+ * are drawn, `colours`: rows of x, y and [red, green, blue], and `elements`, all that take what is
+ * typed, as `inputs` tells them; scale is that of the texts' sizes.
  * Windows of the widths `pictured` have golden pictures.
  */
 export function standsAsMeasured(screen, expected, {pictured = [1280, 400]} = {}) {
@@ -137,6 +139,7 @@ export function standsAsMeasured(screen, expected, {pictured = [1280, 400]} = {}
                 const drawn = await texts(page);
                 for (const text of wanted.texts) await holdText(page, drawn, text);
                 assert.equal(drawn.length, wanted.texts.length, 'no other texts');
+                assert.deepEqual(await inputs(page), wanted.elements ?? []);
                 const shot = await shapes(page);
                 const picture = readPicture(shot);
                 for (const [x, y, colour] of wanted.colours) holdColour(picture, x, y, colour, ratio);
