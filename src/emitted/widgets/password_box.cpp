@@ -13,5 +13,8 @@ void password_box() {
     nvgFill(vg);
     placePasswordBox(POZHIL_NAME, POZHIL_HINT, POZHIL_BACKGROUND_TEXT, POZHIL_TEXT_COLOUR, tx, ty,
                      tw, th);
+#if POZHIL_IS_DISABLED
+    disableInput();
+#endif
     POZHIL_Y += th;
 }

@@ -1,5 +1,5 @@
 // A search bar: a lens, an element of the page that takes what is typed, and a cross that empties
-// it once it holds something.
+// it once it holds something. One that is disabled never does.
 
 void search_bar() {
     float sbX = std::floor(POZHIL_X);
@@ -16,16 +16,9 @@ void search_bar() {
 #if POZHIL_HAS_LENS_IMAGE
     static int lensImg_POZHIL_ID = -1;
     if (lensImg_POZHIL_ID == -1) {
-        std::string lensPath = fn_any_to_string(POZHIL_LENS_IMAGE);
-        lensImg_POZHIL_ID = nvgCreateImage(vg, lensPath.c_str(), 0);
+        lensImg_POZHIL_ID = nvgCreateImage(vg, fn_any_to_string(POZHIL_LENS_IMAGE).c_str(), 0);
     }
-    if (lensImg_POZHIL_ID > 0) {
-        nvgBeginPath(vg);
-        nvgRect(vg, iconX - 10.0f, iconY - 10.0f, 20.0f, 20.0f);
-        nvgFillPaint(vg, nvgImagePattern(vg, iconX - 10.0f, iconY - 10.0f, 20.0f, 20.0f, 0,
-                                         lensImg_POZHIL_ID, 0.5f));
-        nvgFill(vg);
-    }
+    drawBarImage(lensImg_POZHIL_ID, iconX, iconY);
 #endif
     nvgBeginPath(vg);
     nvgCircle(vg, iconX - 2.0f, iconY - 2.0f, 6.0f);
@@ -34,28 +27,20 @@ void search_bar() {
     nvgStrokeColor(vg, nvgRGBA(150, 150, 150, 255));
     nvgStrokeWidth(vg, 2.0f);
     nvgStroke(vg);
-#if POZHIL_HAS_HINT
-    std::string sbHint = fn_any_to_string(POZHIL_HINT);
-#else
-    std::string sbHint = "Search...";
-#endif
     std::string sbId = POZHIL_NAME;
-    placeSearchBar(sbId.c_str(), sbHint.c_str(), sbX + 45.0f, sbY, sbW - 80.0f, sbH, fSize);
+    placeSearchBar(sbId.c_str(), POZHIL_HINT, sbX + 45.0f, sbY, sbW - 80.0f, sbH, fSize);
+#if POZHIL_IS_DISABLED
+    disableInput();
+#else
     if (!g_inputValues[sbId].empty()) {
         float clearX = sbX + sbW - 25.0f;
 #if POZHIL_HAS_CLEAR_IMAGE
         static int clearImg_POZHIL_ID = -1;
         if (clearImg_POZHIL_ID == -1) {
-            std::string clearPath = fn_any_to_string(POZHIL_CLEAR_IMAGE);
-            clearImg_POZHIL_ID = nvgCreateImage(vg, clearPath.c_str(), 0);
+            clearImg_POZHIL_ID =
+                nvgCreateImage(vg, fn_any_to_string(POZHIL_CLEAR_IMAGE).c_str(), 0);
         }
-        if (clearImg_POZHIL_ID > 0) {
-            nvgBeginPath(vg);
-            nvgRect(vg, clearX - 10.0f, iconY - 10.0f, 20.0f, 20.0f);
-            nvgFillPaint(vg, nvgImagePattern(vg, clearX - 10.0f, iconY - 10.0f, 20.0f, 20.0f, 0,
-                                             clearImg_POZHIL_ID, 0.5f));
-            nvgFill(vg);
-        }
+        drawBarImage(clearImg_POZHIL_ID, clearX, iconY);
 #endif
         nvgBeginPath(vg);
         nvgMoveTo(vg, clearX - 5.0f, iconY - 5.0f);
@@ -71,8 +56,9 @@ void search_bar() {
             EM_ASM(document.body.style.cursor = 'pointer');
             if (g_mouseClicked) {
                 g_inputValues[sbId] = "";
-                emptyInput(sbId.c_str());
+                emptyInput();
             }
         }
     }
+#endif
 }

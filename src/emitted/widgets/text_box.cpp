@@ -40,4 +40,7 @@ void text_box() {
     if (actual_id == "default_id") actual_id = POZHIL_OWN_NAME;
     placeTextBox(actual_id.c_str(), POZHIL_HINT, POZHIL_IS_MULTILINE, POZHIL_TEXT_COLOUR,
                  tbX + 15.0f + prefixOffset, tbY, tbW - 30.0f - prefixOffset, tbH, 16.0f);
+#if POZHIL_IS_DISABLED
+    disableInput();
+#endif
 }

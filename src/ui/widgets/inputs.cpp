@@ -24,9 +24,9 @@ std::optional<PozhilColor> firstColour(const WidgetNode& widget, const char* fir
     return colour ? colour : colourProperty(widget, second);
 }
 
-/// What stands in an input that is empty.
-Fill hintFill(WidgetWriter& w, const Expression* hint) {
-    if (hint == nullptr) return {"HINT", "\"\""};
+/// What stands in an input that is empty: `fallback`, a C++ text, if the widget doesn't say.
+Fill hintFill(WidgetWriter& w, const Expression* hint, const char* fallback = "\"\"") {
+    if (hint == nullptr) return {"HINT", fallback};
     return {"HINT", [&w, hint] {
                 w.text.out << "fn_any_to_string(";
                 w.writeExpression(hint);
@@ -36,10 +36,11 @@ Fill hintFill(WidgetWriter& w, const Expression* hint) {
 
 }  // namespace
 
-/// Its sizes are numbers: a share counts as none.
+/// Its sizes are numbers: a share counts as none. An empty name names nothing.
 void writeTextBox(WidgetWriter& w, const Site& at) {
     const WidgetNode& box = at.node;
     const std::string* name = stringProperty(box, "அடையாளம்");
+    const bool isNamed = name != nullptr && !name->empty();
     const WidgetNode* leading = widgetOf(property(box, "முன்னணி"));
     const auto background = firstColour(box, "style_களப்பின்னணி", "பின்னணி");
     const auto border = colourOf(styledProperty(box, "கரை_நிறம்"));
@@ -51,7 +52,7 @@ void writeTextBox(WidgetWriter& w, const Site& at) {
             {"BACKGROUND", channelTexts(colourOr(background, "#FFFFFF"))},
             {"BORDER_COLOUR", channelTexts(colourOr(border, "#E5E7EB"))},
             {"BORDER_WIDTH", styledNumber(box, "கரை_அளவு", "1.0f")},
-            {"NAME", asWritten(name == nullptr ? "default_id" : *name)},
+            {"NAME", asWritten(isNamed ? *name : "default_id")},
             {"OWN_NAME", asWritten("text_" + at.id)},
             {"HAS_LEADING", leading != nullptr},
             {"LEADING_WIDTH", to_fstr(calculateWidgetWidth(leading))},
@@ -59,7 +60,8 @@ void writeTextBox(WidgetWriter& w, const Site& at) {
             {"LEADING", [&] { w.writeChild(*leading, "leadX", "leadY"); }},
             hintFill(w, property(box, "குறிப்பு")),
             {"IS_MULTILINE", isTrueLiteral(box, "பலவரி") ? "true" : "false"},
-            {"TEXT_COLOUR", asWritten(cssText(colourOr(text, "#333333")))}});
+            {"TEXT_COLOUR", asWritten(cssText(colourOr(text, "#333333")))},
+            {"IS_DISABLED", !isEnabled(box)}});
 }
 
 /// One colour alone is the background; beside a background it is the text's.
@@ -77,7 +79,8 @@ void writePasswordBox(WidgetWriter& w, const Site& at) {
             {"BACKGROUND_TEXT", asWritten(cssText(plate))},
             {"NAME", asWritten("input_" + at.id)},
             hintFill(w, property(box, "குறிப்பு")),
-            {"TEXT_COLOUR", asWritten(cssText(colourOr(text, "#000000")))}});
+            {"TEXT_COLOUR", asWritten(cssText(colourOr(text, "#000000")))},
+            {"IS_DISABLED", !isEnabled(box)}});
 }
 
 void writeSearchBar(WidgetWriter& w, const Site& at) {
@@ -97,9 +100,9 @@ void writeSearchBar(WidgetWriter& w, const Site& at) {
             {"BACKGROUND", channelTexts(colourOr(background, "#F0F4FA"))},
             {"HAS_LENS_IMAGE", lens != nullptr},
             w.expression("LENS_IMAGE", lens),
-            {"HAS_HINT", hint != nullptr},
-            w.expression("HINT", hint),
+            hintFill(w, hint, "\"Search...\""),
             {"NAME", asWritten("search_" + at.id)},
             {"HAS_CLEAR_IMAGE", cross != nullptr},
-            w.expression("CLEAR_IMAGE", cross)});
+            w.expression("CLEAR_IMAGE", cross),
+            {"IS_DISABLED", !isEnabled(bar)}});
 }

@@ -3,12 +3,31 @@
 
 namespace {
 
+const std::string kDark = "rgba(51,51,51,1.000000)";
+
 class InputsTest : public FormTest {
 protected:
     InputsTest() { browser().window["innerWidth"] = 1280; }
 
     static Calls frameOfBox(const std::string& rectangle) {
         return {"nvgBeginPath()", "nvgRoundedRect(" + rectangle + ")"};
+    }
+
+    /// The placing of an element; `numbers` are its text's size, its place and its own size.
+    static std::string placed(const std::string& id, const std::string& hint,
+                              const std::string& colour, const std::string& numbers,
+                              const std::string& tag = "input") {
+        return "placeInput(\"" + id + "\", \"" + tag + "\", \"" + hint + "\", \"" + colour +
+               "\", " + numbers + ")";
+    }
+
+    /// What is done with the element of that block, from its placing on.
+    static Calls placedBy(const std::string& block) {
+        const Calls calls = drawnBlock(block);
+        const auto begin = std::find_if(calls.begin(), calls.end(), [](const std::string& call) {
+            return call.rfind("placeInput(", 0) == 0;
+        });
+        return {begin, calls.end()};
     }
 };
 
@@ -19,9 +38,7 @@ TEST_F(InputsTest, TextBoxIsAFrameUnderAnElement) {
               (Calls{"nvgBeginPath()", "nvgRoundedRect(0, 0, 320, 50, 8)",
                      "nvgFillColor(rgba(255, 255, 255, 255))", "nvgFill()",
                      "nvgStrokeColor(rgba(228.99, 231.03, 235.11, 255))", "nvgStrokeWidth(1)",
-                     "nvgStroke()",
-                     "placeTextBox(\"text_1\", \"\", 0, \"rgba(51,51,51,1.000000)\", 15, 0, 290, "
-                     "50, 16)"}));
+                     "nvgStroke()", placed("text_1", "", kDark, "16, 15, 0, 290, 50")}));
 }
 
 TEST_F(InputsTest, TextBoxTakesItsStyle) {
@@ -31,8 +48,7 @@ TEST_F(InputsTest, TextBoxTakesItsStyle) {
     EXPECT_TRUE(holds(calls, "nvgStrokeColor(rgba(0, 0, 255, 255))"));
     EXPECT_TRUE(holds(calls, "nvgStrokeWidth(2)"));
     EXPECT_EQ(calls.back(),
-              "placeTextBox(\"text_1\", \"\", 1, \"rgba(255,128,0,1.000000)\", 15, 0, 370, 120, "
-              "16)");
+              placed("text_1", "", "rgba(255,128,0,1.000000)", "16, 15, 0, 370, 100", "textarea"));
     const Calls first = drawnBlock("text_box_style_first");
     EXPECT_TRUE(holds(first, "nvgRoundedRect(0, 0, 100, 30, 1)"));
     EXPECT_TRUE(holds(first, "nvgFillColor(rgba(255, 0, 0, 255))"));
@@ -42,9 +58,7 @@ TEST_F(InputsTest, TextBoxTakesItsStyle) {
 
 TEST_F(InputsTest, TextBoxShowsTheErrorOfItsName) {
     const Calls calm = drawnBlock("text_box_named");
-    EXPECT_EQ(calm.back(),
-              "placeTextBox(\"பெயர்\", \"உங்கள் பெயர்\", 0, \"rgba(51,51,51,1.000000)\", 15, 0, 290, "
-              "50, 16)");
+    EXPECT_EQ(calm.back(), placed("பெயர்", "உங்கள் பெயர்", kDark, "16, 15, 0, 290, 50"));
     g_inputErrors["பெயர்"] = "தேவை";
     Calls expected = {calm.begin(), calm.end() - 1};
     expected.insert(expected.end(),
@@ -70,8 +84,30 @@ TEST_F(InputsTest, TextBoxMakesRoomForWhatLeads) {
     browser().answerWith("nvgCreateImage", 5);
     const Calls calls = drawnBlock("text_box_with_icon");
     EXPECT_TRUE(holds(calls, "nvgRect(12, 15, 24, 20)"));
-    EXPECT_EQ(calls.back(),
-              "placeTextBox(\"text_1\", \"\", 0, \"rgba(51,51,51,1.000000)\", 51, 0, 254, 50, 16)");
+    EXPECT_EQ(calls.back(), placed("text_1", "", kDark, "16, 51, 0, 254, 50"));
+}
+
+TEST_F(InputsTest, TextBoxIsMadeOnceAndPlacedInEachFrame) {
+    const std::string inPlace = placed("text_1", "", kDark, "16, 15, 0, 290, 50");
+    EXPECT_EQ(placedBy("text_box_defaults"), (Calls{inPlace}));
+    browser().answerWith("placeInput", 1);
+    EXPECT_EQ(placedBy("text_box_defaults"), (Calls{inPlace, "layOverFrame(1)"}))
+        << "typing clears the error";
+    const Calls ofLines = placedBy("text_box_styled");
+    EXPECT_EQ(Calls(ofLines.begin() + 1, ofLines.end()),
+              (Calls{"layOverFrame(1)", "letLinesFlow()"}));
+}
+
+TEST_F(InputsTest, TextBoxOfAnEmptyNameHasItsOwn) {
+    EXPECT_EQ(drawnBlock("text_box_of_an_empty_name"), drawnBlock("text_box_defaults"));
+}
+
+TEST_F(InputsTest, DisabledOnesTakeNothing) {
+    for (const std::string kind : {"text_box", "password_box", "search_bar"}) {
+        Calls calls = drawnBlock(kind + "_defaults");
+        calls.emplace_back("disableInput()");
+        EXPECT_EQ(drawnBlock(kind + "_disabled"), calls);
+    }
 }
 
 // ---- Password boxes ----
@@ -80,17 +116,25 @@ TEST_F(InputsTest, PasswordBoxIsAPlateUnderAnElement) {
     const Calls calls = drawnBlock("password_box_defaults");
     EXPECT_EQ(calls, (Calls{"nvgBeginPath()", "nvgRoundedRect(0, 0, 320, 60, 12)",
                             "nvgFillColor(rgba(255, 255, 255, 255))", "nvgFill()",
-                            "placePasswordBox(\"input_2\", \"\", \"rgba(255,255,255,1.000000)\", "
-                            "\"rgba(0,0,0,1.000000)\", 0, 0, 320, 60)"}));
-    EXPECT_TRUE(holds(drawnBlock("password_box_one_colour_is_the_background"),
-                      "placePasswordBox(\"input_2\", \"\", \"rgba(17,34,51,1.000000)\", "
-                      "\"rgba(0,0,0,1.000000)\", 0, 0, 320, 60)"));
-    EXPECT_TRUE(holds(drawnBlock("password_box_two_colours"),
-                      "placePasswordBox(\"input_2\", \"கடவுச்சொல்\", \"rgba(17,34,51,1.000000)\", "
-                      "\"rgba(255,255,255,1.000000)\", 0, 0, 200, 45)"));
-    EXPECT_TRUE(holds(drawnBlock("password_box_text_colour_wins"),
-                      "placePasswordBox(\"input_2\", \"\", \"rgba(17,34,51,1.000000)\", "
-                      "\"rgba(255,255,0,1.000000)\", 0, 0, 320, 60)"));
+                            placed("input_2", "", "rgba(0,0,0,1.000000)", "17, 0, 0, 320, 60"),
+                            "fitIntoWindow(\"rgba(255,255,255,1.000000)\", 0, 60)"}));
+    EXPECT_EQ(placedBy("password_box_one_colour_is_the_background"),
+              (Calls{placed("input_2", "", "rgba(0,0,0,1.000000)", "17, 0, 0, 320, 60"),
+                     "fitIntoWindow(\"rgba(17,34,51,1.000000)\", 0, 60)"}));
+    EXPECT_EQ(
+        placedBy("password_box_two_colours"),
+        (Calls{placed("input_2", "கடவுச்சொல்", "rgba(255,255,255,1.000000)", "17, 0, 0, 200, 45"),
+               "fitIntoWindow(\"rgba(17,34,51,1.000000)\", 0, 45)"}));
+    EXPECT_EQ(placedBy("password_box_text_colour_wins"),
+              (Calls{placed("input_2", "", "rgba(255,255,0,1.000000)", "17, 0, 0, 320, 60"),
+                     "fitIntoWindow(\"rgba(17,34,51,1.000000)\", 0, 60)"}));
+}
+
+TEST_F(InputsTest, PasswordBoxLooksByItselfFromItsMaking) {
+    browser().answerWith("placeInput", 1);
+    EXPECT_EQ(placedBy("password_box_defaults"),
+              (Calls{placed("input_2", "", "rgba(0,0,0,1.000000)", "17, 0, 0, 320, 60"),
+                     "lookByItself()", "fitIntoWindow(\"rgba(255,255,255,1.000000)\", 0, 60)"}));
 }
 
 // ---- Search bars ----
@@ -108,9 +152,14 @@ TEST_F(InputsTest, SearchBarHasALensAndAnElement) {
                          "nvgFillColor(rgba(239.955, 244.035, 249.9, 255))", "nvgFill()"};
     EXPECT_EQ(
         drawnBlock("search_bar_defaults"),
-        join({plate, kLens, {"placeSearchBar(\"search_1\", \"Search...\", 45, 0, 270, 50, 16)"}}));
+        join({plate, kLens, {placed("search_1", "Search...", "#333", "16, 45, 0, 270, 50")}}));
     EXPECT_EQ(drawnBlock("search_bar_by_the_other_word"),
-              join({plate, kLens, {"placeSearchBar(\"search_1\", \"தேடு\", 45, 0, 270, 50, 16)"}}));
+              join({plate, kLens, {placed("search_1", "தேடு", "#333", "16, 45, 0, 270, 50")}}));
+}
+
+TEST_F(InputsTest, SearchBarClearsNoErrorOfItsOwn) {
+    browser().answerWith("placeInput", 1);
+    EXPECT_EQ(placedBy("search_bar_defaults").at(1), "layOverFrame(0)");
 }
 
 TEST_F(InputsTest, SearchBarShowsACrossThatEmptiesIt) {
@@ -125,7 +174,7 @@ TEST_F(InputsTest, SearchBarShowsACrossThatEmptiesIt) {
     EXPECT_EQ(g_inputValues["search_1"], "மதுரை");
     const Calls clicked = clickAt(340, 40, "search_bar_defaults");
     EXPECT_TRUE(holds(clicked, kHand));
-    EXPECT_EQ(clicked.back(), "emptyInput(\"search_1\")");
+    EXPECT_EQ(clicked.back(), "emptyInput()");
     EXPECT_EQ(g_inputValues["search_1"], "");
 }
 
@@ -139,7 +188,7 @@ TEST_F(InputsTest, SearchBarTakesItsStyleAndPictures) {
     EXPECT_TRUE(holds(calls, "nvgFillPaint(image(10, 10, 20, 20, 0, 5, 0.5))"));
     EXPECT_TRUE(holds(calls, "nvgCreateImage(\"அழி.png\", 0)"));
     EXPECT_TRUE(holds(calls, "nvgFillPaint(image(605, 10, 20, 20, 0, 5, 0.5))"));
-    EXPECT_TRUE(holds(calls, "placeSearchBar(\"search_1\", \"ஊர்\", 45, 0, 560, 40, 18)"));
+    EXPECT_TRUE(holds(calls, placed("search_1", "ஊர்", "#333", "18, 45, 0, 560, 40")));
     const Calls next = drawnBlock("search_bar_styled");
     EXPECT_FALSE(holds(next, "nvgCreateImage(\"தேடு.png\", 0)")) << "once";
 }

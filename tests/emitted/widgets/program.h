@@ -85,7 +85,9 @@ void placePasswordBox(const char* id, const char* hint, const char* background, 
                       float x, float y, float w, float h);
 void placeSearchBar(const char* id, const char* hint, float x, float y, float w, float h,
                     float fontSize);
-void emptyInput(const char* id);
+void disableInput();
+void emptyInput();
+void drawBarImage(int image, float x, float y);
 float measureOnFreshCanvas(const char* text, float fontSize);
 void dimAround(float x, float y, float w, float h, float radius, float winW, float winH);
 

@@ -28,10 +28,13 @@ const struct {
     {"navigator.clipboard.writeText(str)", "copyToClipboard"},
     {"addEventListener('paste'", "listenForPaste"},
     // Inputs of the page
-    {"isMultiline ? 'textarea' : 'input'", "placeTextBox"},
-    {"input.style.borderColor = '#2196F3'", "placePasswordBox"},
-    {"input.style.color = '#333';", "placeSearchBar"},
-    {"if (input) input.value = \"\";", "emptyInput"},
+    {"document.querySelector('.pozhil-input#' + CSS.escape(id))", "placeInput"},
+    {"if (clearsError) Module.ccall('clear_input_error'", "layOverFrame"},
+    {"Module.placedInput.disabled = true;", "disableInput"},
+    {"Module.placedInput.style.resize = 'none';", "letLinesFlow"},
+    {"input.style.borderColor = '#2196F3'", "lookByItself"},
+    {"$1 + $2 > window.innerHeight", "fitIntoWindow"},
+    {"Module.placedInput.value = \"\"", "emptyInput"},
     {"document.createElement('canvas').getContext('2d')", "measureOnFreshCanvas"},
     {"'rgba(0,0,0,0.63)'", "dimAround"},
     // The start and the keys
