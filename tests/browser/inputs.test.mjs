@@ -49,8 +49,29 @@ const source = `வலைதளம் படிவம்(
     )
     குமரி(
         நெடுவரிசை(
-            பொத்தான்("திரும்பு", அகலம்: 100, உயரம்: 40, அழுத்தினால்: செல்க("அ"))
+            கிடைவரிசை(
+                பொத்தான்("திரும்பு", அகலம்: 100, உயரம்: 40, அழுத்தினால்: செல்க("அ"))
+                பொத்தான்("பட்டியல்", அகலம்: 100, உயரம்: 40, அழுத்தினால்: செல்க("இ"))
+            )
             உரைபெட்டி(அடையாளம்: "ஊர்பெயர்")
+            உரைபெட்டி(அடையாளம்: "amount")
+            உரைபெட்டி(அடையாளம்: "")
+            உரைபெட்டி(அடையாளம்: "நாடு", செயலிழப்பு: மெய்)
+        )
+    )
+    வரையறை()
+)
+வலைதளம் நீளமானது(
+    தலைமை(
+        பக்கம்: "இ"
+        பின்னணி: "#FFFFFF"
+    )
+    குமரி(
+        பட்டியல்_காட்சி(
+            பொத்தான்("திரும்பு", அகலம்: 100, உயரம்: 40, அழுத்தினால்: செல்க("அ"))
+            கடவுமறை()
+            உரைபெட்டி(அடையாளம்: "கீழே")
+            இவெ(உயரம்: 900)
         )
     )
     வரையறை()
@@ -78,6 +99,7 @@ const telephone = {
 const town = {x: 100, y: 25}, edge = {x: 100, y: 49}, country = {x: 100, y: 85}, story = {x: 100, y: 140}, search = {x: 100, y: 205};
 const cross = {x: 325, y: 205}, word = {x: 100, y: 260};
 const check = {x: 50, y: 310}, hide = {x: 150, y: 310}, next = {x: 250, y: 310}, show = {x: 350, y: 310}, back = {x: 50, y: 20};
+const toList = {x: 150, y: 20}, backFromList = {x: 200, y: 20};
 const white = [255, 255, 255], warning = [244, 67, 54], grey = [150, 150, 150], plate = [240, 244, 250];
 
 let workplace, compiler, browser, page;
@@ -323,7 +345,6 @@ describe('at a desk', () => {
 
     test('another page hides its inputs and keeps their texts; one of both pages moves', async () => {
         await press(page, next.x, next.y);
-        await isShown('நாடு', false);
         for (const id of ['கதை', 'search_#', 'input_#']) await isShown(id, false);
         const shared = await elementOf('ஊர்பெயர்');
         assert.deepEqual([shared.isShown, shared.y, shared.width], [true, 40, 290]);
@@ -331,11 +352,63 @@ describe('at a desk', () => {
         await page.keyboard.press('End');
         await typeKeys('!');
         await press(page, back.x, back.y);
-        await isShown('நாடு', true);
         for (const id of ['கதை', 'search_#', 'input_#']) await isShown(id, true);
         await holds('ஊர்பெயர்', 'தமிழ்நாடு!');
         await holds('நாடு', 'ஈழம்');
         await holds('கதை', 'ஒன்று\nஇரண்டு');
+    });
+
+    test('a disabled box shows what its name holds and takes nothing, where another of that name does', async () => {
+        await press(page, next.x, next.y);
+        await isShown('கதை', false);
+        await press(page, 100, 245);
+        assert.equal(await focused(), 'canvas');
+        await typeKeys('அ');
+        await page.keyboard.press('Tab');
+        await nextFrames();
+        await holds('நாடு', 'ஈழம்');
+        assert.notEqual(await focused(), 'நாடு');
+        assert.deepEqual(await page.evaluate(() => [window.mouseX, window.mouseY]), [100, 245]);
+        await press(page, back.x, back.y);
+        await isShown('கதை', true);
+        await press(page, country.x, country.y);
+        await typeKeys('!');
+        await holds('நாடு', 'ஈழம்!');
+        await page.keyboard.press('Backspace');
+        await holds('நாடு', 'ஈழம்');
+    });
+
+    test('a box may have the name of an element that the page has already, or an empty one', async () => {
+        await press(page, next.x, next.y);
+        await isShown('கதை', false);
+        for (const [y, id] of [[125, 'amount'], [185, 'text_#']]) {
+            await press(page, 100, y);
+            await typeKeys('அ');
+            await holds(id, 'அ');
+        }
+        assert.equal(await page.evaluate(() => document.getElementById('amount').tagName), 'P');
+        assert.equal((await inputs(page)).length, 7);
+        await press(page, back.x, back.y);
+        await isShown('கதை', true);
+    });
+
+    test('the elements scroll with a list, and a password box goes at the upper edge', async () => {
+        await press(page, next.x, next.y);
+        await isShown('கதை', false);
+        await press(page, toList.x, toList.y);
+        await until(() => elementOf('கீழே'), 'the list');
+        const {x, y} = await elementOf('கீழே');
+        const opacity = () => page.evaluate(() => Array.from(document.querySelectorAll('[id^=input_]')).at(-1).style.opacity);
+        assert.equal(await opacity(), '1');
+        await page.mouse.wheel(0, 50);
+        await until(async () => (await elementOf('கீழே')).y === y - 50, 'the box above');
+        assert.equal((await elementOf('கீழே')).x, x);
+        assert.equal(await opacity(), '0');
+        await page.mouse.wheel(0, -50);
+        await until(async () => (await elementOf('கீழே')).y === y, 'the box below');
+        assert.equal(await opacity(), '1');
+        await press(page, backFromList.x, backFromList.y);
+        await isShown('கதை', true);
     });
 
     test('a box that the program hides loses its element, and has its text when it is back', async () => {

@@ -11,5 +11,7 @@ export const inputs = page => page.evaluate(() =>
             isShown: style.display === 'block' && style.opacity === '1', layer: style.zIndex,
             background: style.backgroundColor, colour: style.color, border: style.borderTopWidth,
             radius: style.borderTopLeftRadius, font: style.fontFamily, size: style.fontSize,
+            padding: [style.paddingTop, style.paddingLeft].join(' '), boxes: style.boxSizing,
+            resize: element.style.resize, outline: element.style.outlineStyle, moves: element.style.transition,
         };
     }));

@@ -21,9 +21,11 @@ const clear = 'rgba(0, 0, 0, 0)', dark = 'rgb(51, 51, 51)';
 const seenThrough = {
     tag: 'input', hint: '', height: 50, isShown: true, layer: '100', background: clear, colour: dark,
     border: '0px', radius: '0px', font: '"Noto Sans Tamil", Arial, sans-serif', size: '16px',
+    padding: '1px 2px', boxes: 'content-box', resize: '', outline: 'none', moves: '',
 };
 const byItself = {
     ...seenThrough, layer: '2000', border: '2px', radius: '12px', font: '"Noto Sans Tamil", sans-serif', size: '17px',
+    padding: '0px 15px', boxes: 'border-box', moves: 'opacity 0.2s, border-color 0.2s',
 };
 
 /** What lies over the frames: a frame's element begins 15 pixels inside it, a bar's 45. */
@@ -31,7 +33,8 @@ const overFrames = width => [
     {...seenThrough, id: 'ஊர்', hint: 'உங்கள் ஊர்', x: 15, y: 30, width: 290},
     {...seenThrough, id: 'தெரு', x: 15, y: 100, width: streetIn(width) - 30, height: 40, colour: 'rgb(27, 94, 32)'},
     {...seenThrough, id: 'text_#', x: 51, y: 150, width: 254},
-    {...seenThrough, id: 'கதை', tag: 'textarea', x: 15, y: 220, width: 290, height: 70},
+    {...seenThrough, id: 'கதை', tag: 'textarea', x: 15, y: 220, width: 290, height: 70,
+        padding: '10px 2px', resize: 'none'},
     {...seenThrough, id: 'தவறு', x: 15, y: 320, width: 290},
     {...seenThrough, id: 'search_#', hint: 'Search...', x: 45, y: 390, width: 270},
     {...seenThrough, id: 'search_#', hint: 'ஊரைத் தேடு', x: 45, y: 450, width: width / 2 - 80, height: 40, size: '20px'},
