@@ -40,7 +40,8 @@ function noteTexts() {
 
 /**
  * Builds the screen of `family` for the tests of the file; `prepare` puts further files into its
- * folder. `open(ratio)` answers a page, the one of before if the ratio is the same.
+ * folder. `open(ratio, device)` answers a page, the one of before if both are the same; `device`
+ * holds what a browser's context shall have otherwise.
  */
 export function widgetScreen(family, prepare = () => {}) {
     let workplace, compiler, browser, shown;
@@ -56,12 +57,12 @@ export function widgetScreen(family, prepare = () => {}) {
     });
     after(() => tidyUp(browser, compiler, workplace));
 
-    async function open(ratio = 1) {
-        if (shown?.ratio === ratio) return shown.page;
+    async function open(ratio = 1, device = null) {
+        if (shown?.ratio === ratio && shown.device === device) return shown.page;
         await shown?.page.context().close();  // it would go on drawing, and take its time from this one
-        const options = {viewport: windows[2], screen: {width: 1920, height: 1080}, deviceScaleFactor: ratio};
+        const options = {viewport: windows[2], screen: {width: 1920, height: 1080}, deviceScaleFactor: ratio, ...device};
         const page = await openPage(browser, options, page => page.addInitScript(noteTexts));
-        shown = {page, ratio};
+        shown = {page, ratio, device};
         await page.goto(address);
         await until(() => page.evaluate(() => window.frames > 1), 'the first frames');
         return page;
