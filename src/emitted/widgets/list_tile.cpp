@@ -18,10 +18,12 @@ void list_tile() {
         r = std::max(0, r - 10);
         g = std::max(0, g - 10);
         b = std::max(0, b - 10);
+#if POZHIL_IS_ENABLED
         EM_ASM(document.body.style.cursor = 'pointer');
         if (g_mouseClicked) {
             POZHIL_HANDLER;
         }
+#endif
     }
     nvgBeginPath(vg);
     nvgRoundedRect(vg, ltX, ltY, ltW, ltH, radius);

@@ -31,6 +31,7 @@ void writeListTile(WidgetWriter& w, const Site& at) {
                  w.declareChannels(kChannels, {255, 255, 255, 255});
                  w.assignChannels(kChannels, colourProperty(at.node, "பின்னணி"));
              }},
+            {"IS_ENABLED", isEnabled(at.node)},
             {"HANDLER", [&] { w.writeHandler(at, "அழுத்தினால்"); }},
             {"HAS_LEADING", leading != nullptr},
             {"LEADING_WIDTH", widthOf(leading)},

@@ -63,6 +63,14 @@ TEST_F(ListTileTest, TellsTheProgramOfAPress) {
     EXPECT_EQ(calls, 1);
 }
 
+TEST_F(ListTileTest, ThatIsDisabledDarkensShowsNoHandAndTakesNoPress) {
+    int& calls = countCallsOf("திற");
+    const Calls clicked = clickAt(10, 10, "list_tile_disabled");
+    EXPECT_EQ(calls, 0);
+    EXPECT_FALSE(holds(clicked, kHand));
+    EXPECT_TRUE(holds(clicked, "nvgFillColor(rgba(245, 245, 245, 255))"));
+}
+
 TEST_F(ListTileTest, IsBlindBelowAWarning) {
     pointAt(10, 10);
     g_alert_names.insert("எச்சரி");
