@@ -63,6 +63,17 @@ TEST_F(RadioTest, ThatIsDisabledDoesNotLookAtThePointer) {
     EXPECT_EQ(calls, 0);
 }
 
+TEST_F(RadioTest, StandsAndIsHitWhereItsParentSetsIt) {
+    const Calls here = drawnBlock("radio_alone");
+    EXPECT_EQ(drawnBlock("radio_moved"), moved(here, 100, 50));
+    const Calls clicked = clickAt(0, 0, "radio_alone");
+    EXPECT_EQ(clickAt(100, 50, "radio_moved"), moved(clicked, 100, 50));
+    pointAt(99.5, 50);
+    EXPECT_FALSE(holds(drawnBlock("radio_moved"), kHand));
+    pointAt(100, 49.5);
+    EXPECT_FALSE(holds(drawnBlock("radio_moved"), kHand));
+}
+
 // ---- Switches ----
 
 class SwitchTest : public FormTest {
@@ -117,6 +128,12 @@ TEST_F(SwitchTest, ThatIsDisabledStaysAsItIs) {
     EXPECT_TRUE(holds(clicked, "nvgCircle(14, 14, 12)"));
 }
 
+TEST_F(SwitchTest, StandsAndIsHitWhereItsParentSetsIt) {
+    EXPECT_EQ(drawnBlock("switch_moved"), moved(drawnBlock("switch_defaults"), 100, 50));
+    const Calls on = clickAt(-5, -5, "switch_defaults");
+    EXPECT_EQ(clickAt(95, 45, "switch_moved"), moved(on, 100, 50));
+}
+
 // ---- Sliders ----
 
 class SliderTest : public FormTest {
@@ -166,12 +183,27 @@ TEST_F(SliderTest, IsAsWideAsItsShareAndNeverHigher) {
     EXPECT_TRUE(holds(drawnBlock("slider_of_half_the_width"), "nvgRoundedRect(0, 8, 400, 4, 2)"));
     EXPECT_TRUE(
         holds(drawnBlock("slider_of_half_the_width", 300), "nvgRoundedRect(0, 8, 300, 4, 2)"));
+    EXPECT_TRUE(holds(drawnBlock("slider_defaults", 900), "nvgRoundedRect(0, 8, 800, 4, 2)"))
+        << "no wider than the window";
+}
+
+TEST_F(SliderTest, WithoutARangeStaysAtItsStart) {
+    EXPECT_TRUE(holds(drawnBlock("slider_of_no_range"), "nvgCircle(0, 10, 10)"));
+    const Calls held = holdAt(100, 10, "slider_of_no_range");
+    EXPECT_TRUE(holds(held, "nvgCircle(0, 10, 10)"));
+    EXPECT_TRUE(holds(held, text("0", "-15", "5", "#000000", "12", "center")));
 }
 
 TEST_F(SliderTest, ThatIsDisabledKeepsItsValue) {
     const Calls held = holdAt(150, 10, "slider_disabled");
     EXPECT_TRUE(holds(held, "nvgCircle(60, 10, 10)"));
     EXPECT_FALSE(holds(held, "glfwGetMouseButton(0)"));
+}
+
+TEST_F(SliderTest, StandsAndIsHeldWhereItsParentSetsIt) {
+    EXPECT_EQ(drawnBlock("slider_moved"), moved(drawnBlock("slider_defaults"), 100, 50));
+    const Calls held = holdAt(50, -10, "slider_defaults");
+    EXPECT_EQ(holdAt(150, 40, "slider_moved"), moved(held, 100, 50));
 }
 
 // ---- Dropdowns ----
@@ -210,7 +242,15 @@ TEST_F(DropdownTest, OpensChoosesAndTellsTheProgram) {
     pointAt(10, 90);
     const Calls hovered = frameOf(block);
     EXPECT_TRUE(holds(hovered, "nvgRect(0, 84, 250, 40)"));
-    EXPECT_TRUE(holds(hovered, "nvgFillColor(rgba(240, 240, 240, 255))"));
+    const std::string light = "nvgFillColor(rgba(240, 240, 240, 255))";
+    EXPECT_TRUE(holds(hovered, light));
+    pointAt(10, 84);
+    const Calls between = frameOf(block);
+    EXPECT_EQ(std::count(between.begin(), between.end(), light), 1) << "one at a time";
+    pointAt(250.5, 90);
+    EXPECT_FALSE(holds(frameOf(block), light));
+    pointAt(-0.5, 90);
+    EXPECT_FALSE(holds(frameOf(block), light));
     EXPECT_EQ(calls, 0);
 
     frameAt(10, 90, block);
@@ -227,6 +267,22 @@ TEST_F(DropdownTest, OpensChoosesAndTellsTheProgram) {
 TEST_F(DropdownTest, ClosesByASecondClickOnItself) {
     EXPECT_TRUE(showsMenu(frameAt(10, 10, "dropdown_of_a_variable")));
     EXPECT_FALSE(showsMenu(frameAt(10, 10, "dropdown_of_a_variable")));
+}
+
+TEST_F(DropdownTest, StandsAndOpensWhereItsParentSetsIt) {
+    const std::string here = "dropdown_of_three";
+    const std::string there = "dropdown_moved";
+    for (const double distance : {0, 50}) {  // from now on both show the same entry
+        frameAt(100 + distance, 10 + distance, distance == 0 ? here : there);
+        frameAt(100 + distance, 90 + distance, distance == 0 ? here : there);
+    }
+    const Calls open = frameAt(250, 40, here);
+    EXPECT_TRUE(showsMenu(open));
+    EXPECT_EQ(frameAt(350, 90, there), moved(open, 100, 50));
+    const Calls chosen = frameAt(0, 84, here);
+    EXPECT_TRUE(holds(chosen, kHand));
+    EXPECT_EQ(frameAt(100, 134, there), moved(chosen, 100, 50));
+    EXPECT_EQ(frameOf(there), moved(frameOf(here), 100, 50));
 }
 
 TEST_F(DropdownTest, ThatIsDisabledNeverOpens) {

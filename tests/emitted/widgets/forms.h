@@ -36,6 +36,9 @@ protected:
         return count;
     }
 
+    /// The calls of a block that stands that far from where these draw.
+    static Calls moved(const Calls& calls, float x, float y);
+
     static bool holds(const Calls& calls, const std::string& call) {
         return std::find(calls.begin(), calls.end(), call) != calls.end();
     }

@@ -29,6 +29,13 @@ TEST_F(ListTileTest, IsDarkerUnderThePointer) {
     EXPECT_FALSE(holds(drawnBlock("list_tile_defaults"), kHand));
 }
 
+TEST_F(ListTileTest, TakesTheSizeThatIsForcedOnIt) {
+    EXPECT_TRUE(
+        holds(drawnBlock("list_tile_defaults", 300, 80), "nvgRoundedRect(0, 0, 300, 80, 8)"));
+    EXPECT_TRUE(holds(drawnBlock("list_tile_defaults", 1300), "nvgRoundedRect(0, 0, 1280, 56, 8)"))
+        << "no wider than the window";
+}
+
 TEST_F(ListTileTest, SetsItsPartsBesideEachOther) {
     browser().answerWith("measureText", 60);
     browser().answerWith("nvgCreateImage", 5);
@@ -54,6 +61,19 @@ TEST_F(ListTileTest, SetsATitleAloneInTheMiddle) {
     EXPECT_TRUE(hasTitle);
 }
 
+TEST_F(ListTileTest, StandsWithItsPartsWhereItsParentSetsIt) {
+    browser().answerWith("measureText", 60);
+    browser().answerWith("nvgCreateImage", 5);
+    for (const char* block : {"list_tile_whole", "list_tile_moved"}) drawnBlock(block);
+    EXPECT_EQ(drawnBlock("list_tile_moved"), moved(drawnBlock("list_tile_whole"), 100, 50));
+    EXPECT_EQ(drawnBlock("list_tile_moved_title_alone"),
+              moved(drawnBlock("list_tile_title_alone"), 100, 50));
+    int& calls = countCallsOf("திற");
+    const Calls pressed = clickAt(0, 0, "list_tile_whole");
+    EXPECT_EQ(clickAt(100, 50, "list_tile_moved"), moved(pressed, 100, 50));
+    EXPECT_EQ(calls, 2);
+}
+
 TEST_F(ListTileTest, TellsTheProgramOfAPress) {
     int& calls = countCallsOf("திற");
     drawnBlock("list_tile_whole");
@@ -76,6 +96,8 @@ TEST_F(ListTileTest, IsBlindBelowAWarning) {
     g_alert_names.insert("எச்சரி");
     global_vars["எச்சரி"] = true;
     EXPECT_FALSE(holds(drawnBlock("list_tile_defaults"), kHand));
+    const Calls inside = frame([] { g_overlays.push_back(blockNamed("list_tile_defaults").draw); });
+    EXPECT_TRUE(holds(inside, kHand)) << "but not within it";
 }
 
 }  // namespace

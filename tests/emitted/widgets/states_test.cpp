@@ -76,4 +76,21 @@ TEST_F(StatesTest, MessageBarSaysItsMessageInItsColour) {
     EXPECT_TRUE(holds(calls, text("200", "17", "சேமிக்கப்பட்டது", "#FFFFFF", "16", "center")));
 }
 
+TEST_F(StatesTest, StandWhereTheirParentSetsThem) {
+    const struct {
+        const char* block;
+        const char* there;
+    } rows[] = {
+        {"spinner_defaults", "spinner_moved"},
+        {"progress_bar_indeterminate", "progress_bar_moved_without_a_value"},
+        {"message_bar_defaults", "message_bar_moved"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(drawnBlock(row.there), moved(drawnBlock(row.block), 100, 50)) << row.block;
+    }
+    EXPECT_EQ(drawnBlock("progress_bar_moved"),
+              join({bar("100, 50, 200, 6, 3", kTrack),
+                    bar("100, 50, 80, 6, 3", "rgba(33, 150, 243, 255)")}));
+}
+
 }  // namespace
