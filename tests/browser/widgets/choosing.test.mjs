@@ -63,6 +63,20 @@ test('a switch turns at each click, also a little beside it, and tells the progr
     await shows(page, right, middle, grey);
 });
 
+test('no key turns a switch, and nothing that is drawn takes the focus', async () => {
+    const page = await desk();
+    await press(page, 240, 20);
+    await page.mouse.move(24, toggle + 14);
+    for (const key of ['Space', 'Enter', 'ArrowRight', 'Tab', 'Space', 'Enter']) {
+        await page.keyboard.press(key);
+        const focused = await page.evaluate(() => document.activeElement.id || document.activeElement.tagName);
+        assert.ok(['BODY', 'canvas'].includes(focused), `${focused} after ${key}`);
+    }
+    await nextFrames(page);
+    await shows(page, 14, toggle + 14, white);
+    await tells(page, toggles, '2');
+});
+
 /** Waits until the value is shown above a held thumb, in its middle. */
 const showsValue = (page, value) => until(async () =>
     (await texts(page)).some(({text, y}) => text === value && y === track.y - 25), `the value ${value}`);
