@@ -18,7 +18,7 @@ export const windows = [{width: 1280, height: 600}, {width: 700, height: 600}, {
 const fineWindows = windows.slice(1);  // with four pixels for each of the page
 
 /** Notes the texts of each frame on `window.texts`, and on `window.frames` how many were drawn. */
-function noteTexts() {
+export function noteTexts() {
     let texts = [];
     window.frames = 0;
     const fillText = CanvasRenderingContext2D.prototype.fillText;
