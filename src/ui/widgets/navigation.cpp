@@ -7,9 +7,12 @@
 namespace {
 
 constexpr ChannelNames kFill = {"r", "g", "b", "a"};
+constexpr const char* kOnPress = "அழுத்தினால்";
 
-std::vector<const WidgetNode*> itemsOf(const WidgetNode& bar, const char* name) {
-    std::vector<const WidgetNode*> items;
+using Items = std::vector<const WidgetNode*>;
+
+Items itemsOf(const WidgetNode& bar, const char* name) {
+    Items items;
     for (const WidgetNode* child : widgetChildren(bar)) {
         if (child->name == name) items.push_back(child);
     }
@@ -20,6 +23,23 @@ std::vector<const WidgetNode*> itemsOf(const WidgetNode& bar, const char* name) 
 std::string chosen(const WidgetNode& bar, const char* key) {
     const std::string* number = numberProperty(bar, key);
     return number == nullptr ? "0" : *number;
+}
+
+bool answersPress(const WidgetNode& item) {
+    return property(item, kOnPress) != nullptr || !item.onTapStatements.empty();
+}
+
+/// Who is told of a click: the bar, then the item at the place that `clicked` holds.
+///     if (clickedIdx == 1) { ... }
+void writeHandlers(WidgetWriter& w, const Site& bar, const Items& items,
+                   const std::string& clicked) {
+    w.writeHandler(bar, kOnPress);
+    for (std::size_t i = 0; i < items.size(); i++) {
+        if (!answersPress(*items[i])) continue;
+        w.text.block("if (" + clicked + " == " + std::to_string(i) + ") ", [&] {
+            w.writeHandler({*items[i], bar.x, bar.y, bar.id}, kOnPress);
+        });
+    }
 }
 
 /// The path of an item's picture; null without one.
@@ -52,7 +72,7 @@ void writeBottomBar(WidgetWriter& w, const Site& at) {
                  w.declareChannels(kFill, {255, 255, 255, 255});
                  w.assignChannels(kFill, colourProperty(at.node, "style_பின்னணி"));
              }},
-            {"HANDLER", [&] { w.writeHandler(at, "அழுத்தினால்"); }},
+            {"HANDLER", [&] { writeHandlers(w, at, items, "clickedIdx"); }},
             {"ITEMS", [&] {
                  for (std::size_t i = 0; i < items.size(); i++) {
                      writeBottomItem(w, at, *items[i], i);
@@ -70,7 +90,7 @@ void writeTabBar(WidgetWriter& w, const Site& at) {
                  w.declareChannels(kFill, {33, 150, 243, 255});
                  w.assignChannels(kFill, colourProperty(at.node, "style_பின்னணி"));
              }},
-            {"HANDLER", [&] { w.writeHandler(at, "அழுத்தினால்"); }},
+            {"HANDLER", [&] { writeHandlers(w, at, items, "clickedTab"); }},
             {"ITEMS", [&] {
                  for (std::size_t i = 0; i < items.size(); i++) {
                      const Expression* label = property(*items[i], "உரை");

@@ -3,7 +3,22 @@
 
 namespace {
 
-class OverlaysTest : public FormTest {};
+class OverlaysTest : public FormTest {
+protected:
+    /// Which of the program's functions `clicks` calls, in their order.
+    static std::vector<std::string> toldBy(const std::vector<std::string>& functions,
+                                           const std::function<void()>& clicks) {
+        std::vector<std::string> told;
+        for (const std::string& name : functions) {
+            global_vars[name] = std::any(std::function<std::any()>([&told, name] {
+                told.push_back(name);
+                return std::any();
+            }));
+        }
+        clicks();
+        return told;
+    }
+};
 
 // ---- Warnings ----
 
@@ -83,6 +98,25 @@ TEST_F(OverlaysTest, BottomBarTellsTheProgramAndMovesNothing) {
     EXPECT_EQ(calls, 1);
 }
 
+TEST_F(OverlaysTest, BottomBarsItemIsToldOfItsOwnClick) {
+    const std::vector<std::string> told = toldBy({"மாற்று", "முகப்பு"}, [] {
+        clickAt(700, 540, "bottom_bar_items_with_handlers");
+        clickAt(400, 540, "bottom_bar_items_with_handlers");
+        clickAt(100, 540, "bottom_bar_items_with_handlers");
+    });
+    EXPECT_EQ(told, (std::vector<std::string>{"மாற்று", "மாற்று", "மாற்று", "முகப்பு"}));
+}
+
+TEST_F(OverlaysTest, BottomBarsItemRunsItsPressBlock) {
+    const auto printedBy = [](double x) {
+        testing::internal::CaptureStdout();
+        clickAt(x, 540, "bottom_bar_items_with_handlers");
+        return testing::internal::GetCapturedStdout();
+    };
+    EXPECT_EQ(printedBy(700), "உதவி\n");
+    EXPECT_EQ(printedBy(500), "");
+}
+
 // ---- Tab bars ----
 
 TEST_F(OverlaysTest, TabBarMovesToTheTabThatIsClicked) {
@@ -100,6 +134,14 @@ TEST_F(OverlaysTest, TabBarMovesToTheTabThatIsClicked) {
     EXPECT_TRUE(holds(clicked, "nvgRect(0, 47, 266.667, 3)"));
     clickAt(10, 50.5, "tab_bar_of_two");
     EXPECT_EQ(calls, 1);
+}
+
+TEST_F(OverlaysTest, TabIsToldOfItsOwnClick) {
+    const std::vector<std::string> told = toldBy({"மாற்று", "இரண்டு"}, [] {
+        clickAt(100, 10, "tab_bar_items_with_handlers");
+        clickAt(500, 10, "tab_bar_items_with_handlers");
+    });
+    EXPECT_EQ(told, (std::vector<std::string>{"மாற்று", "மாற்று", "இரண்டு"}));
 }
 
 }  // namespace
