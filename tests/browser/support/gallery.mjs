@@ -1,0 +1,295 @@
+// The gallery of examples/web, and a picture of each widget in it. A widget stands in a white plate
+// under its own name: that name, where the page writes it, tells the plate, and what stands in the
+// plate below it is the picture. What stands in no plate, and what must be pressed first, has a row in
+// a table. A picture keeps the places of its texts: fonts differ between machines, so texts don't
+// count when pictures are compared.
+import assert from 'node:assert/strict';
+import {cpSync, readFileSync} from 'node:fs';
+import {dirname, join} from 'node:path';
+import {fileURLToPath} from 'node:url';
+import {PNG} from 'pngjs';
+import {openPage, press, until} from './browser.mjs';
+import {copyFonts} from './fonts.mjs';
+import {readPicture} from './golden.mjs';
+import {address, makeWorkplace, startCompiler} from './tool.mjs';
+import {nextFrames, noteTexts, texts} from './widget_screen.mjs';
+
+const root = join(dirname(fileURLToPath(import.meta.url)), '..', '..', '..');
+const examples = join(root, 'examples', 'web');
+
+export const pictures = join(root, 'docs', 'படங்கள்');
+export const gallerySource = readFileSync(join(examples, 'காட்சியகம்.பொழில்'), 'utf8');
+
+/** The words of the bar that leads from page to page, in its order; they name the pages, too. */
+export const pages = ['எழுத்து', 'கலன்', 'இடம்', 'படிவம்', 'தேர்வு', 'பட்டை'];
+
+const ratio = 2;          // of a picture's pixels to the page's
+const margin = 8;         // around what a picture shows, as all below in the page's pixels
+const desk = {width: 1280, height: 720};
+const nameSize = 14;      // of the names above the widgets, and
+const nameColour = '#8a7463';
+const nameHeight = 17;
+
+const aside = [2, desk.height - 100];  // where the pointer is over no widget
+
+/** Pages draw by the time, and a picture wants one moment. */
+function holdTime() { performance.now = () => 400; }
+
+const inputWith = (page, hint) => page.locator(`input[placeholder="${hint}"]`);
+const middle = ({left, top, width, height}) => [left + width / 2, top + height / 2];
+
+/**
+ * What isn't found by a name in a plate: on which page; where, or beside which plate; what is done
+ * first and afterwards; and texts that must stand there.
+ */
+const unplated = [
+    {kind: 'காட்சியகம்', page: 'எழுத்து', place: {left: 0, top: 0, width: 1280, height: 560}, holds: ['உரை', 'பொத்தான்', 'பிரிப்பான்']},
+    {kind: 'பக்கம்', page: 'பட்டை', place: {left: 0, top: 0, ...desk}, holds: ['பகல்', 'எச்சரிக்கை', 'விருப்பம்']},
+    {kind: 'தத்தல்', page: 'பட்டை', place: {left: 0, top: 52, width: 1280, height: 58}, holds: ['காலை', 'பகல்', 'மாலை']},
+    {kind: 'பட்டியல்_காட்சி', page: 'பட்டை', place: {left: 462, top: 144, width: 356, height: 162}, holds: ['நற்றிணை', 'ஐந்து திணைகள்']},
+    {kind: 'அடிப்பகுதி', page: 'பட்டை', place: {left: 0, top: 648, width: 1280, height: 72}, holds: ['முகப்பு', 'தேடல்', 'விருப்பம்']},
+    {
+        kind: 'அறிவிப்பு_பட்டை', page: 'பட்டை', place: {left: 468, top: 16, width: 344, height: 110}, holds: ['கடிதம் அனுப்பப்பட்டது'],
+        prepare: (page, plate) => press(page, ...middle(plate)),
+    },
+    {
+        kind: 'எச்சரிக்கை', page: 'பட்டை', place: {left: 440, top: 225, width: 400, height: 270}, holds: ['அழிக்கவா?', 'வேண்டாம்'],
+        prepare: (page, plate) => press(page, ...middle(plate)),
+        restore: page => press(page, 575, 410),
+    },
+    {
+        kind: 'கீழ்வரி', page: 'தேர்வு', beside: ({left, top}) => ({left: left - 2, top: top - 2, width: 180, height: 184}),
+        holds: ['காவிரி', 'வைகை', 'பொருநை'],
+        async prepare(page, {left, top}) {
+            await press(page, left + 80, top + 25);
+            await press(page, left + 80, top + 25 + 44 + 40);
+            await press(page, left + 80, top + 25);
+        },
+    },
+    {
+        kind: 'தேடுபொறி', page: 'படிவம்', beside: plate => plate, holds: ['தேடுபொறி'],
+        prepare: page => inputWith(page, 'நூலைத் தேடுங்கள்').fill('சிலப்பதிகாரம்'),
+    },
+];
+
+// ---- The page ----
+
+/** Builds the gallery by the compiler, in a folder of its own. */
+export async function buildGallery() {
+    const workplace = makeWorkplace();
+    cpSync(join(examples, 'assets'), join(workplace.work, 'assets'), {recursive: true});
+    copyFonts(workplace.work);
+    workplace.write('நிரல்.பொழில்', gallerySource);
+    const compiler = startCompiler(workplace, 'நிரல்.பொழில்');
+    await until(() => compiler.output.includes('🌍 பிரவுசர்') || compiler.ended, 'the build', 300);
+    assert.ok(compiler.output.includes('வெற்றி!'), compiler.output);
+    return {workplace, compiler};
+}
+
+/** Its first page, with four pixels for each of the page. */
+export async function openGallery(browser) {
+    const options = {viewport: desk, screen: {width: 1920, height: 1080}, deviceScaleFactor: ratio};
+    const page = await openPage(browser, options, async page => {
+        await page.addInitScript(noteTexts);
+        await page.addInitScript(holdTime);
+    });
+    await page.goto(address);
+    await until(() => page.evaluate(() => window.frames > 1), 'the first frames');
+    return page;
+}
+
+/** Presses the word of a page in the bar, and waits for the page. */
+export async function goTo(page, name) {
+    const word = (await texts(page)).find(({text, y}) => text === name && y < 52);
+    assert.ok(word, `'${name}' stands in the bar`);
+    const title = titleOf(name);
+    await press(page, word.left + word.width / 2, word.y + 5);
+    await page.mouse.move(...aside);
+    await until(async () => await page.title() === title, `the page '${title}'`);
+    await nextFrames(page);
+}
+
+function titleOf(name) {
+    const title = new RegExp(`இணைய_தலைப்பு: "([^"]+)"\\s+பின்னணி: "[^"]+"\\s+பக்கம்: "${name}"`).exec(gallerySource);
+    assert.ok(title, `a page '${name}' with a title`);
+    return title[1];
+}
+
+/** A photograph of the window when two in a row are equal: nothing moves any more. */
+async function photograph(page, options = {}) {
+    let last = Buffer.alloc(0);
+    return until(async () => {
+        const shot = await page.screenshot({animations: 'disabled', ...options});
+        const isStill = shot.equals(last);
+        last = shot;
+        return isStill && shot;
+    }, 'the page to come to rest');
+}
+
+/** The places of all that is written, on the text layer and in inputs. */
+async function writing(page) {
+    const drawn = (await texts(page)).map(({left, y, width, size}) =>
+        ({left: left - 2, top: y - size * 0.25, width: width + 4, height: size * 1.6}));
+    const typed = await page.evaluate(() => [...document.getElementsByClassName('pozhil-input')]
+        .filter(input => input.style.display !== 'none').map(input => {
+            const {left, top, height} = input.getBoundingClientRect();
+            const {font, fontSize, paddingLeft, borderLeftWidth} = getComputedStyle(input);
+            const context = new OffscreenCanvas(1, 1).getContext('2d');
+            context.font = font;
+            const size = parseFloat(fontSize);
+            return {
+                left: left + parseFloat(paddingLeft) + parseFloat(borderLeftWidth) - 2,
+                top: top + height / 2 - size,
+                width: context.measureText(input.value || input.placeholder).width + 6,
+                height: size * 2,
+            };
+        }));
+    return [...drawn, ...typed];
+}
+
+/** All that is needed of a page as it stands: what it shows, the same without texts, the texts. */
+async function look(page) {
+    const shot = readPicture(await photograph(page));
+    const bare = readPicture(await photograph(page,
+        {style: '#textCanvas { visibility: hidden !important; } .pozhil-input { color: transparent !important; } ' +
+            '.pozhil-input::placeholder { color: transparent !important; }'}));
+    return {shot, bare, drawn: await texts(page), written: await writing(page)};
+}
+
+// ---- Places ----
+
+const isWhite = ({data, width}, x, y) => {
+    const at = 4 * (Math.round(y * ratio) * width + Math.round(x * ratio));
+    return data[at] > 250 && data[at + 1] > 250 && data[at + 2] > 250;
+};
+
+/** How far from there it is white, in steps of a pixel. */
+function whiteUntil(picture, x, y, dx, dy) {
+    while (x > 0 && y > 0 && x < desk.width - 1 && y < desk.height - 1 && isWhite(picture, x + dx, y + dy)) {
+        x += dx;
+        y += dy;
+    }
+    return dx === 0 ? y : x;
+}
+
+/** The names above the widgets of a page: a name, and the plate's part below it. */
+function plates({bare, drawn}) {
+    const names = drawn.filter(({size, colour}) => size === nameSize && colour === nameColour);
+    return new Map(names.map(({text, left, width, y}) => {
+        const x = Math.round(left + width / 2);
+        const from = Math.round(y);
+        const plateLeft = whiteUntil(bare, x, from, -1, 0);
+        const plateRight = whiteUntil(bare, x, from, 1, 0);
+        assert.ok(Math.abs(plateLeft + plateRight - 2 * x) < 6, `'${text}' stands in the middle of a plate`);
+        const top = from + nameHeight;
+        const bottom = whiteUntil(bare, plateLeft + 6, from, 0, 1);
+        assert.ok(bottom - top > 40, `'${text}' has a plate below it`);
+        return [text, {left: plateLeft, top, width: plateRight - plateLeft, height: bottom - top}];
+    }));
+}
+
+const meets = (a, b) => a.left < b.left + b.width && b.left < a.left + a.width &&
+    a.top < b.top + b.height && b.top < a.top + a.height;
+
+/** The smallest place in a plate that holds all that is no plate, with a margin. */
+function tightIn(plate, {bare, written}, kind) {
+    let left = Infinity, top = Infinity, right = -1, bottom = -1;
+    const take = (x, y, width = 1, height = 1) => {
+        left = Math.min(left, x);
+        top = Math.min(top, y);
+        right = Math.max(right, x + width);
+        bottom = Math.max(bottom, y + height);
+    };
+    for (let y = plate.top; y < plate.top + plate.height; y++) {
+        for (let x = plate.left + 1; x < plate.left + plate.width; x++) {
+            if (!isWhite(bare, x, y)) take(x, y);
+        }
+    }
+    const ink = {...plate, top: plate.top + 4};  // the name's own place reaches a little below it
+    for (const text of written.filter(text => meets(text, ink))) {
+        take(Math.floor(text.left), Math.floor(text.top), Math.ceil(text.width), Math.ceil(text.height));
+    }
+    assert.ok(right - left > 10 && bottom - top > 2, `there is a ${kind} below its name`);
+    assert.ok(left > plate.left + 4 && right < plate.left + plate.width - 4, `${kind} is as wide as its plate`);
+    left = Math.max(left - margin, plate.left);
+    top = Math.max(top - margin, plate.top);
+    right = Math.min(right + margin, plate.left + plate.width);
+    bottom = Math.min(bottom + margin, plate.top + plate.height);
+    return {left, top, width: right - left, height: bottom - top};
+}
+
+/** Fails unless the texts of `holds` are written within the place. */
+function assertHolds(place, holds, drawn, kind) {
+    for (const wanted of holds) {
+        const isThere = drawn.some(({text, left, y, width}) => text === wanted && left >= place.left &&
+            left + width <= place.left + place.width && y >= place.top && y <= place.top + place.height);
+        assert.ok(isThere, `'${wanted}' stands where ${kind} is photographed`);
+    }
+}
+
+// ---- Pictures ----
+
+/** That part of a photograph. */
+export function cut(shot, {left, top, width, height}) {
+    const picture = new PNG({width: width * ratio, height: height * ratio});
+    PNG.bitblt(shot, picture, left * ratio, top * ratio, width * ratio, height * ratio, 0, 0);
+    return picture;
+}
+
+/** Paints grey over the places, which are those of the window, in a picture of `place`. */
+export function cover({data, width, height}, place, places) {
+    for (const {left, top, width: w, height: h} of places) {
+        const from = (at, start) => Math.max(0, Math.floor((at - start) * ratio));
+        const to = (at, start, end) => Math.min(end, Math.ceil((at - start) * ratio));
+        for (let y = from(top, place.top); y < to(top + h, place.top, height); y++) {
+            for (let x = from(left, place.left); x < to(left + w, place.left, width); x++) {
+                data.fill(128, 4 * (y * width + x), 4 * (y * width + x) + 3);
+            }
+        }
+    }
+}
+
+function pictureOf(kind, place, {shot, written}) {
+    const round = value => Math.round(value * 10) / 10;
+    const written_here = written.filter(text => meets(text, place)).map(({left, top, width, height}) =>
+        ({left: round(left), top: round(top), width: round(width), height: round(height)}));
+    return {kind, place, written: written_here, shot};
+}
+
+/**
+ * All pictures of the page that is shown: `kind`, `place`, the places `written` on, and `shot`, the
+ * photograph that `place` is a part of. Where `places` names a kind's place, that one is taken.
+ */
+export async function picturesOf(page, name, places = {}) {
+    const calm = await look(page);
+    const found = plates(calm);
+    const taken = [];
+    const rows = unplated.filter(row => row.page === name);
+    for (const [kind, plate] of found) {
+        if (rows.some(row => row.kind === kind)) continue;
+        taken.push(pictureOf(kind, places[kind]?.place ?? tightIn(plate, calm, kind), calm));
+    }
+    for (const row of rows) taken.push(await pictureOfRow(page, row, calm, found, places));
+    return taken;
+}
+
+async function pictureOfRow(page, row, calm, found, places) {
+    const plate = found.get(row.kind);
+    assert.ok(plate || row.place, `'${row.kind}' stands above a plate`);
+    const tight = plate && tightIn(plate, calm, row.kind);
+    let seen = calm;
+    if (row.prepare) {
+        await row.prepare(page, tight);
+        await page.evaluate(() => document.activeElement.blur());
+        await page.mouse.move(...aside);
+        await nextFrames(page);
+        seen = await look(page);
+        await row.restore?.(page);
+        await page.mouse.move(...aside);
+        await nextFrames(page);
+    }
+    const place = row.place ?? places[row.kind]?.place ?? row.beside(tight);
+    const around = row.beside ? {left: 0, top: 0, ...desk} : place;
+    assertHolds(around, row.holds, seen.drawn, row.kind);
+    return pictureOf(row.kind, place, seen);
+}
