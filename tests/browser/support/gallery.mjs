@@ -23,6 +23,7 @@ export const gallerySource = readFileSync(join(examples, 'காட்சிய�
 /** The words of the bar that leads from page to page, in its order; they name the pages, too. */
 export const pages = ['எழுத்து', 'கலன்', 'இடம்', 'படிவம்', 'தேர்வு', 'பட்டை'];
 
+const pause = 250;        // between frames: so many pixels take long, and nothing moves
 const ratio = 2;          // of a picture's pixels to the page's
 const margin = 8;         // around what a picture shows, as all below in the page's pixels
 const desk = {width: 1280, height: 720};
@@ -30,17 +31,37 @@ const nameSize = 14;      // of the names above the widgets, and
 const nameColour = '#8a7463';
 const nameHeight = 17;
 
+const corner = 16;        // at a plate's ends, where it is round
+
 const aside = [2, desk.height - 100];  // where the pointer is over no widget
 
 /** Pages draw by the time, and a picture wants one moment. */
 function holdTime() { performance.now = () => 400; }
 
 const inputWith = (page, hint) => page.locator(`input[placeholder="${hint}"]`);
-const middle = ({left, top, width, height}) => [left + width / 2, top + height / 2];
+
+/** The leftmost of the texts that read so. */
+function textOf(drawn, wanted) {
+    const found = drawn.filter(({text}) => text === wanted).sort((a, b) => a.left - b.left);
+    assert.ok(found.length > 0, `'${wanted}' stands on the page; what stands is ${drawn.map(({text}) => text)}`);
+    return found[0];
+}
+
+async function pressText(page, wanted) {
+    const {left, width, y, size} = textOf(await texts(page), wanted);
+    await press(page, left + width / 2, y + size / 2);
+}
+
+/** Where the first list to choose from stands, by its text. */
+function dropdown(drawn, shown) {
+    const {left, y} = textOf(drawn, shown);
+    return {left: Math.round(left - 15), top: Math.round(y - 12)};
+}
 
 /**
- * What isn't found by a name in a plate: on which page; where, or beside which plate; what is done
- * first and afterwards; and texts that must stand there.
+ * What isn't photographed as it stands in a plate: on which page, what is done first and afterwards,
+ * where it is then, in numbers or by the texts, and texts that must stand there. Without a place it is
+ * the plate's.
  */
 const unplated = [
     {kind: 'காட்சியகம்', page: 'எழுத்து', place: {left: 0, top: 0, width: 1280, height: 560}, holds: ['உரை', 'பொத்தான்', 'பிரிப்பான்']},
@@ -50,24 +71,31 @@ const unplated = [
     {kind: 'அடிப்பகுதி', page: 'பட்டை', place: {left: 0, top: 648, width: 1280, height: 72}, holds: ['முகப்பு', 'தேடல்', 'விருப்பம்']},
     {
         kind: 'அறிவிப்பு_பட்டை', page: 'பட்டை', place: {left: 468, top: 16, width: 344, height: 110}, holds: ['கடிதம் அனுப்பப்பட்டது'],
-        prepare: (page, plate) => press(page, ...middle(plate)),
-    },
-    {
-        kind: 'எச்சரிக்கை', page: 'பட்டை', place: {left: 440, top: 225, width: 400, height: 270}, holds: ['அழிக்கவா?', 'வேண்டாம்'],
-        prepare: (page, plate) => press(page, ...middle(plate)),
-        restore: page => press(page, 575, 410),
-    },
-    {
-        kind: 'கீழ்வரி', page: 'தேர்வு', beside: ({left, top}) => ({left: left - 2, top: top - 2, width: 180, height: 184}),
-        holds: ['காவிரி', 'வைகை', 'பொருநை'],
-        async prepare(page, {left, top}) {
-            await press(page, left + 80, top + 25);
-            await press(page, left + 80, top + 25 + 44 + 40);
-            await press(page, left + 80, top + 25);
+        async prepare(page) {
+            await pressText(page, 'அறிவிப்பைக் காட்டு');
+            await until(async () => textOf(await texts(page), 'கடிதம் அனுப்பப்பட்டது').y > 57.99, 'the message to come down');
         },
     },
     {
-        kind: 'தேடுபொறி', page: 'படிவம்', beside: plate => plate, holds: ['தேடுபொறி'],
+        kind: 'எச்சரிக்கை', page: 'பட்டை', place: {left: 440, top: 225, width: 400, height: 270}, holds: ['அழிக்கவா?', 'வேண்டாம்'],
+        prepare: page => pressText(page, 'எச்சரிக்கையைக் காட்டு'),
+        restore: page => pressText(page, 'வேண்டாம்'),
+    },
+    {
+        kind: 'கீழ்வரி', page: 'தேர்வு', holds: ['காவிரி', 'வைகை', 'பொருநை'],
+        place(drawn) {
+            const {left, top} = dropdown(drawn, 'வைகை');
+            return {left: left - 10, top: top - 10, width: 180, height: 184};
+        },
+        async prepare(page) {
+            const {left, top} = dropdown(await texts(page), 'தேர்ந்தெடு...');
+            await press(page, left + 80, top + 20);
+            await pressText(page, 'வைகை');
+            await press(page, left + 80, top + 20);
+        },
+    },
+    {
+        kind: 'தேடுபொறி', page: 'படிவம்', holds: [],
         prepare: page => inputWith(page, 'நூலைத் தேடுங்கள்').fill('சிலப்பதிகாரம்'),
     },
 ];
@@ -92,7 +120,7 @@ export async function openGallery(browser) {
     const page = await openPage(browser, options, async page => {
         await page.addInitScript(noteTexts);
         await page.addInitScript(holdTime);
-    });
+    }, pause);
     await page.goto(address);
     await until(() => page.evaluate(() => window.frames > 1), 'the first frames');
     return page;
@@ -113,17 +141,6 @@ function titleOf(name) {
     const title = new RegExp(`இணைய_தலைப்பு: "([^"]+)"\\s+பின்னணி: "[^"]+"\\s+பக்கம்: "${name}"`).exec(gallerySource);
     assert.ok(title, `a page '${name}' with a title`);
     return title[1];
-}
-
-/** A photograph of the window when two in a row are equal: nothing moves any more. */
-async function photograph(page, options = {}) {
-    let last = Buffer.alloc(0);
-    return until(async () => {
-        const shot = await page.screenshot({animations: 'disabled', ...options});
-        const isStill = shot.equals(last);
-        last = shot;
-        return isStill && shot;
-    }, 'the page to come to rest');
 }
 
 /** The places of all that is written, on the text layer and in inputs. */
@@ -147,14 +164,21 @@ async function writing(page) {
     return [...drawn, ...typed];
 }
 
-/** All that is needed of a page as it stands: what it shows, the same without texts, the texts. */
+/** What the page shows, its texts, and where it is written on. Time is held: after a frame nothing moves. */
 async function look(page) {
-    const shot = readPicture(await photograph(page));
-    const bare = readPicture(await photograph(page,
-        {style: '#textCanvas { visibility: hidden !important; } .pozhil-input { color: transparent !important; } ' +
-            '.pozhil-input::placeholder { color: transparent !important; }'}));
-    return {shot, bare, drawn: await texts(page), written: await writing(page)};
+    await page.evaluate(() => document.activeElement.blur());
+    await page.mouse.move(...aside);
+    await nextFrames(page);
+    const shot = readPicture(await page.screenshot({animations: 'disabled'}));
+    return {shot, drawn: await texts(page), written: await writing(page)};
 }
+
+const withoutWriting = '#textCanvas { visibility: hidden !important; } .pozhil-input { color: transparent !important; } ' +
+    '.pozhil-input::placeholder { color: transparent !important; }';
+
+/** The page without anything written, by which the plates and what they hold are found. */
+const bareOf = async page =>
+    readPicture(await page.screenshot({animations: 'disabled', style: withoutWriting}));
 
 // ---- Places ----
 
@@ -172,10 +196,12 @@ function whiteUntil(picture, x, y, dx, dy) {
     return dx === 0 ? y : x;
 }
 
-/** The names above the widgets of a page: a name, and the plate's part below it. */
-function plates({bare, drawn}) {
-    const names = drawn.filter(({size, colour}) => size === nameSize && colour === nameColour);
-    return new Map(names.map(({text, left, width, y}) => {
+/** The names above the widgets of a page. */
+const namesOf = drawn => drawn.filter(({size, colour}) => size === nameSize && colour === nameColour);
+
+/** The plates by their names: of each the part below the name. */
+function plates(bare, drawn) {
+    return new Map(namesOf(drawn).map(({text, left, width, y}) => {
         const x = Math.round(left + width / 2);
         const from = Math.round(y);
         const plateLeft = whiteUntil(bare, x, from, -1, 0);
@@ -192,7 +218,7 @@ const meets = (a, b) => a.left < b.left + b.width && b.left < a.left + a.width &
     a.top < b.top + b.height && b.top < a.top + a.height;
 
 /** The smallest place in a plate that holds all that is no plate, with a margin. */
-function tightIn(plate, {bare, written}, kind) {
+function tightIn(plate, bare, written, kind) {
     let left = Infinity, top = Infinity, right = -1, bottom = -1;
     const take = (x, y, width = 1, height = 1) => {
         left = Math.min(left, x);
@@ -201,7 +227,7 @@ function tightIn(plate, {bare, written}, kind) {
         bottom = Math.max(bottom, y + height);
     };
     for (let y = plate.top; y < plate.top + plate.height; y++) {
-        for (let x = plate.left + 1; x < plate.left + plate.width; x++) {
+        for (let x = plate.left + corner; x < plate.left + plate.width - corner; x++) {
             if (!isWhite(bare, x, y)) take(x, y);
         }
     }
@@ -210,7 +236,7 @@ function tightIn(plate, {bare, written}, kind) {
         take(Math.floor(text.left), Math.floor(text.top), Math.ceil(text.width), Math.ceil(text.height));
     }
     assert.ok(right - left > 10 && bottom - top > 2, `there is a ${kind} below its name`);
-    assert.ok(left > plate.left + 4 && right < plate.left + plate.width - 4, `${kind} is as wide as its plate`);
+    assert.ok(left > plate.left + corner && right < plate.left + plate.width - corner, `${kind} is as wide as its plate`);
     left = Math.max(left - margin, plate.left);
     top = Math.max(top - margin, plate.top);
     right = Math.min(right + margin, plate.left + plate.width);
@@ -251,45 +277,55 @@ export function cover({data, width, height}, place, places) {
 
 function pictureOf(kind, place, {shot, written}) {
     const round = value => Math.round(value * 10) / 10;
-    const written_here = written.filter(text => meets(text, place)).map(({left, top, width, height}) =>
+    const inside = written.filter(text => meets(text, place)).map(({left, top, width, height}) =>
         ({left: round(left), top: round(top), width: round(width), height: round(height)}));
-    return {kind, place, written: written_here, shot};
+    return {kind, place, written: inside, shot};
+}
+
+/** Fails unless the name of the kind stands just above the place. */
+function assertNamed(kind, {left, top, width}, drawn) {
+    const name = namesOf(drawn).find(({text}) => text === kind);
+    assert.ok(name, `'${kind}' stands on its page`);
+    const isAbove = name.y < top && top - name.y < 60 && name.left > left - 300 && name.left + name.width < left + width + 300;
+    assert.ok(isAbove, `'${kind}' stands above its place`);
+}
+
+/** Where the kinds in plates stand, from the page as it is shown. */
+async function findPlaces(page, {drawn, written}) {
+    const bare = await bareOf(page);
+    const found = plates(bare, drawn);
+    return Object.fromEntries([...found].map(([kind, plate]) => [kind, tightIn(plate, bare, written, kind)]));
 }
 
 /**
  * All pictures of the page that is shown: `kind`, `place`, the places `written` on, and `shot`, the
- * photograph that `place` is a part of. Where `places` names a kind's place, that one is taken.
+ * photograph that `place` is a part of. Kinds in plates stand where `places` says, or are looked for.
  */
-export async function picturesOf(page, name, places = {}) {
+export async function picturesOf(page, name, places) {
     const calm = await look(page);
-    const found = plates(calm);
-    const taken = [];
     const rows = unplated.filter(row => row.page === name);
-    for (const [kind, plate] of found) {
+    const found = places ?? await findPlaces(page, calm);
+    const taken = [];
+    for (const {text: kind} of namesOf(calm.drawn)) {
         if (rows.some(row => row.kind === kind)) continue;
-        taken.push(pictureOf(kind, places[kind]?.place ?? tightIn(plate, calm, kind), calm));
+        assert.ok(found[kind], `there is a place for '${kind}'`);
+        assertNamed(kind, found[kind], calm.drawn);
+        taken.push(pictureOf(kind, found[kind], calm));
     }
-    for (const row of rows) taken.push(await pictureOfRow(page, row, calm, found, places));
+    for (const row of rows) taken.push(await pictureOfRow(page, row, calm, found));
     return taken;
 }
 
-async function pictureOfRow(page, row, calm, found, places) {
-    const plate = found.get(row.kind);
-    assert.ok(plate || row.place, `'${row.kind}' stands above a plate`);
-    const tight = plate && tightIn(plate, calm, row.kind);
+async function pictureOfRow(page, row, calm, found) {
     let seen = calm;
     if (row.prepare) {
-        await row.prepare(page, tight);
-        await page.evaluate(() => document.activeElement.blur());
-        await page.mouse.move(...aside);
-        await nextFrames(page);
+        await row.prepare(page);
         seen = await look(page);
-        await row.restore?.(page);
-        await page.mouse.move(...aside);
-        await nextFrames(page);
     }
-    const place = row.place ?? places[row.kind]?.place ?? row.beside(tight);
-    const around = row.beside ? {left: 0, top: 0, ...desk} : place;
-    assertHolds(around, row.holds, seen.drawn, row.kind);
+    const place = typeof row.place === 'function' ? row.place(seen.drawn) : row.place ?? found[row.kind];
+    assert.ok(place, `there is a place for '${row.kind}'`);
+    if (row.place) assertHolds(place, row.holds, seen.drawn, row.kind);
+    else assertNamed(row.kind, place, seen.drawn);
+    await row.restore?.(page);
     return pictureOf(row.kind, place, seen);
 }
