@@ -1,5 +1,4 @@
-// What JavaScript calls: input values, results of the database, scrolling, paste. And how the
-// program runs a script.
+// What JavaScript calls: input values, results of the database, scrolling, paste.
 
 #ifdef __EMSCRIPTEN__
 void நகர்த்து(std::string id);
@@ -16,21 +15,6 @@ std::map<std::string, std::any>& rtdb_temp() {
 }
 
 extern "C" {
-// Stands in for the library's function of this name, which lets a script's failure leave through
-// the program's own calls: no frame would follow, and a program that has only begun would never
-// show itself.
-void emscripten_run_script(const char* script) {
-    EM_ASM(
-        {
-            try {
-                eval(UTF8ToString($0));
-            } catch (e) {
-                console.error('🔥 பொழில் இயக்கநேரப் பிழை (WASM):', e.message);
-            }
-        },
-        script);
-}
-
 EMSCRIPTEN_KEEPALIVE void set_input_value(const char* id, const char* val) {
     g_inputValues[id] = val;
 }

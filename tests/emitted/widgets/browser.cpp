@@ -64,6 +64,7 @@ int glfwGetMouseButton(GLFWwindow* window, int button) {
 
 // ---- The browser ----
 double emscripten_get_now() { return recording().now; }
+void emscripten_run_script(const char* script) { call("emscripten_run_script", script); }
 void emscripten_set_main_loop(em_callback_func loop, int framesPerSecond, int endless) {
     call("emscripten_set_main_loop", framesPerSecond, endless);
     recording().loop = loop;

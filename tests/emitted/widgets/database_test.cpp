@@ -22,7 +22,9 @@ protected:
         g_rtdb_cb_counter = 0;
     }
 
-    static Calls script(const std::string& text) { return {"runScript(\"" + text + "\")"}; }
+    static Calls script(const std::string& text) {
+        return {"emscripten_run_script(\"" + text + "\")"};
+    }
 
     static const Dictionary& dictionary(const std::string& name) {
         return std::any_cast<const Dictionary&>(global_vars[name]);

@@ -38,7 +38,6 @@ const struct {
     {"document.createElement('canvas').getContext('2d')", "measureOnFreshCanvas"},
     {"'rgba(0,0,0,0.63)'", "dimAround"},
     // The start and the keys
-    {"eval(UTF8ToString($0))", "runScript"},
     {"document.activeElement.tagName === 'INPUT' ? 1 : 0", "isInputActive"},
     {"GLFW.onKeydown = function", "letInputsHaveTheirKeys"},
     {"layer.style.width = '100%'", "makeTextLayer"},

@@ -13,5 +13,5 @@
 using em_callback_func = void (*)();
 
 double emscripten_get_now();
-extern "C" void emscripten_run_script(const char* script);  // the program has its own
+void emscripten_run_script(const char* script);
 void emscripten_set_main_loop(em_callback_func, int framesPerSecond, int simulateEndlessLoop);
