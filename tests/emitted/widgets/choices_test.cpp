@@ -187,6 +187,16 @@ TEST_F(SliderTest, IsAsWideAsItsShareAndNeverHigher) {
         << "no wider than the window";
 }
 
+TEST_F(SliderTest, KeepsWhereItWasLeft) {
+    holdAt(150, 10, "slider_defaults");
+    browser().window["mouseDownState"] = 0;
+    const Calls left = drawnBlock("slider_defaults");
+    EXPECT_TRUE(holds(left, "nvgCircle(150, 10, 10)"));
+    EXPECT_FALSE(holds(left, "nvgCircle(150, 10, 15)")) << "no halo any more";
+    pointAt(20, 10);
+    EXPECT_TRUE(holds(drawnBlock("slider_defaults"), "nvgCircle(150, 10, 10)"));
+}
+
 TEST_F(SliderTest, WithoutARangeStaysAtItsStart) {
     EXPECT_TRUE(holds(drawnBlock("slider_of_no_range"), "nvgCircle(0, 10, 10)"));
     const Calls held = holdAt(100, 10, "slider_of_no_range");
@@ -201,9 +211,11 @@ TEST_F(SliderTest, ThatIsDisabledKeepsItsValue) {
 }
 
 TEST_F(SliderTest, StandsAndIsHeldWhereItsParentSetsIt) {
-    EXPECT_EQ(drawnBlock("slider_moved"), moved(drawnBlock("slider_defaults"), 100, 50));
     const Calls held = holdAt(50, -10, "slider_defaults");
     EXPECT_EQ(holdAt(150, 40, "slider_moved"), moved(held, 100, 50));
+    pointAt(-500, -500);
+    browser().window["mouseDownState"] = 0;
+    EXPECT_EQ(drawnBlock("slider_moved"), moved(drawnBlock("slider_defaults"), 100, 50));
 }
 
 // ---- Dropdowns ----

@@ -52,6 +52,18 @@ TEST_F(ListTileTest, SetsItsPartsBesideEachOther) {
     EXPECT_TRUE(hasSubtitle) << "72 less 16 and 12";
 }
 
+TEST_F(ListTileTest, SetsEachPartByItsOwnHeight) {
+    browser().answerWith("measureText", 60);
+    const Calls calls = drawnBlock("list_tile_uneven_parts");
+    EXPECT_TRUE(holds(calls, "nvgRoundedRect(16, 22, 48, 28, 14)")) << "28 in the middle of 72";
+    const auto begins = [&calls](const std::string& head) {
+        return std::any_of(calls.begin(), calls.end(),
+                           [&](const std::string& call) { return call.rfind(head, 0) == 0; });
+    };
+    EXPECT_TRUE(begins("drawText(76, 12, \"அ\""));
+    EXPECT_TRUE(begins("drawText(76, 44, \"ஆ\"")) << "72 less 16 and 12";
+}
+
 TEST_F(ListTileTest, SetsATitleAloneInTheMiddle) {
     browser().answerWith("measureText", 60);
     bool hasTitle = false;
