@@ -1,4 +1,6 @@
 // Radios, switches, sliders and dropdowns: what clicks and drags do to them and to the program.
+#include <utility>
+
 #include "emitted/widgets/forms.h"
 
 namespace {
@@ -109,6 +111,20 @@ TEST_F(SwitchTest, IsATrackWithAThumbAtOneOfItsEnds) {
     EXPECT_EQ(clickAt(53.5, 33, "switch_defaults"), off);
     EXPECT_EQ(clickAt(53, 33.5, "switch_defaults"), off);
     EXPECT_EQ(clickAt(-5.5, -5, "switch_defaults"), off);
+}
+
+TEST_F(SwitchTest, HasColoursOfItsOwnWithTheirOpacity) {
+    EXPECT_TRUE(holds(drawnBlock("switch_coloured"), "nvgFillColor(rgba(128, 128, 128, 128))"));
+    EXPECT_TRUE(holds(clickAt(10, 10, "switch_coloured"), "nvgFillColor(rgba(0, 255, 0, 255))"));
+}
+
+TEST_F(RadioTest, HasColoursOfItsOwn) {
+    const Calls calls = drawnBlock("radio_coloured");
+    EXPECT_TRUE(holds(calls, "nvgStrokeColor(rgba(127, 127, 127, 255))"));
+    const Calls chosen = clickAt(10, 10, "radio_coloured");
+    for (const char* name : {"nvgStrokeColor", "nvgFillColor"}) {
+        EXPECT_TRUE(holds(chosen, name + std::string("(rgba(255, 128, 0, 255))")));
+    }
 }
 
 TEST_F(SwitchTest, TellsTheProgramOfEachTurn) {
@@ -274,6 +290,52 @@ TEST_F(DropdownTest, OpensChoosesAndTellsTheProgram) {
     EXPECT_TRUE(holds(again, text("15", "96", "மதுரை", "#2196F3", "16", "left")));
     frameAt(700, 500, block);
     EXPECT_FALSE(showsMenu(frameOf(block))) << "a click elsewhere closes it";
+}
+
+TEST_F(DropdownTest, IsABoxWithAnArrowAndItsMenuAFieldOfEntries) {
+    const auto box = [](const std::string& colour, const std::string& width) {
+        return Calls{"nvgBeginPath()",
+                     "nvgRoundedRect(0, 0, 200, 40, 6)",
+                     "nvgFillColor(rgba(255, 255, 255, 255))",
+                     "nvgFill()",
+                     "nvgStrokeColor(" + colour + ")",
+                     "nvgStrokeWidth(" + width + ")",
+                     "nvgStroke()",
+                     text("15", "12", "தேர்ந்தெடு...", "#333333", "16", "left"),
+                     "nvgBeginPath()",
+                     "nvgMoveTo(175, 17)",
+                     "nvgLineTo(180, 23)",
+                     "nvgLineTo(185, 17)",
+                     "nvgStrokeColor(rgba(150, 150, 150, 255))",
+                     "nvgStrokeWidth(2)",
+                     "nvgStroke()"};
+    };
+    const std::string block = "dropdown_of_a_variable";
+    EXPECT_EQ(drawnBlock(block), join({kPointer, box("rgba(200, 200, 200, 255)", "1.5")}));
+    EXPECT_EQ(clickAt(200, 40, block), join({kPointer, {kHand}, box(kPrimary, "2")}));
+    clickAt(0, 0, block);
+    for (const auto& [x, y] : {std::pair(200.5, 40.0), std::pair(200.0, 40.5)}) {
+        EXPECT_FALSE(holds(clickAt(x, y, block), kHand));
+    }
+}
+
+TEST_F(DropdownTest, TakesItsFirstEntryToo) {
+    const std::string block = "dropdown_of_three";
+    frameAt(10, 10, block);
+    const Calls clicked = frameAt(10, 44, block);
+    EXPECT_TRUE(holds(clicked, kHand)) << "at the menu's upper edge";
+    const Calls chosen = frameOf(block);
+    EXPECT_FALSE(showsMenu(chosen));
+    EXPECT_TRUE(holds(chosen, text("15", "12", "சென்னை", "#333333", "16", "left")));
+}
+
+TEST_F(DropdownTest, StaysOpenAtItsMenusLowerEdge) {
+    const std::string block = "dropdown_of_three";
+    frameAt(10, 10, block);
+    frameAt(10, 124, block);
+    EXPECT_TRUE(showsMenu(frameOf(block))) << "it belongs to the menu and to no entry";
+    frameAt(10, 124.5, block);
+    EXPECT_FALSE(showsMenu(frameOf(block)));
 }
 
 TEST_F(DropdownTest, ClosesByASecondClickOnItself) {

@@ -86,6 +86,19 @@ TEST_F(ListTileTest, StandsWithItsPartsWhereItsParentSetsIt) {
     EXPECT_EQ(calls, 2);
 }
 
+TEST_F(ListTileTest, SetsWhatEndsItAtItsRight) {
+    const application::Block* whole = application::kTemplatesAllOn;
+    while (whole->name != std::string("list_tile_all_on")) whole++;
+    const Calls calls = drawn(whole->draw);
+    EXPECT_TRUE(holds(calls, "nvgRoundedRect(16, 24, 200, 72, 8)"));
+    EXPECT_TRUE(holds(calls, "nvgCircle(180, 50, 4)")) << "20 wide and high, 16 from the edge";
+}
+
+TEST_F(ListTileTest, OfADarkColourIsNoDarkerThanBlack) {
+    pointAt(10, 10);
+    EXPECT_TRUE(holds(drawnBlock("list_tile_dark"), "nvgFillColor(rgba(0, 0, 0, 255))"));
+}
+
 TEST_F(ListTileTest, TellsTheProgramOfAPress) {
     int& calls = countCallsOf("திற");
     drawnBlock("list_tile_whole");
