@@ -193,4 +193,13 @@ TEST_F(InputsTest, SearchBarTakesItsStyleAndPictures) {
     EXPECT_FALSE(holds(next, "nvgCreateImage(\"தேடு.png\", 0)")) << "once";
 }
 
+TEST_F(InputsTest, SearchBarDrawsItsPicturesAroundTheirMiddles) {
+    drawBarImage(5, 20, 25);
+    EXPECT_EQ(browser().take(),
+              (Calls{"nvgBeginPath()", "nvgRect(10, 15, 20, 20)",
+                     "nvgFillPaint(image(10, 15, 20, 20, 0, 5, 0.5))", "nvgFill()"}));
+    drawBarImage(0, 20, 25);
+    EXPECT_EQ(browser().take(), Calls{}) << "one that is missing";
+}
+
 }  // namespace
