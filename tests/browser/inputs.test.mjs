@@ -183,6 +183,15 @@ async function compose(steps, settled, follow) {
     await follow(settled);
 }
 
+/** Scrolls to there a page that is larger than its window, as a keyboard on the screen makes it. */
+async function scrollPage(x, y) {
+    await page.evaluate(([x, y]) => {
+        document.body.style.width = document.body.style.height = x + y > 0 ? '1000px' : '';
+        window.scrollTo(x, y);
+    }, [x, y]);
+    await nextFrames();
+}
+
 const focused = () => page.evaluate(() => document.activeElement.id.replace(/\d+$/, '#'));
 const elementOf = async id => (await inputs(page)).find(input => input.id === id);
 const isShown = (id, shown) => until(async () => (await elementOf(id)).isShown === shown,
@@ -309,21 +318,16 @@ describe('at a desk', () => {
         await page.setViewportSize({width: 500, height: 400});
         await until(async () => (await elementOf('ஊர்பெயர்')).width === 500 - 40 - 30, 'the wider box');
         await page.setViewportSize(small.viewport);
-        await page.evaluate(() => {
-            document.body.style.width = document.body.style.height = '1000px';
-            window.scrollTo(20, 30);
-        });
-        await nextFrames();
-        const scrolled = await elementOf('ஊர்பெயர்');
-        assert.deepEqual([scrolled.x, scrolled.y], [15 - 20, -30]);
-        await press(page, country.x - 20, country.y - 30);
-        assert.equal(await focused(), 'நாடு');
-        assert.deepEqual(await page.evaluate(() => [window.mouseX, window.mouseY]), [country.x, country.y]);
-        await page.evaluate(() => {
-            document.body.style.width = document.body.style.height = '';
-            window.scrollTo(0, 0);
-        });
-        await nextFrames();
+        await scrollPage(20, 30);
+        try {
+            const scrolled = await elementOf('ஊர்பெயர்');
+            assert.deepEqual([scrolled.x, scrolled.y], [15 - 20, -30]);
+            await press(page, country.x - 20, country.y - 30);
+            assert.equal(await focused(), 'நாடு');
+            assert.deepEqual(await page.evaluate(() => [window.mouseX, window.mouseY]), [country.x, country.y]);
+        } finally {
+            await scrollPage(0, 0);
+        }
         const {x: left, y: top} = await elementOf('ஊர்பெயர்');
         assert.deepEqual([left, top], [15, 0]);
     });
