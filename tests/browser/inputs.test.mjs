@@ -5,6 +5,7 @@ import {after, before, describe, test} from 'node:test';
 import {launch, openPage, photograph, pixel, press, until} from './support/browser.mjs';
 import {inputs} from './support/inputs.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
+import {nextFrames, noteTexts, texts} from './support/widget_screen.mjs';
 
 const source = `வலைதளம் படிவம்(
     தலைமை(
@@ -82,7 +83,8 @@ const source = `வலைதளம் படிவம்(
 const noted = `
 EM_ASM({ window.values = ({}); window.faults = ({}); });
 for (const auto& each : g_inputValues) {
-    EM_ASM({ window.values[UTF8ToString($0).replace(/[0-9]+$/, '#')] = UTF8ToString($1); }, each.first.c_str(), each.second.c_str());
+    EM_ASM({ window.values[UTF8ToString($0).replace(/[0-9]+$/, '#')] = UTF8ToString($1); },
+           each.first.c_str(), each.second.c_str());
 }
 for (const auto& each : g_inputErrors) {
     EM_ASM({ window.faults[UTF8ToString($0)] = UTF8ToString($1); }, each.first.c_str(), each.second.c_str());
@@ -96,10 +98,10 @@ const telephone = {
 };
 
 // The column begins at the page's corner; each place is inside its widget.
-const town = {x: 100, y: 25}, edge = {x: 100, y: 49}, country = {x: 100, y: 85}, story = {x: 100, y: 140}, search = {x: 100, y: 205};
-const cross = {x: 325, y: 205}, word = {x: 100, y: 260};
-const check = {x: 50, y: 310}, hide = {x: 150, y: 310}, next = {x: 250, y: 310}, show = {x: 350, y: 310}, back = {x: 50, y: 20};
-const toList = {x: 150, y: 20}, backFromList = {x: 200, y: 20};
+const town = {x: 100, y: 25}, edge = {x: 100, y: 49}, country = {x: 100, y: 85}, story = {x: 100, y: 140};
+const search = {x: 100, y: 205}, cross = {x: 325, y: 205}, word = {x: 100, y: 260};
+const check = {x: 50, y: 310}, hide = {x: 150, y: 310}, next = {x: 250, y: 310}, show = {x: 350, y: 310};
+const back = {x: 50, y: 20}, toList = {x: 150, y: 20}, backFromList = {x: 200, y: 20};
 const white = [255, 255, 255], warning = [244, 67, 54], grey = [150, 150, 150], plate = [240, 244, 250];
 
 let workplace, compiler, browser, page;
@@ -116,41 +118,25 @@ before(async () => {
 
 after(() => tidyUp(browser, compiler, workplace));
 
-/** Runs in the page: keeps the texts of the last frame, and what was pasted. */
-function noteTexts() {
-    let texts = [];
-    window.frames = 0;
+/** Runs in the page: keeps what was pasted. */
+function notePastes() {
     window.pasted = [];
     window.addEventListener('paste', event => window.pasted.push(event.clipboardData.getData('text')), true);
-    const {fillText} = CanvasRenderingContext2D.prototype;
-    CanvasRenderingContext2D.prototype.fillText = function(text) {
-        texts.push(text);
-        return fillText.apply(this, arguments);
-    };
-    const request = window.requestAnimationFrame;
-    window.requestAnimationFrame = callback => request.call(window, time => {
-        texts = [];
-        callback(time);
-        window.texts = texts;
-        window.frames++;
-    });
 }
 
 async function open(options) {
     await page?.context().close();
-    page = await openPage(browser, options, page => page.addInitScript(noteTexts));
+    page = await openPage(browser, options, async page => {
+        for (const script of [noteTexts, notePastes]) await page.addInitScript(script);
+    });
     page.keys = await page.context().newCDPSession(page);
     await page.goto(address);
     await until(() => page.evaluate(() => window.frames > 1), 'the first frames');
 }
 
-async function nextFrames() {
-    const seen = await page.evaluate(() => window.frames);
-    await page.waitForFunction(frames => window.frames > frames + 1, seen, {timeout: 60000});
-}
-
 const seen = key => page.evaluate(key => window[key], key);
-const draws = text => until(async () => (await seen('texts')).includes(text), `the text '${text}'`);
+const isDrawn = async text => (await texts(page)).some(drawn => drawn.text === text);
+const draws = text => until(() => isDrawn(text), `the text '${text}'`);
 const shows = ({x, y}, colour) => until(async () =>
     (await pixel(page, x, y)).join() === colour.join(), `${colour} at ${x}, ${y}`);
 
@@ -189,7 +175,7 @@ async function scrollPage(x, y) {
         document.body.style.width = document.body.style.height = x + y > 0 ? '1000px' : '';
         window.scrollTo(x, y);
     }, [x, y]);
-    await nextFrames();
+    await nextFrames(page);
 }
 
 const focused = () => page.evaluate(() => document.activeElement.id.replace(/\d+$/, '#'));
@@ -210,7 +196,7 @@ describe('at a desk', () => {
         await press(page, town.x, town.y);
         assert.equal(await focused(), 'ஊர்பெயர்');
         await typeKeys('ம');
-        await until(async () => !(await seen('texts')).includes('ஊர் தேவை'), 'the error to leave');
+        await until(async () => !await isDrawn('ஊர் தேவை'), 'the error to leave');
         assert.equal((await seen('faults'))['ஊர்பெயர்'], '');
         await shows(edge, calm);
     });
@@ -274,7 +260,7 @@ describe('at a desk', () => {
             await press(page, place.x, place.y);
             for (const key of ['Control+a', 'Control+c', 'End', 'Control+v']) await page.keyboard.press(key);
             await until(async () => (await seen('pasted')).at(-1) === value, 'the paste');
-            await nextFrames();
+            await nextFrames(page);
             await holds(id, value);
         }
     });
@@ -344,7 +330,7 @@ describe('at a desk', () => {
         await until(async () => (await look()).opacity === '1', 'it to come back');
         assert.deepEqual(await look(), {opacity: '1', events: 'auto'});
         await page.setViewportSize(small.viewport);
-        await nextFrames();
+        await nextFrames(page);
     });
 
     test('another page hides its inputs and keeps their texts; one of both pages moves', async () => {
@@ -369,7 +355,7 @@ describe('at a desk', () => {
         assert.equal(await focused(), 'canvas');
         await typeKeys('அ');
         await page.keyboard.press('Tab');
-        await nextFrames();
+        await nextFrames(page);
         await holds('நாடு', 'ஈழம்');
         assert.notEqual(await focused(), 'நாடு');
         assert.deepEqual(await page.evaluate(() => [window.mouseX, window.mouseY]), [100, 245]);
@@ -402,7 +388,8 @@ describe('at a desk', () => {
         await press(page, toList.x, toList.y);
         await until(() => elementOf('கீழே'), 'the list');
         const {x, y} = await elementOf('கீழே');
-        const opacity = () => page.evaluate(() => Array.from(document.querySelectorAll('[id^=input_]')).at(-1).style.opacity);
+        const opacity = () => page.evaluate(() =>
+            Array.from(document.querySelectorAll('[id^=input_]')).at(-1).style.opacity);
         assert.equal(await opacity(), '1');
         await page.mouse.wheel(0, 50);
         await until(async () => (await elementOf('கீழே')).y === y - 50, 'the box above');
@@ -446,7 +433,7 @@ describe('on a telephone', () => {
         await tap(town);
         await until(async () => await focused() === 'ஊர்பெயர்', 'the focus');
         await compose(['க', 'கோ'], 'கோவை', text => holds('ஊர்பெயர்', text));
-        assert.ok(!(await seen('texts')).includes('ஊர் தேவை'));
+        assert.ok(!await isDrawn('ஊர் தேவை'));
         await draws('கோவை');
         const {x, y, width} = await elementOf('ஊர்பெயர்');
         assert.deepEqual([x, y, width], [15, 0, 390 - 40 - 30]);
