@@ -2,10 +2,10 @@
 // very scripts that pages load. What the program does is pressed on its page, what it reads it prints.
 import assert from 'node:assert/strict';
 import {after, before, test} from 'node:test';
-import {launch, openPage, press, until} from './support/browser.mjs';
+import {launch, openPage, until} from './support/browser.mjs';
 import {databasePeer, serveDatabaseScripts} from './support/database_peer.mjs';
 import {copyFonts} from './support/fonts.mjs';
-import {nextFrames, noteTexts} from './support/widget_screen.mjs';
+import {nextFrames, noteTexts, pressText} from './support/widget_screen.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 // What each button does.
@@ -123,16 +123,11 @@ async function open(net = {}) {
 /** The lines of one kind that haven't to do with addresses out of reach. */
 const lines = (page, kind) => page[kind].filter(line => !/ERR_FAILED|WebSocket connection/.test(line));
 
-async function doDeed(page, name) {
-    const {left, width, y, size} = await page.evaluate(name => window.texts.find(({text}) => text === name), name);
-    await press(page, left + width / 2, y + size / 2);
-}
-
 /** Does the deed and answers what comes of it: as many lines of that kind, and none of the other. */
 async function outcome(page, name, kind, count = 1) {
     page.printed = [];
     page.problems = [];
-    await doDeed(page, name);
+    await pressText(page, name);
     await until(() => lines(page, kind).length >= count, `what '${name}' says; ${page.printed}; ${page.problems}`);
     assert.deepEqual(lines(page, kind === 'printed' ? 'problems' : 'printed'), []);
     return lines(page, kind);
@@ -254,8 +249,8 @@ test('what is asked while the database is gone is done when it is back', async (
     peer.put('வகைகள்', {எ: 4});
     peer.goAway();
     page.printed = [];
-    await doDeed(page, 'சேர்');
-    await doDeed(page, 'இரண்டு');
+    await pressText(page, 'சேர்');
+    await pressText(page, 'இரண்டு');
     await nextFrames(page);
     peer.comeBack();
     await until(() => page.printed.includes(inserted), 'the insert');
@@ -277,7 +272,7 @@ test('one page reads what another has stored', async () => {
 
 test('a failure in what a read does shows its report', async () => {
     peer.put('சுட்டி', null);
-    await doDeed(page, 'தொடர்');
+    await pressText(page, 'தொடர்');
     const report = await page.waitForSelector('#notice.failed #report');
     assert.match(await report.textContent(), /பொழில்-312/);
     await page.context().close();

@@ -7,7 +7,7 @@ import {readFileSync} from 'node:fs';
 import {dirname, join} from 'node:path';
 import {after, before, test} from 'node:test';
 import {fileURLToPath} from 'node:url';
-import {launch, openPage, photograph, until} from './browser.mjs';
+import {launch, openPage, photograph, press, until} from './browser.mjs';
 import {copyFonts} from './fonts.mjs';
 import {holdPicture, readPicture, shapes} from './golden.mjs';
 import {inputs} from './inputs.mjs';
@@ -97,6 +97,12 @@ export async function resize(page, size) {
 
 /** The texts of the last frame. */
 export const texts = page => page.evaluate(() => window.texts);
+
+/** Clicks in the middle of a text, once it is drawn. */
+export async function pressText(page, wanted) {
+    const drawn = await until(async () => (await texts(page)).find(({text}) => text === wanted), `'${wanted}'`);
+    await press(page, drawn.left + drawn.width / 2, drawn.y + drawn.size / 2);
+}
 
 /**
  * What the text layer has inside a rectangle of the page: how many of the screen's pixels have ink, and
