@@ -23,13 +23,12 @@ export const gallerySource = readFileSync(join(examples, 'காட்சிய�
 /** The words of the bar that leads from page to page, in its order; they name the pages, too. */
 export const pages = ['எழுத்து', 'கலன்', 'இடம்', 'படிவம்', 'தேர்வு', 'பட்டை'];
 
-const pause = 250;        // between frames: so many pixels take long, and nothing moves
-const ratio = 2;          // of a picture's pixels to the page's
+export const ratio = 2;   // of a picture's pixels to the page's
 const margin = 8;         // around what a picture shows, as all below in the page's pixels
 const desk = {width: 1280, height: 720};
 const nameSize = 14;      // of the names above the widgets, and
 const nameColour = '#8a7463';
-const nameHeight = 17;
+const nameHeight = 19;
 
 const corner = 16;        // at a plate's ends, where it is round
 
@@ -37,6 +36,24 @@ const aside = [2, desk.height - 100];  // where the pointer is over no widget
 
 /** Pages draw by the time, and a picture wants one moment. */
 function holdTime() { performance.now = () => 400; }
+
+/** `window.hold()` lets no further frame begin, for frames keep a photograph waiting; `window.goOn()` does. */
+function holdFrames() {
+    const request = window.requestAnimationFrame;
+    let held = null;
+    let isHeld = false;
+    window.requestAnimationFrame = callback => {
+        if (!isHeld) return request.call(window, callback);
+        held = callback;
+        return 0;
+    };
+    window.hold = () => { isHeld = true; };
+    window.goOn = () => {
+        isHeld = false;
+        if (held) request.call(window, held);
+        held = null;
+    };
+}
 
 const inputWith = (page, hint) => page.locator(`input[placeholder="${hint}"]`);
 
@@ -73,7 +90,9 @@ const unplated = [
         kind: 'அறிவிப்பு_பட்டை', page: 'பட்டை', place: {left: 468, top: 16, width: 344, height: 110}, holds: ['கடிதம் அனுப்பப்பட்டது'],
         async prepare(page) {
             await pressText(page, 'அறிவிப்பைக் காட்டு');
+            await page.setViewportSize({width: 320, height: 160});  // it comes down by frames, and small ones are quick
             await until(async () => textOf(await texts(page), 'கடிதம் அனுப்பப்பட்டது').y > 57.99, 'the message to come down');
+            await page.setViewportSize(desk);
         },
     },
     {
@@ -114,13 +133,14 @@ export async function buildGallery() {
     return {workplace, compiler};
 }
 
-/** Its first page, with four pixels for each of the page. */
-export async function openGallery(browser) {
-    const options = {viewport: desk, screen: {width: 1920, height: 1080}, deviceScaleFactor: ratio};
+/** Its first page. */
+export async function openGallery(browser, deviceScaleFactor) {
+    const options = {viewport: desk, screen: {width: 1920, height: 1080}, deviceScaleFactor};
     const page = await openPage(browser, options, async page => {
         await page.addInitScript(noteTexts);
         await page.addInitScript(holdTime);
-    }, pause);
+        await page.addInitScript(holdFrames);
+    });
     await page.goto(address);
     await until(() => page.evaluate(() => window.frames > 1), 'the first frames');
     return page;
@@ -132,9 +152,7 @@ export async function goTo(page, name) {
     assert.ok(word, `'${name}' stands in the bar`);
     const title = titleOf(name);
     await press(page, word.left + word.width / 2, word.y + 5);
-    await page.mouse.move(...aside);
     await until(async () => await page.title() === title, `the page '${title}'`);
-    await nextFrames(page);
 }
 
 function titleOf(name) {
@@ -169,16 +187,12 @@ async function look(page) {
     await page.evaluate(() => document.activeElement.blur());
     await page.mouse.move(...aside);
     await nextFrames(page);
+    await page.evaluate(() => window.hold());
     const shot = readPicture(await page.screenshot({animations: 'disabled'}));
-    return {shot, drawn: await texts(page), written: await writing(page)};
+    const seen = {shot, drawn: await texts(page), written: await writing(page)};
+    await page.evaluate(() => window.goOn());
+    return seen;
 }
-
-const withoutWriting = '#textCanvas { visibility: hidden !important; } .pozhil-input { color: transparent !important; } ' +
-    '.pozhil-input::placeholder { color: transparent !important; }';
-
-/** The page without anything written, by which the plates and what they hold are found. */
-const bareOf = async page =>
-    readPicture(await page.screenshot({animations: 'disabled', style: withoutWriting}));
 
 // ---- Places ----
 
@@ -200,15 +214,15 @@ function whiteUntil(picture, x, y, dx, dy) {
 const namesOf = drawn => drawn.filter(({size, colour}) => size === nameSize && colour === nameColour);
 
 /** The plates by their names: of each the part below the name. */
-function plates(bare, drawn) {
+function plates(shot, drawn) {
     return new Map(namesOf(drawn).map(({text, left, width, y}) => {
         const x = Math.round(left + width / 2);
         const from = Math.round(y);
-        const plateLeft = whiteUntil(bare, x, from, -1, 0);
-        const plateRight = whiteUntil(bare, x, from, 1, 0);
+        const plateLeft = whiteUntil(shot, Math.floor(left) - 6, from, -1, 0);
+        const plateRight = whiteUntil(shot, Math.ceil(left + width) + 6, from, 1, 0);
         assert.ok(Math.abs(plateLeft + plateRight - 2 * x) < 6, `'${text}' stands in the middle of a plate`);
         const top = from + nameHeight;
-        const bottom = whiteUntil(bare, plateLeft + 6, from, 0, 1);
+        const bottom = whiteUntil(shot, plateLeft + 6, from, 0, 1);
         assert.ok(bottom - top > 40, `'${text}' has a plate below it`);
         return [text, {left: plateLeft, top, width: plateRight - plateLeft, height: bottom - top}];
     }));
@@ -218,7 +232,7 @@ const meets = (a, b) => a.left < b.left + b.width && b.left < a.left + a.width &
     a.top < b.top + b.height && b.top < a.top + a.height;
 
 /** The smallest place in a plate that holds all that is no plate, with a margin. */
-function tightIn(plate, bare, written, kind) {
+function tightIn(plate, shot, written, kind) {
     let left = Infinity, top = Infinity, right = -1, bottom = -1;
     const take = (x, y, width = 1, height = 1) => {
         left = Math.min(left, x);
@@ -228,7 +242,7 @@ function tightIn(plate, bare, written, kind) {
     };
     for (let y = plate.top; y < plate.top + plate.height; y++) {
         for (let x = plate.left + corner; x < plate.left + plate.width - corner; x++) {
-            if (!isWhite(bare, x, y)) take(x, y);
+            if (!isWhite(shot, x, y)) take(x, y);
         }
     }
     const ink = {...plate, top: plate.top + 4};  // the name's own place reaches a little below it
@@ -255,22 +269,36 @@ function assertHolds(place, holds, drawn, kind) {
 
 // ---- Pictures ----
 
-/** That part of a photograph. */
-export function cut(shot, {left, top, width, height}) {
-    const picture = new PNG({width: width * ratio, height: height * ratio});
-    PNG.bitblt(shot, picture, left * ratio, top * ratio, width * ratio, height * ratio, 0, 0);
+/** That part of a photograph, which has `scale` pixels to the page's. */
+export function cut(shot, {left, top, width, height}, scale = ratio) {
+    const picture = new PNG({width: width * scale, height: height * scale});
+    PNG.bitblt(shot, picture, left * scale, top * scale, width * scale, height * scale, 0, 0);
     return picture;
 }
 
-/** Paints grey over the places, which are those of the window, in a picture of `place`. */
-export function cover({data, width, height}, place, places) {
-    for (const {left, top, width: w, height: h} of places) {
-        const from = (at, start) => Math.max(0, Math.floor((at - start) * ratio));
-        const to = (at, start, end) => Math.min(end, Math.ceil((at - start) * ratio));
-        for (let y = from(top, place.top); y < to(top + h, place.top, height); y++) {
-            for (let x = from(left, place.left); x < to(left + w, place.left, width); x++) {
-                data.fill(128, 4 * (y * width + x), 4 * (y * width + x) + 3);
+/** Half as wide and high: of four pixels the middle colour. */
+export function halved({data, width, height}) {
+    const half = new PNG({width: width / 2, height: height / 2});
+    for (let y = 0; y < half.height; y++) {
+        for (let x = 0; x < half.width; x++) {
+            for (let channel = 0; channel < 4; channel++) {
+                const at = (row, column) => data[4 * ((2 * y + row) * width + 2 * x + column) + channel];
+                half.data[4 * (y * half.width + x) + channel] = (at(0, 0) + at(0, 1) + at(1, 0) + at(1, 1)) / 4;
             }
+        }
+    }
+    return half;
+}
+
+/** Paints grey over places of the window, in a picture of `place` as large as on the page. */
+export function cover({data, width, height}, place, places) {
+    for (const text of places) {
+        const top = Math.max(0, Math.floor(text.top - place.top));
+        const bottom = Math.min(height, Math.ceil(text.top + text.height - place.top));
+        const left = Math.max(0, Math.floor(text.left - place.left));
+        const right = Math.min(width, Math.ceil(text.left + text.width - place.left));
+        for (let y = top; y < bottom; y++) {
+            if (right > left) data.fill(128, 4 * (y * width + left), 4 * (y * width + right));
         }
     }
 }
@@ -290,11 +318,10 @@ function assertNamed(kind, {left, top, width}, drawn) {
     assert.ok(isAbove, `'${kind}' stands above its place`);
 }
 
-/** Where the kinds in plates stand, from the page as it is shown. */
-async function findPlaces(page, {drawn, written}) {
-    const bare = await bareOf(page);
-    const found = plates(bare, drawn);
-    return Object.fromEntries([...found].map(([kind, plate]) => [kind, tightIn(plate, bare, written, kind)]));
+/** Where the kinds in plates stand, on the page as it is shown. */
+function findPlaces({shot, drawn, written}) {
+    const found = plates(shot, drawn);
+    return Object.fromEntries([...found].map(([kind, plate]) => [kind, tightIn(plate, shot, written, kind)]));
 }
 
 /**
@@ -304,7 +331,7 @@ async function findPlaces(page, {drawn, written}) {
 export async function picturesOf(page, name, places) {
     const calm = await look(page);
     const rows = unplated.filter(row => row.page === name);
-    const found = places ?? await findPlaces(page, calm);
+    const found = places ?? findPlaces(calm);
     const taken = [];
     for (const {text: kind} of namesOf(calm.drawn)) {
         if (rows.some(row => row.kind === kind)) continue;

@@ -4,7 +4,7 @@ import {mkdirSync, readdirSync, rmSync, writeFileSync} from 'node:fs';
 import {join} from 'node:path';
 import {PNG} from 'pngjs';
 import {launch} from './browser.mjs';
-import {buildGallery, cut, goTo, openGallery, pages, pictures, picturesOf} from './gallery.mjs';
+import {buildGallery, cut, goTo, openGallery, pages, pictures, picturesOf, ratio} from './gallery.mjs';
 import {tidyUp} from './tool.mjs';
 
 async function photographAll(page) {
@@ -12,6 +12,7 @@ async function photographAll(page) {
     for (const name of pages) {
         await goTo(page, name);
         taken.push(...await picturesOf(page, name));
+        console.log(`📷 ${name}`);
     }
     return taken;
 }
@@ -36,7 +37,7 @@ let built, browser;
 try {
     built = await buildGallery();
     browser = await launch();
-    const taken = await photographAll(await openGallery(browser));
+    const taken = await photographAll(await openGallery(browser, ratio));
     keep(taken);
     console.log(`🖼️  ${taken.length} படங்கள்: ${pictures}`);
 } finally {
