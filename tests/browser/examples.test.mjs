@@ -82,19 +82,19 @@ async function changesTexts(page, what, act) {
     await still(page);
     const before = await drawn(page);
     await act();
-    await until(async () => await drawn(page) !== before, what, 20);
+    await until(async () => await drawn(page) !== before, what);
 }
 
 const clickChangesTexts = (page, x, y) =>
     changesTexts(page, `a change by a click at ${x}, ${y}`, () => press(page, x, y));
 
 const shows = async (page, wanted) => (await texts(page)).some(({text}) => text === wanted);
-const sees = (page, wanted) => until(() => shows(page, wanted), `to see '${wanted}'`, 20);
-const seesNoLonger = (page, gone) => until(async () => !await shows(page, gone), `'${gone}' to go`, 20);
+const sees = (page, wanted) => until(() => shows(page, wanted), `to see '${wanted}'`);
+const seesNoLonger = (page, gone) => until(async () => !await shows(page, gone), `'${gone}' to go`);
 
 /** Shown for a moment at least, since the page was opened. */
 const saw = (page, wanted) =>
-    until(() => page.evaluate(text => window.everDrawn.has(text), wanted), `'${wanted}' to be shown`, 20);
+    until(() => page.evaluate(text => window.everDrawn.has(text), wanted), `'${wanted}' to be shown`);
 
 /** Where the text stands that is drawn as the one behind `skipped` others like it. */
 async function placeOf(page, wanted, skipped = 0) {
@@ -137,7 +137,7 @@ const deeds = {
     },
     async 'முகப்பு'(page) {
         await pressText(page, 'பட்டியலைப் பார்');
-        await until(async () => await page.title() === 'இனிப்புகள்', 'the other page', 20);
+        await until(async () => await page.title() === 'இனிப்புகள்', 'the other page');
     },
     async 'பதிவு'(page) {
         const complaints = ['பெயரை எழுதுங்கள்', 'முகவரியில் @ இல்லை', 'எட்டு எழுத்தாவது வேண்டும்',
@@ -156,7 +156,7 @@ const deeds = {
         const dots = () => look(page, [33, 150, 243]);
         const left = await dots();
         await press(page, ...(([x, y]) => [x - 50, y - 12])(await placeOf(page, 'வீட்டில்')));
-        await until(async () => (await dots()).x > left.x + 100, 'the other radio to be chosen', 20);
+        await until(async () => (await dots()).x > left.x + 100, 'the other radio to be chosen');
         await pressText(page, 'பதிவு செய்');
         await saw(page, 'கமலா, உங்கள் பதிவு முடிந்தது!');
     },
@@ -177,7 +177,7 @@ const deeds = {
         await sees(page, 'கூடை காலி');
         await saw(page, 'நன்றி! மாலைக்குள் வந்துசேரும்.');
         await pressText(page, 'கடை');
-        await until(async () => await page.title() === 'மூலைக்கடை', 'the shop again', 20);
+        await until(async () => await page.title() === 'மூலைக்கடை', 'the shop again');
     },
     async 'வினாடிவினா'(page) {
         for (const answer of ['12', '133', 'ஆல்', 'கண்ணகி']) await pressText(page, answer);
@@ -195,7 +195,7 @@ const deeds = {
         await press(page, wings.x, wings.y);
         await sees(page, 'பிடித்தவை 1');
         const left = async () => Number(/மீதி (\d+)/.exec(await drawn(page))?.[1] ?? 0);
-        await until(async () => await left() < 29, 'time to pass', 20);
+        await until(async () => await left() < 29, 'time to pass');
     },
     async 'அளவை'(page) {
         await sees(page, 'முழு எண் ஒன்றை எழுதுங்கள்');
@@ -216,7 +216,12 @@ const deeds = {
         await sees(page, 'எல்லாம் சேமித்தாயிற்று');
         await saw(page, 'அமைப்புகள் சேமிக்கப்பட்டன');
         const [x, y] = await placeOf(page, 'ஒலியளவு');
-        await press(page, x, y + 32);
+        await page.mouse.move(x, y + 32);
+        await page.mouse.down();
+        await sees(page, 'மாற்றங்களைச் சேமியுங்கள்');
+        await page.mouse.up();
+        await pressText(page, 'சேமி');
+        await sees(page, 'எல்லாம் சேமித்தாயிற்று');
         await pressText(page, 'தேர்ந்தெடு...');
         await pressText(page, 'தெலுங்கு');
         await seesNoLonger(page, 'தேர்ந்தெடு...');
