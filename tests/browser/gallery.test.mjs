@@ -21,7 +21,7 @@ const rows = JSON.parse(readFileSync(join(pictures, 'இடங்கள்.json'
 const places = Object.fromEntries(Object.entries(rows).map(([kind, {place}]) => [kind, place]));
 
 const tolerance = 0.1;   // of the distance from black to white, for a pixel
-const share = 1 / 400;   // of a picture, that may differ by more: edges are sharper in a halved one
+const share = 1 / 150;   // of a picture, that may differ by more: edges are sharper in a halved one
 
 /** The names of the table by which the compiler finds what draws a widget. */
 const kinds = [...readFileSync(join(root, 'src', 'ui', 'widget_frame.cpp'), 'utf8')

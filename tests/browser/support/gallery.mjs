@@ -90,8 +90,10 @@ const unplated = [
         kind: 'அறிவிப்பு_பட்டை', page: 'பட்டை', place: {left: 468, top: 16, width: 344, height: 110}, holds: ['கடிதம் அனுப்பப்பட்டது'],
         async prepare(page) {
             await pressText(page, 'அறிவிப்பைக் காட்டு');
-            await page.setViewportSize({width: 320, height: 160});  // it comes down by frames, and small ones are quick
-            await until(async () => textOf(await texts(page), 'கடிதம் அனுப்பப்பட்டது').y > 57.99, 'the message to come down');
+            // It comes down by frames, and those of a small window are quick.
+            await page.setViewportSize({width: 320, height: 160});
+            await until(async () => (await texts(page)).some(({text, y}) => text === 'கடிதம் அனுப்பப்பட்டது' && y > 57.99),
+                'the message to come down');
             await page.setViewportSize(desk);
         },
     },
@@ -104,7 +106,7 @@ const unplated = [
         kind: 'கீழ்வரி', page: 'தேர்வு', holds: ['காவிரி', 'வைகை', 'பொருநை'],
         place(drawn) {
             const {left, top} = dropdown(drawn, 'வைகை');
-            return {left: left - 10, top: top - 10, width: 180, height: 184};
+            return {left: left - 10, top: top - 2, width: 180, height: 176};  // below the name
         },
         async prepare(page) {
             const {left, top} = dropdown(await texts(page), 'தேர்ந்தெடு...');
