@@ -5,6 +5,12 @@ namespace {
 
 class OverlaysTest : public FormTest {
 protected:
+    /// Draws the block of that name with the pointer there and no click.
+    static Calls hoverAt(double x, double y, const std::string& block) {
+        pointAt(x, y);
+        return drawnBlock(block);
+    }
+
     /// Which of the program's functions `clicks` calls, in their order.
     static std::vector<std::string> toldBy(const std::vector<std::string>& functions,
                                            const std::function<void()>& clicks) {
@@ -142,6 +148,46 @@ TEST_F(OverlaysTest, TabIsToldOfItsOwnClick) {
         clickAt(500, 10, "tab_bar_items_with_handlers");
     });
     EXPECT_EQ(told, (std::vector<std::string>{"மாற்று", "மாற்று", "இரண்டு"}));
+}
+
+// ---- What the pointer finds ----
+
+TEST_F(OverlaysTest, BottomBarShowsAHandWithinTheWindow) {
+    EXPECT_TRUE(holds(hoverAt(100, 560, "bottom_bar_of_two"), kHand));
+    EXPECT_FALSE(holds(hoverAt(100, 601, "bottom_bar_of_two"), kHand));
+    EXPECT_FALSE(holds(hoverAt(100, 560, "bottom_bar_of_two"), "nvgCircle(100, 560, 20)"));
+}
+
+TEST_F(OverlaysTest, BottomBarTakesClicksFromItsEdgeOnAndBesideNone) {
+    int& calls = countCallsOf("மாற்று");
+    clickAt(-500, 560, "bottom_bar_of_two");
+    clickAt(900, 560, "bottom_bar_of_two");
+    EXPECT_EQ(calls, 0);
+    clickAt(100, 536, "bottom_bar_of_two");
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(OverlaysTest, TabBarFeelsThePointerWithinItselfAlone) {
+    EXPECT_TRUE(holds(hoverAt(10, 10, "tab_bar_of_two"), kHand));
+    EXPECT_FALSE(holds(hoverAt(10, 10, "tab_bar_of_two"), "nvgCircle(10, 10, 20)"));
+    const double places[][2] = {{-5, 10}, {805, 10}, {10, -5}, {10, 55}};
+    for (const auto& place : places) {
+        EXPECT_FALSE(holds(hoverAt(place[0], place[1], "tab_bar_of_two"), kHand));
+    }
+    EXPECT_TRUE(holds(clickAt(260, 10, "tab_bar_of_two"), "nvgRect(0, 47, 266.667, 3)"));
+}
+
+TEST_F(OverlaysTest, TabBarCastsAShadowBelowItself) {
+    const Calls calls = drawnBlock("tab_bar_of_two");
+    EXPECT_TRUE(holds(calls, "nvgRect(0, 50, 800, 6)"));
+    EXPECT_TRUE(
+        holds(calls, "nvgFillPaint(linear(0, 50, 0, 56, rgba(0, 0, 0, 40), rgba(0, 0, 0, 0)))"));
+}
+
+TEST_F(OverlaysTest, AlertLeavesTheClipAsItWas) {
+    const Calls calls = frame(blockNamed("alert_defaults").draw);
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "nvgRestore()"), 2) << "its own, the frame's";
+    EXPECT_EQ(g_currentClipX, -1);
 }
 
 }  // namespace
