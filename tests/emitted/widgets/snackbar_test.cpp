@@ -133,6 +133,23 @@ TEST_F(SnackbarTest, IsNotThereWithoutBeingAskedFor) {
     EXPECT_EQ(bar(), Calls{});
 }
 
+TEST_F(SnackbarTest, NeedsNothingButItsFlag) {
+    global_vars.erase("sb_y_pos");
+    global_vars.erase("sb_msg");
+    EXPECT_EQ(bar().at(2), "measureSnackbar(\"\")");
+    EXPECT_FLOAT_EQ(place(), -65.0F);
+    global_vars.erase("sb_y_pos");
+    global_vars.erase("sb_start_time");
+    frame();
+    EXPECT_FALSE(isShown()) << "asked for before the clock began";
+}
+
+TEST_F(SnackbarTest, IsNotOverBeforeItsTimeHoweverHighItStands) {
+    global_vars["sb_y_pos"] = -400.0F;
+    frame();
+    EXPECT_TRUE(isShown());
+}
+
 TEST_F(SnackbarTest, StandsAboveOverlays) {
     const Calls calls = frame([] { g_overlays.push_back([] { nvgCircle(vg, 1, 2, 3); }); });
     ASSERT_GT(calls.size(), 19U);
