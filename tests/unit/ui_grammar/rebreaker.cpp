@@ -108,6 +108,7 @@ Rebreaker::Bracket Rebreaker::bracketAt(std::size_t word) const {
         default: break;
     }
     if (levels.empty()) return Bracket::Items;  // the application's own
+    if (token(word).text == "மடிப்பு") return groupAt(word + 1);
     if (isWidgetToken(token(word))) return Bracket::Items;
     const bool isChild = levels.back().bracket == Bracket::Children;
     return isChild ? Bracket::Items : Bracket::Expression;
