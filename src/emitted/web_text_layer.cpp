@@ -206,6 +206,7 @@ void copyToClipboard(const char* text) {
     }, text);
 }
 
+// A paste goes to an input that the canvas draws, and is lost to the page's own. Meant.
 void setupClipboardListener() {
     EM_ASM({
         document.addEventListener('paste', function(e) {

@@ -1,5 +1,5 @@
 // The bar at the foot of the window, wherever it stands in the source. The program owns which item
-// is chosen: a click only tells it. Meant.
+// is chosen: a click only tells it, by the bar's handler and the item's. Meant.
 
 void bottom_bar() {
     float winW = (float)EM_ASM_DOUBLE({ return window.innerWidth; });
