@@ -173,5 +173,7 @@ test('shares move the children of a column and don\'t stretch them', async () =>
             [third + 55]: white, [height - 65]: white, [height - 55]: blue, [height - 5]: blue});
         await photograph(page, `column_shares_at_${height}`);
     }
-    assert.deepEqual(page.problems.filter(line => !line.includes('ERR_FAILED')), []);
+    // A page that comes again while the next build runs misses a file of it, and waits for it.
+    const expected = /ERR_FAILED|404.*\/index\.(js|wasm|data)/;
+    assert.deepEqual(page.problems.filter(line => !expected.test(line)), []);
 });

@@ -40,7 +40,8 @@ export async function openPage(browser, options = desk, prepare = async () => {}
     page.problems = [];
     page.printed = [];
     page.on('console', message => {
-        if (message.type() === 'error') page.problems.push(message.text());
+        const missing = message.text().startsWith('Failed to load') ? ` ${message.location().url}` : '';
+        if (message.type() === 'error') page.problems.push(message.text() + missing);
         if (message.type() === 'log') page.printed.push(message.text());
     });
     page.on('pageerror', error => page.problems.push(String(error)));
