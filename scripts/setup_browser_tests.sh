@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# setup_browser_tests.sh: installs what the tests in the browser need: Chromium, Tamil fonts, Node,
-# the driver package, and a database with the scripts that pages speak to it by. With nothing to do
-# it takes a fraction of a second.
+# setup_browser_tests.sh: installs what the tests in the browser need: Chromium with Mesa to draw, Tamil
+# fonts, Node, the driver package, and a database with the scripts that pages speak to it by. With
+# nothing to do it takes a fraction of a second.
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # shellcheck source=scripts/messages.sh
 . "$root/scripts/messages.sh"
 
-packages=(fonts-noto-core)
+packages=(fonts-noto-core libegl1 libgl1-mesa-dri)
 command -v chromium >/dev/null || packages+=(chromium)
 command -v node >/dev/null || packages+=(nodejs)
 command -v npm >/dev/null || packages+=(npm)

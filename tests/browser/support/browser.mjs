@@ -9,6 +9,8 @@ const flags = [
     '--no-sandbox', '--disable-quic', '--no-first-run', '--disable-background-networking',
     '--disable-component-update', '--disable-sync',
 ];
+// Mesa draws a frame in half the time that the browser's own drawing without a GPU takes.
+const mesa = ['--use-gl=angle', '--use-angle=gl-egl', '--ignore-gpu-blocklist'];
 
 /** A screen larger than the viewport, as on a desk. */
 export const desk = {viewport: {width: 1280, height: 720}, screen: {width: 1920, height: 1080}};
@@ -16,7 +18,7 @@ export const desk = {viewport: {width: 1280, height: 720}, screen: {width: 1920,
 export function launch(extraFlags = []) {
     return chromium.launch({
         executablePath: process.env.POZHIL_CHROMIUM ?? '/usr/bin/chromium',
-        args: [...flags, ...extraFlags],
+        args: [...flags, ...mesa, ...extraFlags],
     });
 }
 

@@ -41,7 +41,9 @@ TEST_F(ColumnTest, MeasuresATextAtTheSizeItIsDrawnWith) {
     EXPECT_EQ(measured("measureText(\"அ\", 16)"), 1);
     EXPECT_EQ(measured("measureText(\"மதிப்பு\", 30)"), 1);
     EXPECT_EQ(measured("measureText(\"\", 16)"), 1);
-    const auto isMeasured = [](const std::string& call) { return call.rfind("measureText", 0) == 0; };
+    const auto isMeasured = [](const std::string& call) {
+        return call.rfind("measureText", 0) == 0;
+    };
     EXPECT_EQ(std::count_if(calls.begin(), calls.end(), isMeasured), 3) << "no other text and size";
 }
 
