@@ -198,7 +198,7 @@ const deeds = {
         await until(async () => await left() < 29, 'time to pass');
     },
     async 'அளவை'(page) {
-        await sees(page, 'முழு எண் ஒன்றை எழுதுங்கள்');
+        await sees(page, 'முழு எண் ஒன்று தருக');
         await type(page, 'எழுதிய_எண்', '25');
         await sees(page, '25 °C = 77.0 °F');
         await sees(page, '25 °F = −3.9 °C');
@@ -207,7 +207,7 @@ const deeds = {
         await pressText(page, 'எடை');
         await sees(page, '25 பவுண்டு = 11.3 கிலோ');
         await type(page, 'எழுதிய_எண்', '2அ');
-        await sees(page, 'முழு எண் ஒன்றை எழுதுங்கள்');
+        await sees(page, 'முழு எண் ஒன்று தருக');
     },
     async 'அமைப்புகள்'(page) {
         await press(page, ...(([x, y]) => [x - 100, y + 14])(await placeOf(page, 'இரவு அமைதி')));
