@@ -127,6 +127,34 @@ test('says so when WebAssembly is missing', async () => {
     assert.equal(await page.textContent('#notice'), text);
 });
 
+/** The driver takes the page's drawing away, and gives it back. */
+const loseDrawing = () => page.evaluate(async () => {
+    const drawing = document.getElementById('canvas').getContext('webgl').getExtension('WEBGL_lose_context');
+    window.isOld = true;
+    drawing.loseContext();
+    await new Promise(resolve => setTimeout(resolve, 200));
+    drawing.restoreContext();
+});
+
+test('starts anew when the browser has taken its drawing back', async () => {
+    await open();
+    await runs();
+    await loseDrawing();
+    await page.waitForFunction(() => !window.isOld && window.framesDrawn > 0);
+    assert.ok(await page.isHidden('#notice'));
+});
+
+test('keeps what it says when the drawing of a program that has stopped comes back', async () => {
+    await open();
+    await runs();
+    await page.evaluate(() => { setTimeout(() => Module._stop_with_trap(), 0); });
+    const text = await failure();
+    await loseDrawing();
+    await page.waitForTimeout(500);
+    assert.ok(await page.evaluate(() => window.isOld));
+    assert.equal(await page.textContent('#notice'), text);
+});
+
 test('says so when JavaScript is off, and nothing else', async () => {
     await open({}, {options: {...small, javaScriptEnabled: false}});
     await page.waitForSelector('noscript .card', {state: 'visible'});

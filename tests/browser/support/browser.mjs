@@ -29,6 +29,15 @@ function slowFrames(milliseconds) {
         setTimeout(() => request.call(window, callback), milliseconds);
 }
 
+/** What a page says when the browser took its drawing back: no program does that. */
+export const lossOfDrawing = 'the browser lost its drawing';
+
+function noteLoss(words) {
+    window.addEventListener('webglcontextlost', event => {
+        if (event.target.id === 'canvas') console.error(words);
+    }, true);
+}
+
 /**
  * A page of a context of its own. `page.problems` collects errors of console and scripts,
  * `page.printed` what programs print; warnings are the driver's. Nothing outside this machine is reached.
@@ -39,10 +48,12 @@ export async function openPage(browser, options = desk, prepare = async () => {}
     await context.route(url => url.hostname !== 'localhost', route => route.abort());
     const page = await context.newPage();
     if (pause > 0) await page.addInitScript(slowFrames, pause);
+    await page.addInitScript(noteLoss, lossOfDrawing);
     page.problems = [];
     page.printed = [];
     page.on('console', message => {
         const missing = message.text().startsWith('Failed to load') ? ` ${message.location().url}` : '';
+        if (message.text() === lossOfDrawing) console.log(lossOfDrawing);
         if (message.type() === 'error') page.problems.push(message.text() + missing);
         if (message.type() === 'log') page.printed.push(message.text());
     });
