@@ -10,8 +10,9 @@ CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/build_directory.sh
 . scripts/build_directory.sh
 
-database=build/tests
-configure tests
+# There each file is compiled by itself.
+database=build/debug
+configure debug
 # The embedded texts are headers that the build makes.
 cmake --build "$database" --target generated/emitted_text.h \
     generated/widget_templates.h >/dev/null

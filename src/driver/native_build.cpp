@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* kLockName = "தொகுப்பு_பூட்டு";
+constexpr const char* kNativeLockName = "தொகுப்பு_பூட்டு";
 
 /// The diagnostics object that every program links. Never rebuilt while it exists, whatever the
 /// age of its source; its status isn't looked at, since the link fails without it.
@@ -49,7 +49,7 @@ bool compileProgram(const NativeBuild& build, const std::string& freshExecutable
 }  // namespace
 
 bool storeGeneratedText(const NativeBuild& build, const std::string& code) {
-    const CacheTurn turn(build.cacheDirectory, kLockName);
+    const CacheTurn turn(build.cacheDirectory, kNativeLockName);
     return writeWhole(build.generatedPath, code);
 }
 
@@ -57,7 +57,7 @@ bool buildNativeProgram(const NativeBuild& build, const std::string& code) {
     const std::string executable = build.cacheDirectory + "/பொழில்_செயலி";
     const std::string freshExecutable = build.cacheDirectory + "/pozhil_temp_app";
 
-    CacheTurn turn(build.cacheDirectory, kLockName);
+    CacheTurn turn(build.cacheDirectory, kNativeLockName);
     if (!writeWhole(build.generatedPath, code)) return false;
     if (!compileProgram(build, freshExecutable)) {
         std::cerr << kRed << "பிழை: தொகுப்பதில் சிக்கல்! உன்னோட கோடை ஒருவாட்டி பாரு மச்சி." << kReset

@@ -9,6 +9,7 @@
 #include "syntax/expressions.h"
 #include "syntax/literals.h"
 #include "writing/marks.h"
+#include "writing/texts.h"
 
 namespace {
 
@@ -47,10 +48,6 @@ constexpr MediaType kIconTypes[] = {
     {".jpeg", "image/jpeg"},
     {"", "image/png"},
 };
-
-std::string orDefault(const std::string& text, const char* fallback) {
-    return text.empty() ? fallback : text;
-}
 
 bool holds(const std::string& page, std::string_view mark) {
     return page.find(std::string(kPageMarks.open) + std::string(mark) +

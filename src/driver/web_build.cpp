@@ -19,7 +19,7 @@ constexpr const char* kFixedFlags =
     " -std=c++17 -finput-charset=UTF-8 --bind -s USE_GLFW=3 -s FULL_ES2=1 -s WASM=1"
     " -s ALLOW_MEMORY_GROWTH=1 -s EXPORTED_RUNTIME_METHODS=\"['ccall','cwrap']\" ";
 
-constexpr const char* kLockName = "வலை_பூட்டு";
+constexpr const char* kWebLockName = "வலை_பூட்டு";
 
 constexpr const char* kOutputFiles[] = {
     "வெளியீடு/index.html",
@@ -73,7 +73,7 @@ std::string webCommand(const std::string& source, const std::string& includeDire
 
 bool buildWebApplication(const Program& program, const std::string& code, const WebBuild& build) {
     const std::string source = build.cacheDirectory + "/வலை_வெளியீடு.cpp";
-    const CacheTurn turn(build.cacheDirectory, kLockName);
+    const CacheTurn turn(build.cacheDirectory, kWebLockName);
     if (!writeWhole(source, code)) return false;
 
     std::string page;

@@ -30,7 +30,7 @@ const char* const kTruthOperators[] = {
     "சமம்", "சமமில்லை", "பெரிது", "சிறிது", "பெரிதுசமம்", "சிறிதுசமம்", "மற்றும்", "அல்லது",
 };
 
-const char* const kTimeFields[] = {
+const char* const kWholeTimeFields[] = {
     "ஆண்டு", "மாதம்", "நாள்", "மணி", "நிமிடம்", "வினாடி", "வாரநாள்",
 };
 
@@ -101,7 +101,8 @@ VarType Generator::inferMember(const GetExpression& access) {
     if (object == nullptr) return VarType::Dynamic;
     const auto recorded = variableTypes.find(object->name);
     const bool isTime = recorded != variableTypes.end() && recorded->second == VarType::Time;
-    return isTime && holds(kTimeFields, access.name.text) ? VarType::Integer : VarType::Dynamic;
+    return isTime && holds(kWholeTimeFields, access.name.text) ? VarType::Integer
+                                                               : VarType::Dynamic;
 }
 
 VarType Generator::inferBinary(const BinaryExpression& binary) {

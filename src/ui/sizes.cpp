@@ -16,14 +16,14 @@ struct OperatorRow {
     const char* word;
     const char* sign;
 };
-const OperatorRow kComparisons[] = {
+const OperatorRow kComparisonSigns[] = {
     {"சமம்", "=="},   {"சமமில்லை", "!="},   {"பெரிது", ">"},
     {"சிறிது", "<"}, {"பெரிதுசமம்", ">="}, {"சிறிதுசமம்", "<="},
 };
 
 /// Any word that isn't a comparison reads as equality. Meant.
 const char* comparisonSign(const std::string& word) {
-    for (const OperatorRow& row : kComparisons) {
+    for (const OperatorRow& row : kComparisonSigns) {
         if (word == row.word) return row.sign;
     }
     return "==";

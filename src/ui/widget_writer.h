@@ -32,6 +32,7 @@ struct Side {
 };
 
 using ChannelNames = std::array<const char*, 4>;
+inline constexpr ChannelNames kShortChannels = {"r", "g", "b", "a"};
 using ChannelBytes = std::array<int, 4>;
 
 /// The size that a parent forces on a child, as C++ texts: by default none.

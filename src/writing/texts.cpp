@@ -28,6 +28,10 @@ std::string numberText(float value) {
     return text.str();
 }
 
+std::string orDefault(const std::string& text, const char* fallback) {
+    return text.empty() ? fallback : text;
+}
+
 std::string quoted(const std::string& text) {
     std::string literal = "\"";
     for (const char byte : text) {

@@ -15,6 +15,9 @@ std::string sixDecimals(float value);
 /// A float as a stream writes it.
 std::string numberText(float value);
 
+/// `fallback` for the empty text.
+std::string orDefault(const std::string& text, const char* fallback);
+
 /// `text` as a C++ string literal, quotes included.
 std::string quoted(const std::string& text);
 

@@ -8,7 +8,7 @@
 namespace {
 
 /// Taken of the window, whatever a parent forces.
-void writeSides(WidgetWriter& w, const WidgetNode& alert) {
+void writeAlertSides(WidgetWriter& w, const WidgetNode& alert) {
     const auto side = [&](const char* local, const char* fallback, const char* key,
                           const char* base) {
         const std::string size = processPercentage(styledProperty(alert, key), base);
@@ -23,7 +23,7 @@ void writeSides(WidgetWriter& w, const WidgetNode& alert) {
 void writeAlert(WidgetWriter& w, const Site& at) {
     const auto background = colourOf(styledProperty(at.node, "பின்னணி"));
     w.fill(widget_templates::alert, at,
-           {{"SIZE", [&] { writeSides(w, at.node); }},
+           {{"SIZE", [&] { writeAlertSides(w, at.node); }},
             {"RADIUS", numberSizeOr(at.node, "style_வளைவு", "16.0f")},
             {"SHADOW", numberSizeOr(at.node, "style_நிழல்", "8.0f")},
             {"BACKGROUND", channelTexts(background.value_or(PozhilColor{1, 1, 1, 1}))},

@@ -40,10 +40,6 @@ std::string pixels(const WidgetNode& box, std::initializer_list<const char*> key
     return number == nullptr ? "0.0f" : processPercentage(number, "");
 }
 
-std::string orDefault(const std::string& text, const char* fallback) {
-    return text.empty() ? fallback : text;
-}
-
 /// A choice is decided as the program's own conditions are. A part of it that is no size leaves the
 /// side as it is.
 void writeSide(WidgetWriter& w, const char* local, const Expression* value, const char* base) {
@@ -63,7 +59,7 @@ void writeSide(WidgetWriter& w, const char* local, const Expression* value, cons
     w.text.out << ") ? " << part(choice->thenBranch) << " : " << part(choice->elseBranch) << ";\n";
 }
 
-void writeSides(WidgetWriter& w, const WidgetNode& box) {
+void writeBoxSides(WidgetWriter& w, const WidgetNode& box) {
     writeSide(w, "boxW", firstFound(box, {"style_அகலம்", "அகலம்"}, property), kWidthBase);
     writeSide(w, "boxH", firstFound(box, {"style_உயரம்", "உயரம்"}, property), kHeightBase);
     w.text.line("if (forcedW > 0.0f) boxW = forcedW;");
@@ -125,7 +121,7 @@ void writeBox(WidgetWriter& w, const Site& at) {
     const auto hoverColour =
         firstFound(box, {"style_மேம்படுத்தப்பட்ட_நிறம்", "மேம்படுத்தப்பட்ட_நிறம்"}, colourProperty);
     w.fill(widget_templates::box, at,
-           {{"SIZE", [&] { writeSides(w, box); }},
+           {{"SIZE", [&] { writeBoxSides(w, box); }},
             {"RADIUS", pixels(box, {"style_வளைவு", "வளைவு"})},
             {"SHADOW", pixels(box, {"நிழல்"})},
             {"COLOUR", channelTexts(colour)},

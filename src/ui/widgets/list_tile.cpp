@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr ChannelNames kChannels = {"r", "g", "b", "a"};
-
 std::string widthOf(const WidgetNode* widget) { return to_fstr(calculateWidgetWidth(widget)); }
 std::string heightOf(const WidgetNode* widget) { return to_fstr(calculateWidgetHeight(widget)); }
 
@@ -28,8 +26,8 @@ void writeListTile(WidgetWriter& w, const Site& at) {
             {"RADIUS", numberSizeOr(at.node, "வளைவு", "8.0f")},
             {"COLOUR",
              [&] {
-                 w.declareChannels(kChannels, {255, 255, 255, 255});
-                 w.assignChannels(kChannels, colourProperty(at.node, "பின்னணி"));
+                 w.declareChannels(kShortChannels, {255, 255, 255, 255});
+                 w.assignChannels(kShortChannels, colourProperty(at.node, "பின்னணி"));
              }},
             {"IS_ENABLED", isEnabled(at.node)},
             {"HANDLER", [&] { w.writeHandler(at, "அழுத்தினால்"); }},

@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr ChannelNames kFill = {"r", "g", "b", "a"};
 constexpr const char* kOnPress = "அழுத்தினால்";
 
 using Items = std::vector<const WidgetNode*>;
@@ -69,8 +68,8 @@ void writeBottomBar(WidgetWriter& w, const Site& at) {
             {"COUNT", std::to_string(items.size())},
             {"COLOUR",
              [&] {
-                 w.declareChannels(kFill, {255, 255, 255, 255});
-                 w.assignChannels(kFill, colourProperty(at.node, "style_பின்னணி"));
+                 w.declareChannels(kShortChannels, {255, 255, 255, 255});
+                 w.assignChannels(kShortChannels, colourProperty(at.node, "style_பின்னணி"));
              }},
             {"HANDLER", [&] { writeHandlers(w, at, items, "clickedIdx"); }},
             {"ITEMS", [&] {
@@ -87,8 +86,8 @@ void writeTabBar(WidgetWriter& w, const Site& at) {
             {"COUNT", std::to_string(items.size())},
             {"COLOUR",
              [&] {
-                 w.declareChannels(kFill, {33, 150, 243, 255});
-                 w.assignChannels(kFill, colourProperty(at.node, "style_பின்னணி"));
+                 w.declareChannels(kShortChannels, {33, 150, 243, 255});
+                 w.assignChannels(kShortChannels, colourProperty(at.node, "style_பின்னணி"));
              }},
             {"HANDLER", [&] { writeHandlers(w, at, items, "clickedTab"); }},
             {"ITEMS", [&] {

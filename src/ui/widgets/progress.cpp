@@ -6,13 +6,12 @@
 
 namespace {
 
-constexpr ChannelNames kChannels = {"r", "g", "b", "a"};
-constexpr ChannelBytes kPrimary = {33, 150, 243, 255};
+constexpr ChannelBytes kBar = {33, 150, 243, 255};
 
 /// The literal colour of the style's key, or else of the plain one.
 void writeColour(WidgetWriter& w, const Site& at) {
-    w.declareChannels(kChannels, kPrimary);
-    w.assignChannels(kChannels, colourOf(styledProperty(at.node, "நிறம்")));
+    w.declareChannels(kShortChannels, kBar);
+    w.assignChannels(kShortChannels, colourOf(styledProperty(at.node, "நிறம்")));
 }
 
 }  // namespace
@@ -22,8 +21,8 @@ void writeSpinner(WidgetWriter& w, const Site& at) {
            {{"SIZE", numberSizeOr(at.node, "style_அளவு", "40.0f")},
             {"THICKNESS", numberSizeOr(at.node, "style_தடிமன்", "4.0f")},
             {"COLOUR", [&] {
-                 w.declareChannels(kChannels, kPrimary);
-                 w.assignChannels(kChannels, colourProperty(at.node, "style_நிறம்"));
+                 w.declareChannels(kShortChannels, kBar);
+                 w.assignChannels(kShortChannels, colourProperty(at.node, "style_நிறம்"));
              }}});
 }
 

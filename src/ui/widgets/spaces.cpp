@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr ChannelNames kLine = {"r", "g", "b", "a"};
-
 /// Digits that a float is made of by what is appended: a number with a point becomes text that
 /// doesn't compile. Meant: a size here is a whole number.
 std::string wholePixels(const std::string& digits) { return digits + ".0f"; }
@@ -37,8 +35,8 @@ void writeDivider(WidgetWriter& w, const Site& at) {
              }},
             {"THICKNESS", dividerThickness(at.node)},
             {"COLOUR", [&] {
-                 w.declareChannels(kLine, {158, 158, 158, 255});
-                 w.assignChannels(kLine, colourOf(styledProperty(at.node, "நிறம்")));
+                 w.declareChannels(kShortChannels, {158, 158, 158, 255});
+                 w.assignChannels(kShortChannels, colourOf(styledProperty(at.node, "நிறம்")));
              }}});
 }
 

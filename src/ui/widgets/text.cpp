@@ -6,10 +6,6 @@
 
 namespace {
 
-std::string orDefault(const std::string& text, const char* fallback) {
-    return text.empty() ? fallback : text;
-}
-
 std::string globalText(const std::string& name) { return "global_vars[\"" + name + "\"]"; }
 
 /// The face that a text is drawn with outside a browser.

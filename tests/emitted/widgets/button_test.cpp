@@ -96,7 +96,7 @@ protected:
     }
 };
 
-const std::string kHand = "document.body.style.cursor = 'pointer'";
+const std::string kHandOverButton = "document.body.style.cursor = 'pointer'";
 const std::string kBlue = "rgba(33, 150, 243, 255)";
 const std::string kDarkBlue = "rgba(13, 130, 223, 255)";
 
@@ -118,7 +118,7 @@ TEST_F(ButtonTest, HasABlurredShadowAndABorder) {
 }
 
 TEST_F(ButtonTest, IsDarkerUnderThePointer) {
-    EXPECT_EQ(drawnUnder(20, 30), plainCalls({kHand}, kDarkBlue));
+    EXPECT_EQ(drawnUnder(20, 30), plainCalls({kHandOverButton}, kDarkBlue));
 }
 
 TEST_F(ButtonTest, TakesItsHoverColourDarkened) {
@@ -127,8 +127,8 @@ TEST_F(ButtonTest, TakesItsHoverColourDarkened) {
 }
 
 TEST_F(ButtonTest, IsPressedOncePerClick) {
-    EXPECT_EQ(clickAt(20, 30), plainCalls({kHand, "pressed"}, kDarkBlue));
-    EXPECT_EQ(drawnUnder(20, 30), plainCalls({kHand}, kDarkBlue));
+    EXPECT_EQ(clickAt(20, 30), plainCalls({kHandOverButton, "pressed"}, kDarkBlue));
+    EXPECT_EQ(drawnUnder(20, 30), plainCalls({kHandOverButton}, kDarkBlue));
 }
 
 TEST_F(ButtonTest, IsHitUpToItsEdges) {

@@ -58,12 +58,12 @@ protected:
 };
 
 const char* const kGrey = "nvgFillColor(rgba(245, 245, 245, 255))";
-const char* const kOrange = "nvgFillColor(rgba(255, 127.5, 0, 255))";
+const char* const kOrangePage = "nvgFillColor(rgba(255, 127.5, 0, 255))";
 
 TEST_F(PageTest, IsGreyByItself) { EXPECT_EQ(drawn(bare::page), calls({kGrey, "nvgFill()"})); }
 
 TEST_F(PageTest, TakesItsColour) {
-    EXPECT_EQ(drawn(coloured::page), calls({kOrange, "nvgFill()", "nvgFill()"}));
+    EXPECT_EQ(drawn(coloured::page), calls({kOrangePage, "nvgFill()", "nvgFill()"}));
 }
 
 TEST_F(PageTest, ShowsAnImageThatIsLoadedOnce) {
@@ -84,7 +84,7 @@ TEST_F(PageTest, IsGreyWithoutItsImageAndDoesNotTryAgain) {
 TEST_F(PageTest, LaysItsImageOverItsColour) {
     browser().answerWith("nvgCreateImage", 7);
     EXPECT_EQ(drawn(coloured_with_image::page),
-              calls({kOrange, "nvgFill()", "nvgCreateImage(\"அ.png\", 0)",
+              calls({kOrangePage, "nvgFill()", "nvgCreateImage(\"அ.png\", 0)",
                      "nvgFillPaint(image(0, 0, 800, 600, 0, 7, 1))", "nvgFill()", "nvgFill()"}));
 }
 

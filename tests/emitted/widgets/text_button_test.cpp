@@ -54,7 +54,7 @@ protected:
     }
 };
 
-const std::string kHand = "document.body.style.cursor = 'pointer'";
+const std::string kHandOverText = "document.body.style.cursor = 'pointer'";
 const std::string kWhite = "rgba(255,255,255,1.000000)";
 const std::string kGreen = "rgba(58,173,104,1.000000)";
 
@@ -63,8 +63,8 @@ TEST_F(TextButtonTest, IsItsLabelAndNothingElse) {
 }
 
 TEST_F(TextButtonTest, IsPressedUpToItsEdges) {
-    EXPECT_EQ(clickAt(10.5, 20), calls({kHand, "pressed"}, kGreen));
-    EXPECT_EQ(clickAt(126.5, 60), calls({kHand, "pressed"}, kGreen));
+    EXPECT_EQ(clickAt(10.5, 20), calls({kHandOverText, "pressed"}, kGreen));
+    EXPECT_EQ(clickAt(126.5, 60), calls({kHandOverText, "pressed"}, kGreen));
     for (const auto& [x, y] : {std::pair(10.0, 30.0), {127.0, 30.0}, {20.0, 19.5}, {20.0, 60.5}}) {
         EXPECT_EQ(clickAt(x, y), calls({}, kWhite));
     }
@@ -72,15 +72,15 @@ TEST_F(TextButtonTest, IsPressedUpToItsEdges) {
 
 TEST_F(TextButtonTest, IsOnlyColouredWithoutAClick) {
     clickAt(20, 30);
-    EXPECT_EQ(drawn(enabled::text_button), calls({kHand}, kGreen));
+    EXPECT_EQ(drawn(enabled::text_button), calls({kHandOverText}, kGreen));
 }
 
 TEST_F(TextButtonTest, SwallowsWhatItsPressThrows) {
-    EXPECT_EQ(clickAt(20, 30, throwing::text_button), calls({kHand}, kGreen));
+    EXPECT_EQ(clickAt(20, 30, throwing::text_button), calls({kHandOverText}, kGreen));
 }
 
 TEST_F(TextButtonTest, CallsNothingButAFunction) {
-    EXPECT_EQ(clickAt(20, 30, otherwise::text_button), calls({kHand}, kGreen));
+    EXPECT_EQ(clickAt(20, 30, otherwise::text_button), calls({kHandOverText}, kGreen));
 }
 
 TEST_F(TextButtonTest, ThatIsDisabledIsOnlyColoured) {

@@ -17,17 +17,17 @@ namespace {
 
 const std::string kRoot = POZHIL_ROOT "/";
 
-struct Row {
+struct OddityRow {
     std::string oddity;
     std::string place;
     std::string tests;
 };
 
 /// | what | `src/...` | `tests/...`, ... |
-std::vector<Row> readRows() {
+std::vector<OddityRow> readOddities() {
     static const std::regex row(R"(\| (.+) \| `(src/[^`]+)` \| (.+) \|)");
     std::istringstream lines(readText(kRoot + "docs/settled_oddities.md"));
-    std::vector<Row> rows;
+    std::vector<OddityRow> rows;
     for (std::string line; std::getline(lines, line);) {
         std::smatch match;
         if (std::regex_match(line, match, row)) rows.push_back({match[1], match[2], match[3]});
@@ -66,14 +66,14 @@ testing::AssertionResult exists(const std::string& path, const std::string& name
 
 TEST(SettledOddities, OfEachFileHaveARowEach) {
     std::map<std::string, int> rows;
-    for (const Row& row : readRows()) rows[row.place]++;
+    for (const OddityRow& row : readOddities()) rows[row.place]++;
     EXPECT_FALSE(rows.empty());
     EXPECT_EQ(rows, countMeant()) << "rows of docs/settled_oddities.md, then comments of src";
 }
 
 TEST(SettledOddities, AreEachHeldByATestThatExists) {
     static const std::regex test(R"(`(tests/[^` ]+)(?: (\w+\.\w+))?`)");
-    for (const Row& row : readRows()) {
+    for (const OddityRow& row : readOddities()) {
         int count = 0;
         for (std::sregex_iterator at(row.tests.begin(), row.tests.end(), test), end; at != end;
              ++at) {

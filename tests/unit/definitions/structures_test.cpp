@@ -10,12 +10,13 @@ const Token kColon = mark(TokenType::COLON, 2);
 const Token kLineEnd = mark(TokenType::NEWLINE, 2);
 const Token kIndent = mark(TokenType::INDENT, 3);
 const Token kDedent = mark(TokenType::DEDENT, 8);
-const Token kOpen = mark(TokenType::LEFT_PAREN, 4);
-const Token kClose = mark(TokenType::RIGHT_PAREN, 6);
+const Token kOpenParen = mark(TokenType::LEFT_PAREN, 4);
+const Token kCloseParen = mark(TokenType::RIGHT_PAREN, 6);
 const Token kEquals = mark(TokenType::EQUALS, 5);
 
 const std::vector<Token> kLineEnds = {kLineEnd, kLineEnd};
-const std::vector<Token> kMethod = {word("செயல்", 4), name("ஆ", 4), kOpen, name("தான்", 4), kClose};
+const std::vector<Token> kMethod = {word("செயல்", 4), name("ஆ", 4), kOpenParen, name("தான்", 4),
+                                    kCloseParen};
 const std::vector<Token> kMethodBody = {kColon, kLineEnd, kIndent, word("விடு", 5), kDedent};
 
 std::vector<Token> operator+(std::vector<Token> left, const std::vector<Token>& right) {
@@ -25,11 +26,6 @@ std::vector<Token> operator+(std::vector<Token> left, const std::vector<Token>& 
 
 std::vector<Token> opening(const char* keyword) {
     return {word(keyword, 2), name("அ", 2), kColon, kLineEnd, kIndent};
-}
-
-testing::AssertionResult refusedTokens(const std::vector<Token>& tokens, const std::string& code,
-                                       int line) {
-    return refuses(code, line, [&] { parserOver(tokens, 9).parseStatement(false); });
 }
 
 const StructDefinitionStatement& structureAt(const Parsed& parsed, std::size_t place) {
@@ -140,17 +136,18 @@ TEST(Structure, ChecksItsParentBehindItsBody) {
 }
 
 TEST(Structure, RefusesItsParentsParenthesisAtThatLine) {
-    EXPECT_TRUE(refusedTokens(
-        {word("கட்டமைப்பு", 2), name("அ", 3), kOpen, name("ஆ", 5), number("1", 6)}, "பொழில்-204", 4));
+    EXPECT_TRUE(
+        refusedTokens({word("கட்டமைப்பு", 2), name("அ", 3), kOpenParen, name("ஆ", 5), number("1", 6)},
+                      "பொழில்-204", 4));
 }
 
 TEST(Structure, RefusesAMethodsParenthesesAtTwoLines) {
     const std::vector<Token> head = opening("கட்டமைப்பு") + std::vector<Token>{word("செயல்", 3)};
     EXPECT_TRUE(
         refusedTokens(head + std::vector<Token>{name("ஆ", 4), number("1", 5)}, "பொழில்-203", 5));
-    EXPECT_TRUE(
-        refusedTokens(head + std::vector<Token>{name("ஆ", 3), kOpen, name("இ", 5), number("1", 6)},
-                      "பொழில்-204", 3));
+    EXPECT_TRUE(refusedTokens(
+        head + std::vector<Token>{name("ஆ", 3), kOpenParen, name("இ", 5), number("1", 6)},
+        "பொழில்-204", 3));
 }
 
 TEST(Structure, DropsADefinitionInsideButKnowsIt) {
@@ -167,7 +164,8 @@ TEST(Structure, DropsADefinitionInsideButKnowsIt) {
 TEST(Group, RefusesAnOpenParenthesisAtThatLine) {
     const std::vector<Token> member = {name("ஆ", 5), kEquals, number("1", 5)};
     for (const Token& visibility : {mark(TokenType::PRIVATE, 3), word("பொது", 3)}) {
-        const std::vector<Token> head = opening("கட்டமைப்பு") + std::vector<Token>{visibility, kOpen};
+        const std::vector<Token> head =
+            opening("கட்டமைப்பு") + std::vector<Token>{visibility, kOpenParen};
         EXPECT_TRUE(refusedTokens(head, "பொழில்-204", 4));
         EXPECT_TRUE(refusedTokens(head + member, "பொழில்-204", 4));
         EXPECT_TRUE(refusedTokens(head + member + std::vector<Token>{kLineEnd}, "பொழில்-204", 4));
@@ -176,14 +174,14 @@ TEST(Group, RefusesAnOpenParenthesisAtThatLine) {
 
 TEST(Group, BehindWhichLayoutRunsOutLacksAStatement) {
     EXPECT_TRUE(refusedTokens(
-        opening("கட்டமைப்பு") + std::vector<Token>{mark(TokenType::PRIVATE), kOpen, kDedent},
+        opening("கட்டமைப்பு") + std::vector<Token>{mark(TokenType::PRIVATE), kOpenParen, kDedent},
         "பொழில்-201", 9));
 }
 
 TEST(Group, CountsNoIndentation) {
     const std::vector<Token> tokens =
         opening("கட்டமைப்பு") + std::vector<Token>{mark(TokenType::PRIVATE),
-                                                 kOpen,
+                                                 kOpenParen,
                                                  kDedent,
                                                  kDedent,
                                                  kLineEnd,
@@ -193,7 +191,7 @@ TEST(Group, CountsNoIndentation) {
                                                  number("1", 5),
                                                  kIndent,
                                                  kDedent,
-                                                 kClose,
+                                                 kCloseParen,
                                                  kDedent};
     EXPECT_EQ(treeOf(parserOver(tokens).parseStatement(false)),
               "structure அ\n  private field ஆ kind 0\n    number 1 @5\n");
@@ -230,14 +228,14 @@ TEST(AbstractStructure, RefusesParenthesesAtTwoLines) {
     EXPECT_TRUE(
         refusedTokens(head + std::vector<Token>{name("ஆ", 4), number("1", 5)}, "பொழில்-203", 5));
     EXPECT_TRUE(refusedTokens(
-        head + std::vector<Token>{name("ஆ", 3), kOpen, name("தான்", 5), number("1", 6)}, "பொழில்-204",
-        3));
+        head + std::vector<Token>{name("ஆ", 3), kOpenParen, name("தான்", 5), number("1", 6)},
+        "பொழில்-204", 3));
 }
 
 TEST(AbstractStructure, MissesTheReceiverAtTheCurrentLine) {
     EXPECT_TRUE(refusedTokens(
-        opening("வடிவமைப்பு") + std::vector<Token>{word("செயல்", 3), name("ஆ", 4), kOpen, kClose,
-                                                  mark(TokenType::COLON, 7)},
+        opening("வடிவமைப்பு") + std::vector<Token>{word("செயல்", 3), name("ஆ", 4), kOpenParen,
+                                                  kCloseParen, mark(TokenType::COLON, 7)},
         "பொழில்-271", 7));
 }
 

@@ -10,6 +10,7 @@
 
 #include "support/deep_stack.h"
 #include "support/front_end.h"
+#include "support/repeated.h"
 
 namespace {
 
@@ -140,12 +141,6 @@ TEST(DepthLimit, CountsEachExpressionAnew) {
     std::string source;
     for (int i = 0; i < 20; i++) source += formNamed("parentheses").source(1000);
     EXPECT_EQ(outcomeOnStack(kDeepStack, source), "parsed");
-}
-
-std::string repeated(const std::string& text, int times) {
-    std::string all;
-    for (int i = 0; i < times; i++) all += text;
-    return all;
 }
 
 TEST(LongExpression, OfThreeThousandTermsParses) {

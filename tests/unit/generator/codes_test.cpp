@@ -15,7 +15,7 @@ namespace {
 using Codes = std::set<std::string>;
 
 /// The numbers of the codes that the catalogue gives to `raiser`.
-Codes codesOf(const std::string& raiser) {
+Codes codesRaisedBy(const std::string& raiser) {
     std::istringstream lines(readText(POZHIL_ROOT "/tests/catalogue/catalogue.tsv"));
     Codes codes;
     for (std::string line; std::getline(lines, line);) {
@@ -33,7 +33,7 @@ const std::map<std::string, std::string> kWithoutReport = {
 };
 
 TEST(GeneratorCodes, HaveAReport) {
-    const Codes codes = codesOf("generator");
+    const Codes codes = codesRaisedBy("generator");
     EXPECT_GE(codes.size(), 15U);
     for (const std::string& code : codes) {
         const bool shown = fs::exists(fs::u8path(POZHIL_ROOT "/tests/diagnostics/" + code));
@@ -51,7 +51,7 @@ TEST(EmittedCodes, HaveABox) {
     for (const CaseFile& file : findCases("programs/boxes", ".out")) {
         shown.insert(file.name.substr(0, 3));
     }
-    const Codes codes = codesOf("emitted code");
+    const Codes codes = codesRaisedBy("emitted code");
     EXPECT_GE(codes.size(), 14U);
     for (const std::string& code : codes) {
         EXPECT_NE(shown.count(code) != 0, kWithoutBox.count(code) != 0) << code;

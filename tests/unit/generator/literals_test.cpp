@@ -44,7 +44,7 @@ TEST(NumberText, RefusesWhatIsGreater) {
     EXPECT_TRUE(refuses("பொழில்-305", 3, [] { generate("\n\nஅச்சிடு(100000000000000000000)\n"); }));
 }
 
-TEST(NumberText, OfTamilDigitsThrows) {
+TEST(NumberText, OfATamilLiteralThrows) {
     EXPECT_THROW(written<NumberLiteral>("௧௨"), std::invalid_argument);
     EXPECT_THROW(generate("அச்சிடு(௧)"), std::invalid_argument);
 }

@@ -12,12 +12,12 @@ namespace {
 using Value = std::unique_ptr<Expression>;
 
 Value number(const std::string& digits) { return std::make_unique<NumberLiteral>(digits); }
-Value variable(const std::string& name) { return std::make_unique<VariableAccess>(name); }
+Value variableNamed(const std::string& name) { return std::make_unique<VariableAccess>(name); }
 Value noElements() { return std::make_unique<ListLiteral>(); }
-Token word(const std::string& text) { return {TokenType::IDENTIFIER, text, 1}; }
+Token identifier(const std::string& text) { return {TokenType::IDENTIFIER, text, 1}; }
 
 Value call(const std::string& name, std::vector<Value> arguments = {}) {
-    auto node = std::make_unique<CallExpression>(variable(name), std::move(arguments));
+    auto node = std::make_unique<CallExpression>(variableNamed(name), std::move(arguments));
     node->line = 6;
     return node;
 }
@@ -65,7 +65,7 @@ TEST_F(DeclarationForm, AtTopLevelIsGlobalAndRecorded) {
     EXPECT_EQ(kindOf("அ"), VarType::Integer);
     EXPECT_EQ(declared("அ", noElements()), "    global_vars[\"அ\"] = std::vector<std::any>({});\n");
     EXPECT_EQ(kindOf("அ"), VarType::List);
-    EXPECT_EQ(declared("அ", variable("ஆ")),
+    EXPECT_EQ(declared("அ", variableNamed("ஆ")),
               "    global_vars[\"அ\"] = std::any(global_vars[\"ஆ\"]);\n");
     EXPECT_EQ(kindOf("அ"), VarType::Dynamic);
     EXPECT_TRUE(generator->localVariables.empty());
@@ -102,10 +102,10 @@ TEST_F(DeclarationForm, OfANewListInAFunctionIsTextThatDoesNotCompile) {
 }
 
 TEST_F(DeclarationForm, OfAnObjectThatNoConstructorMakesIsTextThatDoesNotCompile) {
-    EXPECT_EQ(declared("அ", variable("ஆ"), VarType::Object),
+    EXPECT_EQ(declared("அ", variableNamed("ஆ"), VarType::Object),
               "    global_vars[\"அ\"] = std::any();\n = std::any(global_vars[\"ஆ\"]);\n");
     generator->variableTypes["ஆ"] = VarType::Object;
-    EXPECT_EQ(declared("அ", variable("ஆ")),
+    EXPECT_EQ(declared("அ", variableNamed("ஆ")),
               "    global_vars[\"அ\"] = std::any();\n = global_vars[\"ஆ\"];\n");
 }
 
@@ -115,12 +115,12 @@ TEST_F(DeclarationForm, TakesOneNameForAConstant) {
     EXPECT_EQ(generator->constants, std::set<std::string>{"மாறிலி"});
 }
 
-const char* const kAccount =
+const char* const kAccountStructure =
     "கட்டமைப்பு கணக்கு:\n    இருப்பு = 5\n    செயல் துவக்கம்(தான், தொகை):\n"
     "        தான்.இருப்பு = தொகை\nகட்டமைப்பு சேமிப்பு(கணக்கு):\n    வட்டி = 2\n";
 
 TEST_F(DeclarationForm, OfAnInstanceFillsAVariableOfItsOwn) {
-    use(kAccount);
+    use(kAccountStructure);
     EXPECT_EQ(declared("க", call("கணக்கு", number("7"))),
               "    global_vars[\"க\"] = std::any();\n"
               "    auto obj_க = std::make_shared<கணக்கு>();\n"
@@ -135,7 +135,7 @@ TEST_F(DeclarationForm, OfAnInstanceFillsAVariableOfItsOwn) {
 }
 
 TEST_F(DeclarationForm, OfAnInstanceDoesNotCountTheConstructorsArguments) {
-    use(kAccount);
+    use(kAccountStructure);
     const std::string text = declared("க", call("கணக்கு"));
     EXPECT_NE(text.find("    fn_கணக்கு_துவக்கம்(std::static_pointer_cast<_StructBase>(obj_க));\n"),
               std::string::npos);
@@ -153,7 +153,7 @@ TEST_F(DeclarationForm, OfAnInstanceInAFunctionFillsTheLocal) {
 }
 
 TEST_F(DeclarationForm, OfAnInstanceDoesNotFindAnInheritedConstructor) {
-    use(kAccount);
+    use(kAccountStructure);
     EXPECT_EQ(declared("சே", call("சேமிப்பு")).find("    fn_கணக்கு_துவக்கம்("), std::string::npos);
     try {
         declared("சே", call("சேமிப்பு", number("7")));
@@ -173,13 +173,14 @@ protected:
         return written(statement);
     }
     static Value member(const std::string& object, const std::string& name) {
-        return std::make_unique<GetExpression>(variable(object), word(name));
+        return std::make_unique<GetExpression>(variableNamed(object), identifier(name));
     }
 };
 
 TEST_F(SetForm, OfAnElementHasNoPlace) {
-    EXPECT_EQ(stored(std::make_unique<IndexExpression>(variable("அ"), number("0")), number("1")),
-              "    fn_index_ref(global_vars[\"அ\"], std::any(0LL)) = std::any(1LL);\n");
+    EXPECT_EQ(
+        stored(std::make_unique<IndexExpression>(variableNamed("அ"), number("0")), number("1")),
+        "    fn_index_ref(global_vars[\"அ\"], std::any(0LL)) = std::any(1LL);\n");
 }
 
 TEST_F(SetForm, OfAPropertyCastsTheObject) {
@@ -190,7 +191,7 @@ TEST_F(SetForm, OfAPropertyCastsTheObject) {
 }
 
 TEST_F(SetForm, OfAnythingElseWritesNothing) {
-    EXPECT_EQ(stored(variable("அ"), number("1")), "    ;\n");
+    EXPECT_EQ(stored(variableNamed("அ"), number("1")), "    ;\n");
 }
 
 TEST_F(SetForm, Refusals) {
@@ -222,11 +223,12 @@ TEST_F(SetForm, TheReceiverReachesItsPrivateField) {
 using CompoundForms = Forms;
 
 TEST_F(CompoundForms, AssignToATemporary) {
-    EXPECT_EQ(written(CompoundAssignmentStatement(variable("அ"), word("கூட்டிசேர்"), number("1"))),
+    EXPECT_EQ(written(CompoundAssignmentStatement(variableNamed("அ"), identifier("கூட்டிசேர்"),
+                                                  number("1"))),
               "    global_vars[\"அ\"] = std::any(std::any_cast<long long>(global_vars[\"அ\"]) += "
               "std::any_cast<long long>(1LL));\n");
     EXPECT_EQ(
-        written(IncrementStatement(variable("அ"), word("ஒன்றுசேர்"))),
+        written(IncrementStatement(variableNamed("அ"), identifier("ஒன்றுசேர்"))),
         "    global_vars[\"அ\"] = std::any(std::any_cast<long long>(global_vars[\"அ\"]) ++);\n");
 }
 

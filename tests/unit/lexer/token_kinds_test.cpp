@@ -15,7 +15,7 @@ struct KindRow {
 };
 
 // clang-format off
-const KindRow kKinds[] = {
+const KindRow kTokenKinds[] = {
     {0, TokenType::KEYWORD, "KEYWORD"},
     {1, TokenType::IDENTIFIER, "IDENTIFIER"},
     {2, TokenType::NUMBER, "NUMBER"},
@@ -165,17 +165,18 @@ const KindRow kKinds[] = {
 // clang-format on
 
 TEST(TokenKinds, HaveTheirNumbers) {
-    for (const KindRow& row : kKinds) EXPECT_EQ(static_cast<int>(row.kind), row.number) << row.name;
+    for (const KindRow& row : kTokenKinds)
+        EXPECT_EQ(static_cast<int>(row.kind), row.number) << row.name;
 }
 
 TEST(TokenKinds, AreOneHundredAndFortyFive) {
-    ASSERT_EQ(std::size(kKinds), 145U);
-    for (int number = 0; number < 145; number++) EXPECT_EQ(kKinds[number].number, number);
+    ASSERT_EQ(std::size(kTokenKinds), 145U);
+    for (int number = 0; number < 145; number++) EXPECT_EQ(kTokenKinds[number].number, number);
 }
 
 TEST(TokenKinds, HaveTheirNamesInTestTexts) {
-    ASSERT_EQ(std::size(kTokenNames), std::size(kKinds));
-    for (const KindRow& row : kKinds) EXPECT_STREQ(kTokenNames[row.number], row.name);
+    ASSERT_EQ(std::size(kTokenNames), std::size(kTokenKinds));
+    for (const KindRow& row : kTokenKinds) EXPECT_STREQ(kTokenNames[row.number], row.name);
 }
 
 }  // namespace

@@ -5,9 +5,9 @@
 
 namespace {
 
-const Token kLineEnd = mark(TokenType::NEWLINE);
-const Token kIndent = mark(TokenType::INDENT, 2);
-const Token kDedent = mark(TokenType::DEDENT, 3);
+const Token kFirstLineEnd = mark(TokenType::NEWLINE);
+const Token kSecondIndent = mark(TokenType::INDENT, 2);
+const Token kThirdDedent = mark(TokenType::DEDENT, 3);
 const Token kPass = word("விடு", 2);
 
 testing::AssertionResult blockRefused(const std::vector<Token>& tokens, const std::string& code,
@@ -16,7 +16,8 @@ testing::AssertionResult blockRefused(const std::vector<Token>& tokens, const st
 }
 
 TEST(Block, EndsBehindItsDedent) {
-    Parser parser = parserOver({kLineEnd, kIndent, kPass, kLineEnd, kDedent, kPass});
+    Parser parser =
+        parserOver({kFirstLineEnd, kSecondIndent, kPass, kFirstLineEnd, kThirdDedent, kPass});
     const auto block = parser.parseBlockStatement(false);
     EXPECT_EQ(block->statements.size(), 1U);
     EXPECT_EQ(block->line, 0);
@@ -24,42 +25,43 @@ TEST(Block, EndsBehindItsDedent) {
 }
 
 TEST(Block, NeedsALineEndThenIndentation) {
-    EXPECT_TRUE(blockRefused({kIndent, kPass}, "பொழில்-202", 2));
-    EXPECT_TRUE(blockRefused({kLineEnd, kPass, kDedent}, "பொழில்-202", 2));
-    EXPECT_TRUE(blockRefused({kLineEnd, kDedent}, "பொழில்-202", 3));
-    EXPECT_TRUE(blockRefused({kLineEnd, kLineEnd}, "பொழில்-202", 9));
+    EXPECT_TRUE(blockRefused({kSecondIndent, kPass}, "பொழில்-202", 2));
+    EXPECT_TRUE(blockRefused({kFirstLineEnd, kPass, kThirdDedent}, "பொழில்-202", 2));
+    EXPECT_TRUE(blockRefused({kFirstLineEnd, kThirdDedent}, "பொழில்-202", 3));
+    EXPECT_TRUE(blockRefused({kFirstLineEnd, kFirstLineEnd}, "பொழில்-202", 9));
     EXPECT_TRUE(blockRefused({}, "பொழில்-202", 9));
 }
 
 TEST(Block, NeedsNoLineEndBetweenStatements) {
-    const auto block =
-        parserOver({kLineEnd, kLineEnd, kIndent, kPass, kPass, kLineEnd, kLineEnd, kPass, kDedent})
-            .parseBlockStatement(false);
+    const auto block = parserOver({kFirstLineEnd, kFirstLineEnd, kSecondIndent, kPass, kPass,
+                                   kFirstLineEnd, kFirstLineEnd, kPass, kThirdDedent})
+                           .parseBlockStatement(false);
     EXPECT_EQ(block->statements.size(), 3U);
 }
 
 TEST(Block, MayBeEmpty) {
-    EXPECT_TRUE(
-        parserOver({kLineEnd, kIndent, kDedent}).parseBlockStatement(false)->statements.empty());
-    EXPECT_TRUE(parserOver({kLineEnd, kIndent, kLineEnd, kDedent})
+    EXPECT_TRUE(parserOver({kFirstLineEnd, kSecondIndent, kThirdDedent})
+                    .parseBlockStatement(false)
+                    ->statements.empty());
+    EXPECT_TRUE(parserOver({kFirstLineEnd, kSecondIndent, kFirstLineEnd, kThirdDedent})
                     .parseBlockStatement(false)
                     ->statements.empty());
 }
 
 TEST(Block, NeedsItsDedent) {
-    EXPECT_TRUE(blockRefused({kLineEnd, kIndent, kPass}, "பொழில்-292", 9));
-    EXPECT_TRUE(blockRefused({kLineEnd, kIndent, kPass, kLineEnd}, "பொழில்-292", 9));
-    EXPECT_TRUE(blockRefused({kLineEnd, kIndent}, "பொழில்-292", 9));
+    EXPECT_TRUE(blockRefused({kFirstLineEnd, kSecondIndent, kPass}, "பொழில்-292", 9));
+    EXPECT_TRUE(blockRefused({kFirstLineEnd, kSecondIndent, kPass, kFirstLineEnd}, "பொழில்-292", 9));
+    EXPECT_TRUE(blockRefused({kFirstLineEnd, kSecondIndent}, "பொழில்-292", 9));
 }
 
 TEST(Block, RefusesDeeperIndentation) {
-    EXPECT_TRUE(blockRefused({kLineEnd, kIndent, kIndent, kPass}, "பொழில்-111", 2));
+    EXPECT_TRUE(blockRefused({kFirstLineEnd, kSecondIndent, kSecondIndent, kPass}, "பொழில்-111", 2));
 }
 
 TEST(Block, PassesOnThatAStructureHoldsIt) {
     const std::vector<Token> tokens = {
-        kLineEnd,       kIndent,  name("அ", 2), {TokenType::EQUALS, "=", 2},
-        number("1", 2), kLineEnd, kDedent};
+        kFirstLineEnd,  kSecondIndent, name("அ", 2), {TokenType::EQUALS, "=", 2},
+        number("1", 2), kFirstLineEnd, kThirdDedent};
     EXPECT_EQ(treeOf(parserOver(tokens).parseBlockStatement(true)),
               "block\n  field அ kind 0\n    number 1 @2\n");
     EXPECT_EQ(treeOf(parserOver(tokens).parseBlockStatement(false)),
@@ -67,7 +69,8 @@ TEST(Block, PassesOnThatAStructureHoldsIt) {
 }
 
 TEST(Block, DoesNotSpinOnAWordThatIsLeft) {
-    EXPECT_TRUE(blockRefused({kLineEnd, kIndent, word("பொது", 2), kDedent}, "பொழில்-291", 2, true));
+    EXPECT_TRUE(blockRefused({kFirstLineEnd, kSecondIndent, word("பொது", 2), kThirdDedent},
+                             "பொழில்-291", 2, true));
 }
 
 TEST(Block, MayFollowAnotherDirectly) {

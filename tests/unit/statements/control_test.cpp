@@ -6,13 +6,7 @@
 
 namespace {
 
-const Token kColon = mark(TokenType::COLON, 4);
-
-/// The refusal of the statement that `tokens` begin; the text ends on line 9.
-testing::AssertionResult refusedTokens(const std::vector<Token>& tokens, const std::string& code,
-                                       int line) {
-    return refuses(code, line, [&] { parserOver(tokens, 9).parseStatement(false); });
-}
+const Token kFourthColon = mark(TokenType::COLON, 4);
 
 template <typename Node>
 const Node& only(const Parsed& parsed) {
@@ -45,7 +39,7 @@ TEST(Refresh, RefusesBothParenthesesAtItsOwnLine) {
 }
 
 TEST(If, RefusesAMissingConditionAtTheTokenBehindIt) {
-    EXPECT_TRUE(refusedTokens({word("எனில்", 2), kColon}, "பொழில்-221", 4));
+    EXPECT_TRUE(refusedTokens({word("எனில்", 2), kFourthColon}, "பொழில்-221", 4));
     EXPECT_TRUE(refusedTokens({word("எனில்", 2), mark(TokenType::NEWLINE, 3)}, "பொழில்-221", 3));
     EXPECT_TRUE(refusedTokens({word("எனில்", 2)}, "பொழில்-201", 9));
 }
@@ -82,7 +76,7 @@ TEST(If, ReadsTheDisplayStatesColonAsAnAssignment) {
 }
 
 TEST(While, RefusesAMissingConditionAtTheTokenBehindIt) {
-    EXPECT_TRUE(refusedTokens({word("சுற்று", 2), kColon}, "பொழில்-222", 4));
+    EXPECT_TRUE(refusedTokens({word("சுற்று", 2), kFourthColon}, "பொழில்-222", 4));
     EXPECT_TRUE(refusedTokens({word("சுற்று", 2), mark(TokenType::NEWLINE, 3)}, "பொழில்-222", 3));
     EXPECT_TRUE(refusedTokens({word("சுற்று", 2), name("அ", 3), word("விடு", 5)}, "பொழில்-202", 5));
 }
@@ -109,28 +103,29 @@ TEST(Switch, RefusesItsHeaderAtTheWordsLine) {
     const Token choice = word("தேர்வு", 2);
     const Token end = mark(TokenType::NEWLINE, 5);
     EXPECT_TRUE(refusedTokens({choice, name("அ", 3), end}, "பொழில்-202", 2));
-    EXPECT_TRUE(refusedTokens({choice, name("அ", 3), kColon, word("நிலை", 5)}, "பொழில்-202", 2));
     EXPECT_TRUE(
-        refusedTokens({choice, name("அ", 3), kColon, end, end, word("நிலை", 7)}, "பொழில்-202", 2));
+        refusedTokens({choice, name("அ", 3), kFourthColon, word("நிலை", 5)}, "பொழில்-202", 2));
+    EXPECT_TRUE(refusedTokens({choice, name("அ", 3), kFourthColon, end, end, word("நிலை", 7)},
+                              "பொழில்-202", 2));
 }
 
 TEST(Switch, PassesLineEndsBehindItsHeader) {
     const Token end = mark(TokenType::NEWLINE, 2);
-    EXPECT_EQ(treeOf(parserOver({word("தேர்வு"), name("அ"), kColon, end, end, end,
+    EXPECT_EQ(treeOf(parserOver({word("தேர்வு"), name("அ"), kFourthColon, end, end, end,
                                  mark(TokenType::INDENT), mark(TokenType::DEDENT)})
                          .parseStatement(false)),
               "switch\n  subject\n    name அ @1\n");
 }
 
 TEST(Switch, NeedsItsDedent) {
-    EXPECT_TRUE(refusedTokens({word("தேர்வு"), name("அ"), kColon, mark(TokenType::NEWLINE),
+    EXPECT_TRUE(refusedTokens({word("தேர்வு"), name("அ"), kFourthColon, mark(TokenType::NEWLINE),
                                mark(TokenType::INDENT), mark(TokenType::NEWLINE)},
                               "பொழில்-292", 9));
 }
 
 TEST(Switch, RefusesAnythingButItsWords) {
-    const std::vector<Token> header = {word("தேர்வு"), name("அ"), kColon, mark(TokenType::NEWLINE),
-                                       mark(TokenType::INDENT)};
+    const std::vector<Token> header = {word("தேர்வு"), name("அ"), kFourthColon,
+                                       mark(TokenType::NEWLINE), mark(TokenType::INDENT)};
     for (const Token& stray : {word("விடு", 6), name("நிலை", 6), name("மற்றவை", 6),
                                mark(TokenType::INDENT, 6), mark(TokenType::COLON, 6)}) {
         std::vector<Token> tokens = header;
@@ -143,8 +138,8 @@ TEST(Switch, RefusesASecondDefaultBehindItsColon) {
     const std::vector<Token> block = {mark(TokenType::NEWLINE), mark(TokenType::INDENT),
                                       word("விடு"), mark(TokenType::DEDENT)};
     std::vector<Token> tokens = {
-        word("தேர்வு"),           name("அ"),     kColon, mark(TokenType::NEWLINE),
-        mark(TokenType::INDENT), word("மற்றவை"), kColon};
+        word("தேர்வு"),           name("அ"),     kFourthColon, mark(TokenType::NEWLINE),
+        mark(TokenType::INDENT), word("மற்றவை"), kFourthColon};
     tokens.insert(tokens.end(), block.begin(), block.end());
     tokens.insert(tokens.end(), {word("மற்றவை", 6), mark(TokenType::COLON, 7), number("1", 8)});
     EXPECT_TRUE(refusedTokens(tokens, "பொழில்-225", 8));
@@ -165,14 +160,14 @@ TEST(TryCatch, CallsTheErrorByItsWordUnlessItIsNamed) {
 
 TEST(TryCatch, RefusesItsParenthesisAtThatLine) {
     EXPECT_TRUE(
-        refusedTokens({word("முயற்சி"), kColon, mark(TokenType::NEWLINE), mark(TokenType::INDENT),
-                       word("விடு"), mark(TokenType::DEDENT), word("பிடி", 5),
-                       mark(TokenType::LEFT_PAREN, 6), name("e", 7), name("f", 8)},
+        refusedTokens({word("முயற்சி"), kFourthColon, mark(TokenType::NEWLINE),
+                       mark(TokenType::INDENT), word("விடு"), mark(TokenType::DEDENT),
+                       word("பிடி", 5), mark(TokenType::LEFT_PAREN, 6), name("e", 7), name("f", 8)},
                       "பொழில்-204", 6));
 }
 
 TEST(TryCatch, RefusesAMissingCatchAtTheCurrentLine) {
-    EXPECT_TRUE(refusedTokens({word("முயற்சி"), kColon, mark(TokenType::NEWLINE),
+    EXPECT_TRUE(refusedTokens({word("முயற்சி"), kFourthColon, mark(TokenType::NEWLINE),
                                mark(TokenType::INDENT), mark(TokenType::DEDENT), name("பிடி", 6)},
                               "பொழில்-210", 6));
 }

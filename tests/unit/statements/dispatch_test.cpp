@@ -15,12 +15,6 @@ std::string tree(std::vector<Token> tokens, bool inStruct = false) {
     return treeOfFirst(parserOver(std::move(tokens), 9), inStruct);
 }
 
-/// The first statement's refusal, from tokens.
-testing::AssertionResult refusedTokens(const std::vector<Token>& tokens, const std::string& code,
-                                       int line, bool inStruct = false) {
-    return refuses(code, line, [&] { parserOver(tokens, 9).parseStatement(inStruct); });
-}
-
 testing::AssertionResult refusedFirst(const std::string& source, const std::string& code,
                                       bool inStruct = false) {
     return refuses(code, 1, [&] { parserAt(source).parseStatement(inStruct); });

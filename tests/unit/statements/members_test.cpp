@@ -12,7 +12,7 @@ std::unique_ptr<Statement> declare(const std::string& target, const std::string&
     return parserAt(source).parseVarDeclaration(expressionOf(target), inStruct);
 }
 
-int kindOf(const std::string& value) {
+int memberKindOf(const std::string& value) {
     const auto statement = declare("அ", value);
     const auto* node = dynamic_cast<const VarDeclaration*>(statement.get());
     return node == nullptr ? -1 : static_cast<int>(node->type);
@@ -31,21 +31,21 @@ TEST(VarDeclaration, TakesNameAndValue) {
 }
 
 TEST(VarDeclaration, KnowsTheKindOfLiterals) {
-    EXPECT_EQ(kindOf("[1]"), 7);
-    EXPECT_EQ(kindOf("[]"), 7);
-    EXPECT_EQ(kindOf("{\"அ\": 1}"), 9);
-    EXPECT_EQ(kindOf("{}"), 9);
+    EXPECT_EQ(memberKindOf("[1]"), 7);
+    EXPECT_EQ(memberKindOf("[]"), 7);
+    EXPECT_EQ(memberKindOf("{\"அ\": 1}"), 9);
+    EXPECT_EQ(memberKindOf("{}"), 9);
 }
 
 TEST(VarDeclaration, KnowsTheKindOfTimes) {
-    EXPECT_EQ(kindOf("இப்போதுநேரம்()"), 6);
-    EXPECT_EQ(kindOf("நேரம்.உருவாக்கு(1)"), 6);
-    EXPECT_EQ(kindOf("நேரம்.உருவாக்கு"), 0);
-    EXPECT_EQ(kindOf("இப்போதுநேரம்"), 0);
-    EXPECT_EQ(kindOf("நேரம்.வடிவம்()"), 0);
-    EXPECT_EQ(kindOf("காலங்கள்.உருவாக்கு()"), 0);
-    EXPECT_EQ(kindOf("அ.நேரம்.உருவாக்கு()"), 0);
-    EXPECT_EQ(kindOf("உருவாக்கு()"), 0);
+    EXPECT_EQ(memberKindOf("இப்போதுநேரம்()"), 6);
+    EXPECT_EQ(memberKindOf("நேரம்.உருவாக்கு(1)"), 6);
+    EXPECT_EQ(memberKindOf("நேரம்.உருவாக்கு"), 0);
+    EXPECT_EQ(memberKindOf("இப்போதுநேரம்"), 0);
+    EXPECT_EQ(memberKindOf("நேரம்.வடிவம்()"), 0);
+    EXPECT_EQ(memberKindOf("காலங்கள்.உருவாக்கு()"), 0);
+    EXPECT_EQ(memberKindOf("அ.நேரம்.உருவாக்கு()"), 0);
+    EXPECT_EQ(memberKindOf("உருவாக்கு()"), 0);
 }
 
 TEST(VarDeclaration, KnowsTheKindOfStructures) {
@@ -54,13 +54,13 @@ TEST(VarDeclaration, KnowsTheKindOfStructures) {
     ASSERT_EQ(parser.structDefinitions.count("வீடு"), 1U);
     const auto statement = parser.parseVarDeclaration(expressionOf("அ"), false);
     EXPECT_EQ(dynamic_cast<const VarDeclaration&>(*statement).type, VarType::Object);
-    EXPECT_EQ(kindOf("வீடு(1)"), 0);
+    EXPECT_EQ(memberKindOf("வீடு(1)"), 0);
 }
 
 TEST(VarDeclaration, LeavesOtherKindsOpen) {
     for (const char* const value :
          {"1", "1.5", "\"உரை\"", "'அ'", "மெய்", "ஆ", "([1])", "(ஆ) => ஆ", "[1] கூட்டு [2]"}) {
-        EXPECT_EQ(kindOf(value), 0) << value;
+        EXPECT_EQ(memberKindOf(value), 0) << value;
     }
 }
 

@@ -18,6 +18,13 @@ inline Token text(const std::string& content, int line = 1) {
     return {TokenType::STRING, content, line};
 }
 
+/// The refusal of the statement that `tokens` begin; the text ends on line 9.
+inline testing::AssertionResult refusedTokens(const std::vector<Token>& tokens,
+                                              const std::string& code, int line,
+                                              bool inStruct = false) {
+    return refuses(code, line, [&] { parserOver(tokens, 9).parseStatement(inStruct); });
+}
+
 /// A parser at the first token of `source`.
 inline Parser parserAt(const std::string& source) { return Parser(scan(source), source, "test"); }
 

@@ -5,16 +5,10 @@
 #include <algorithm>
 
 #include "support/deep_stack.h"
+#include "support/repeated.h"
 #include "unit/statements/parsing.h"
 
 namespace {
-
-std::string repeated(const std::string& part, int count) {
-    std::string text;
-    text.reserve(part.size() * static_cast<std::size_t>(count));
-    for (int i = 0; i < count; i++) text += part;
-    return text;
-}
 
 std::string nested(const std::string& header, int depth) {
     std::string source;

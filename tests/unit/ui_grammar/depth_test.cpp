@@ -1,15 +1,10 @@
 // Size, depth and numbers that don't convert: a report or a driver's line, never a crash or a hang.
 #include <gtest/gtest.h>
 
+#include "support/repeated.h"
 #include "unit/ui_grammar/widget_sources.h"
 
 namespace {
-
-std::string repeated(const std::string& text, int count) {
-    std::string all;
-    for (int i = 0; i < count; i++) all += text;
-    return all;
-}
 
 const int kDeep = 5000;
 const int kMany = 100000;

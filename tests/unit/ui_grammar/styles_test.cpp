@@ -15,19 +15,19 @@ int alignmentOf(const std::string& source) {
     return static_cast<int>(WidgetSource(source).node().alignment);
 }
 
-std::string written(const std::string& word) { return "சீரமைப்பு: " + word; }
+std::string alignedTo(const std::string& word) { return "சீரமைப்பு: " + word; }
 
 TEST(Alignment, HasNineWordsInOrder) {
     int value = 0;
     for (const std::string word : kAlignments) {
-        EXPECT_EQ(alignmentOf("உரை(" + written(word) + ")"), value) << word;
-        EXPECT_EQ(alignmentOf("உரை(" + written("இடம்." + word) + ")"), value) << word;
-        EXPECT_EQ(alignmentOf("நெடுவரிசை(" + written(word) + ")"), value) << word;
-        EXPECT_EQ(alignmentOf("கிடைவரிசை(" + written(word) + ")"), value) << word;
-        EXPECT_EQ(alignmentOf("அடுக்கி(" + written(word) + ")"), value) << word;
-        EXPECT_EQ(alignmentOf("பெட்டி(" + written(word) + ")()"), value) << word;
-        EXPECT_EQ(alignmentOf("அட்டை(" + written(word) + ")"), value) << word;
-        EXPECT_EQ(alignmentOf("எச்சரிக்கை(" + written(word) + ")"), value) << word;
+        EXPECT_EQ(alignmentOf("உரை(" + alignedTo(word) + ")"), value) << word;
+        EXPECT_EQ(alignmentOf("உரை(" + alignedTo("இடம்." + word) + ")"), value) << word;
+        EXPECT_EQ(alignmentOf("நெடுவரிசை(" + alignedTo(word) + ")"), value) << word;
+        EXPECT_EQ(alignmentOf("கிடைவரிசை(" + alignedTo(word) + ")"), value) << word;
+        EXPECT_EQ(alignmentOf("அடுக்கி(" + alignedTo(word) + ")"), value) << word;
+        EXPECT_EQ(alignmentOf("பெட்டி(" + alignedTo(word) + ")()"), value) << word;
+        EXPECT_EQ(alignmentOf("அட்டை(" + alignedTo(word) + ")"), value) << word;
+        EXPECT_EQ(alignmentOf("எச்சரிக்கை(" + alignedTo(word) + ")"), value) << word;
         value++;
     }
 }
@@ -35,9 +35,10 @@ TEST(Alignment, HasNineWordsInOrder) {
 TEST(Alignment, KeepsItsValueBehindAnythingElse) {
     const char* const others[] = {"\"மையம்\"", "4", "நடு", "மையம்()", "[மையம்]", "(மையம்)", "மெய்"};
     for (const std::string other : others) {
-        EXPECT_EQ(alignmentOf("உரை(" + written(other) + ")"), 0) << other;
-        EXPECT_EQ(alignmentOf("எச்சரிக்கை(" + written(other) + ")"), 4) << other;
-        EXPECT_EQ(alignmentOf("உரை(" + written("மையம்") + ", " + written(other) + ")"), 4) << other;
+        EXPECT_EQ(alignmentOf("உரை(" + alignedTo(other) + ")"), 0) << other;
+        EXPECT_EQ(alignmentOf("எச்சரிக்கை(" + alignedTo(other) + ")"), 4) << other;
+        EXPECT_EQ(alignmentOf("உரை(" + alignedTo("மையம்") + ", " + alignedTo(other) + ")"), 4)
+            << other;
     }
 }
 

@@ -16,7 +16,7 @@ struct WordRow {
     bool carriesLine;
     bool isChildOfGeneric;
 };
-const WordRow kWords[] = {
+const WordRow kVocabulary[] = {
     {"நெடுவரிசை", typeid(ColumnNode), "நெடுவரிசை", false, true},
     {"கிடைவரிசை", typeid(RowNode), "கிடைவரிசை", false, true},
     {"அடுக்கி", typeid(WidgetNode), "அடுக்கி", false, true},
@@ -67,7 +67,7 @@ std::string groupsOf(const WordRow& row) {
 }
 
 TEST(WidgetWord, MakesItsNodeWhereAWidgetIsExpected) {
-    for (const WordRow& row : kWords) {
+    for (const WordRow& row : kVocabulary) {
         SCOPED_TRACE(row.word);
         const WidgetSource source("நெடுவரிசை(\n    " + std::string(row.word) + groupsOf(row) +
                                   "\n)\n");
@@ -86,14 +86,14 @@ TEST(WidgetWord, MakesItsNodeWhereAWidgetIsExpected) {
 }
 
 TEST(WidgetWord, IsTheRootOfABody) {
-    for (const WordRow& row : kWords) {
+    for (const WordRow& row : kVocabulary) {
         const std::string root = row.word + groupsOf(row);
         EXPECT_TRUE(accepted("வலைதளம்(தலைமை() வரையறை() குமரி(" + root + "))\n")) << row.word;
     }
 }
 
 TEST(WidgetWord, IsAChildOfAGenericWidgetIfItIsKnown) {
-    for (const WordRow& row : kWords) {
+    for (const WordRow& row : kVocabulary) {
         SCOPED_TRACE(row.word);
         const std::string source = std::string("பொத்தான்(") + row.word + groupsOf(row) + ")\n";
         if (row.nodeClass == typeid(FlexibleNode) && !row.isChildOfGeneric) {
@@ -107,7 +107,7 @@ TEST(WidgetWord, IsAChildOfAGenericWidgetIfItIsKnown) {
 }
 
 TEST(WidgetWord, KeepsItsAlignmentUnlessItIsAnAlert) {
-    for (const WordRow& row : kWords) {
+    for (const WordRow& row : kVocabulary) {
         const WidgetSource source(std::string("நெடுவரிசை(") + row.word + groupsOf(row) + ")\n");
         const bool isAlert = source.child().name == "எச்சரிக்கை";
         EXPECT_EQ(static_cast<int>(source.child().alignment), isAlert ? 4 : 0) << row.word;
@@ -116,7 +116,7 @@ TEST(WidgetWord, KeepsItsAlignmentUnlessItIsAnAlert) {
 
 /// A layout word is known by its text too where the scanner gave it no kind.
 TEST(WidgetWord, IsKnownAsAPlainWord) {
-    for (const WordRow& row : kWords) {
+    for (const WordRow& row : kVocabulary) {
         SCOPED_TRACE(row.word);
         Parser parser =
             parserOver(scanAs(TokenType::IDENTIFIER, {row.word}, row.word + groupsOf(row)));
@@ -140,7 +140,7 @@ TEST(WidgetWord, WithItsOwnItemsIsKnownAsAPlainWord) {
 
 /// The word's parenthesis may stand on a later line, a padding's alone may not.
 TEST(WidgetWord, MayStandAboveItsParenthesis) {
-    for (const WordRow& row : kWords) {
+    for (const WordRow& row : kVocabulary) {
         const std::string widget = row.word + ("\n\n" + groupsOf(row));
         const std::string source = "நெடுவரிசை(\n" + widget + ")\n";
         const bool isPadding = row.nodeClass == typeid(PaddingNode);
@@ -150,7 +150,7 @@ TEST(WidgetWord, MayStandAboveItsParenthesis) {
 
 /// A layout widget tells of its missing parenthesis at its word, the others where it should stand.
 TEST(WidgetWord, NeedsItsParenthesisUnlessItIsASpacer) {
-    for (const WordRow& row : kWords) {
+    for (const WordRow& row : kVocabulary) {
         const std::string source = "நெடுவரிசை(\n" + std::string(row.word) + "\n)\n";
         if (row.word == std::string("வெற்றிடம்")) {
             EXPECT_TRUE(accepted(source));
