@@ -41,5 +41,6 @@ run_quietly "பொழிலின் துணைக் கோப்புக�
 objects=$!
 trap 'wait "$objects" || true' EXIT
 configure release
-run_quietly "பொழிலைக் கட்ட முடியவில்லை." cmake --build --preset release --target pozhil
+build_with_progress "பொழிலைக் கட்ட முடியவில்லை." "🔨 பொழில் கட்டப்படுகிறது:" \
+    cmake --build --preset release --target pozhil
 wait "$objects" || exit 1

@@ -20,6 +20,7 @@ cd "$root"
 scripts/build_release.sh
 # The compiler at the root looks for the library in this checkout, the installed one beside itself.
 configure install "-DCMAKE_INSTALL_PREFIX=$prefix" "-DPOZHIL_LIBRARY_DIR=$prefix/lib/pozhil/"
-run_quietly "பொழிலைக் கட்ட முடியவில்லை." cmake --build --preset install --target pozhil
+build_with_progress "பொழிலைக் கட்ட முடியவில்லை." "🔨 பொழில் கட்டப்படுகிறது:" \
+    cmake --build --preset install --target pozhil
 run_quietly "'$prefix' கோப்புறையில் நிறுவ முடியவில்லை." cmake --install build/install
 say "✅ நிறுவப்பட்டது: $prefix/bin/பொழில்"

@@ -108,6 +108,21 @@ TEST_F(BuildScript, KeepsWhatWasConfiguredByHand) {
     EXPECT_EQ(configured(), "my own\n");
 }
 
+TEST_F(BuildScript, ShowsItsProgressOnATerminalAlone) {
+    const std::string script = (home / "scripts" / "build_release.sh").u8string();
+    const ProcessResult seen = runCommand(
+        {"script", "--quiet", "--return", "--command", "bash '" + script + "'", "/dev/null"},
+        {work.u8string(), {"TMPDIR=" + (root / "tmp").u8string()}, "", 60});
+    EXPECT_EQ(seen.exitCode, 0) << seen.err;
+    EXPECT_NE(seen.out.find("\r\033[2m🔨 பொழில் கட்டப்படுகிறது: 100%\033[0m\r\033[K"),
+              std::string::npos)
+        << seen.out;
+    fs::remove_all(home / "build");
+    const ProcessResult noted = build();
+    EXPECT_EQ(noted.exitCode, 0) << noted.err;
+    EXPECT_EQ(noted.err.find('%'), std::string::npos) << noted.err;
+}
+
 TEST_F(BuildScript, TellsWhatFailed) {
     standIn(home / "scripts" / "prepare_objects.sh", "echo குறை >&2; exit 1");
     ProcessResult result = build();
