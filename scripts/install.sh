@@ -23,4 +23,7 @@ configure install "-DCMAKE_INSTALL_PREFIX=$prefix" "-DPOZHIL_LIBRARY_DIR=$prefix
 build_with_progress "பொழிலைக் கட்ட முடியவில்லை." "🔨 பொழில் கட்டப்படுகிறது:" \
     cmake --build --preset install --target pozhil
 run_quietly "'$prefix' கோப்புறையில் நிறுவ முடியவில்லை." cmake --install build/install
+# What it prepares for em++ knows the folder in which it lies, so it is made there.
+installed="$prefix/lib/pozhil"
+[ ! -f "$installed/திரட்டு/error_handler_web.o" ] || scripts/warm_web.sh "$installed" || true
 say "✅ நிறுவப்பட்டது: $prefix/bin/பொழில்"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # setup_web.sh: what web applications are built with: em++, NanoVG and NanoSVG, their headers under
 # உள்ளடக்கம்/nanovg, and the two objects in திரட்டு that every application links. Objects are remade
-# when em++ or a source changes. With nothing to do it takes a few milliseconds.
+# when em++ or a source changes, and so is what warm_web.sh prepares. With nothing to do it takes a few milliseconds.
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
@@ -83,12 +83,16 @@ make_objects() {
         mv -f "$new"/*.o "$objects" && rmdir "$new"
 }
 
-is_fresh && exit 0
+# Without what is warmed applications are built all the same, only slower.
+if is_fresh; then
+    scripts/warm_web.sh || true
+    exit
+fi
 { [ -w "$objects" ] && mkdir -p build 2>/dev/null && [ -w build ]; } ||
     refuse "வலைதளங்களுக்கான துணைக் கோப்புகள் இல்லை; '$root' கோப்புறையில் எழுத உமக்கு உரிமை இல்லை."
 exec 8>build/web.lock
 flock 8  # two first runs at a time would build over each other
-is_fresh && exit 0
+if is_fresh; then exec scripts/warm_web.sh; fi
 
 work=$(mktemp -d)
 trap 'rm -rf "$work" "$objects/web.new"' EXIT
@@ -98,3 +102,4 @@ has_sources || fetch_sources
 say "🔨 வலைதளங்களுக்கான துணைக் கோப்புகள் உருவாக்கப்படுகின்றன..."
 run_quietly "வலைதளங்களுக்கான துணைக் கோப்புகளை உருவாக்க முடியவில்லை (em++)." make_objects
 identity >"$stamp"
+scripts/warm_web.sh || true

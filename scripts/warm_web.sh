@@ -1,0 +1,96 @@
+#!/usr/bin/env bash
+# warm_web.sh [FOLDER]: precompiles for em++ what every web application's text begins with and uses,
+# so that em++ builds an application in half the time. FOLDER holds the compiler with its
+# companions; without one, this checkout. What is made lies in FOLDER/திரட்டு/warmed_web: the headers
+# (src/warmed_web.h), the object of all that they instantiate, and `fits`, a list of the files that
+# both depend on, em++ first. The compiler hands them to em++ while each of these is as it was, and
+# builds without them otherwise. Remade when one of them changes; else it costs milliseconds.
+set -euo pipefail
+
+headers=headers.h.pch
+object=instances.o
+
+# em++ starts clang by this script: the command that makes the headers is given once more, for their
+# object. So both are made by the same clang with the same flags.
+if [ "${1:-}" = --compile ]; then
+    shift
+    "$@"
+    words=()
+    for word; do
+        case "$word" in
+            c++-header) words+=(none) ;;
+            */warmed_web.h) words+=(-c "$POZHIL_WARMED/$headers") ;;
+            */"$headers") words+=("$POZHIL_WARMED/$object") ;;
+            *) words+=("$word") ;;
+        esac
+    done
+    exec "${words[@]}"
+fi
+
+script=$(readlink -f "${BASH_SOURCE[0]}")
+root=$(CDPATH="" cd "${1:-$(dirname "$script")/..}" && pwd -P)
+# shellcheck source=scripts/messages.sh
+. "${script%/*}/messages.sh"
+include="$root/உள்ளடக்கம்"
+warmed="$root/திரட்டு/warmed_web"
+source="$root/src/warmed_web.h"
+compiler=$(readlink -f "$(command -v em++)") || exit 0
+recipe=$(cksum <"$script")
+
+# Of the files that are named, those that are there, each as it is found: size and time.
+state() { xargs -d '\n' stat -Lc '%s %Y %n' -- 2>/dev/null; }
+
+# holds LIST: the files that it names are as they were, and so are the compiler and this script.
+holds() {
+    [ -f "$1" ] && [ "$(cat "$warmed/recipe" 2>/dev/null)" = "$recipe" ] || return 1
+    [ "$(sed -n 1p "$1" | cut -d ' ' -f 3-)" = "$compiler" ] || return 1
+    cut -d ' ' -f 3- "$1" | state | cmp -s - "$1"
+}
+is_done() { holds "$warmed/fits" || holds "$warmed/refused"; }
+
+# What both depend on: the compiler, the two, and every header that was read.
+name_files() {
+    printf '%s\n' "$compiler" "$warmed/$headers" "$warmed/$object"
+    printf '%s\n' "${compiler%/*}/emscripten-version.txt" "$source"
+    sed -n 's/^\.\.* //p' "$work/read" | sort -u
+}
+
+# The flags that decide whether the headers fit are those of the compiler's own em++ command.
+compile() {
+    local flags=(-std=c++17 -finput-charset=UTF-8 -I"$include" -I"$include/nanovg")
+    printf '#!/bin/sh\nexec bash %q --compile "$@"\n' "$script" >"$work/clang"
+    chmod +x "$work/clang"
+    EM_COMPILER_WRAPPER="$work/clang" POZHIL_WARMED="$work" em++ -x c++-header "$source" \
+        -o "$work/$headers" "${flags[@]}" -I"$root/src" \
+        -fpch-instantiate-templates -fpch-codegen -w -H 2>"$work/read" || return 1
+    [ -s "$work/$headers" ] && [ -s "$work/$object" ] || return 1
+    # It must be accepted too.
+    : >"$work/empty.cpp"
+    em++ -c "$work/empty.cpp" -o "$work/empty.o" "${flags[@]}" -include "$work/${headers%.pch}"
+}
+
+is_done && exit 0
+[ -w "$root/திரட்டு" ] || exit 0 # applications take longer then
+mkdir -p "$warmed"
+exec 9<"$warmed"
+flock 9 # two runs at a time would mix the headers of one with the object of the other
+is_done && exit 0
+
+say "🔥 வலைதளங்களின் பொதுப் பகுதி முன்கூட்டியே தொகுக்கப்படுகிறது..."
+rm -rf "$warmed"/new.* # of a run that was killed
+work=$(mktemp -d "$warmed/new.XXXXXX")
+trap 'rm -rf "$work"' EXIT
+# A stale one must not outlive a failure here.
+rm -f "$warmed"/{fits,refused,recipe}
+printf '%s\n' "$recipe" >"$work/recipe"
+unset EMCC_CFLAGS
+if compile >"$work/said" 2>&1; then
+    chmod 644 "$work/$headers" "$work/$object"
+    mv -f "$work/$headers" "$work/$object" "$work/recipe" "$warmed"
+    name_files | state >"$work/fits" || true # the file of the version needn't be there
+    mv -f "$work/fits" "$warmed/fits"
+else
+    # Not tried again with the same compiler, or each start would wait for it.
+    printf '%s\n' "$compiler" "$source" | state >"$work/refused"
+    mv -f "$work/recipe" "$work/refused" "$warmed"
+fi
