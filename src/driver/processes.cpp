@@ -14,6 +14,8 @@
 #include <filesystem>
 #include <iostream>
 #include <sstream>
+#include <string_view>
+#include <vector>
 
 #include "driver/paths.h"
 
@@ -52,8 +54,24 @@ sigset_t interrupts() {
 /// The terminal as it stands, or a process group of its own, which may not read from it.
 enum class Place { kTerminal, kOwnGroup };
 
+/// This process's environment, with `setting` in the place of what it holds under that name. What
+/// comes back is borrowed from both.
+std::vector<char*> environmentWith(std::string& setting) {
+    const std::string name = setting.substr(0, setting.find('=') + 1);
+    std::vector<char*> settings;
+    for (char** one = environ; *one != nullptr; one++) {
+        if (name.empty() || std::string_view(*one).substr(0, name.size()) != name) {
+            settings.push_back(*one);
+        }
+    }
+    if (!setting.empty()) settings.push_back(setting.data());
+    settings.push_back(nullptr);
+    return settings;
+}
+
 /// A shell that runs `command`; -1 if there can't be one.
-pid_t startShell(const std::string& command, Place place, const sigset_t& mask) {
+pid_t startShell(const std::string& command, Place place, const sigset_t& mask,
+                 std::string setting = "") {
     posix_spawn_file_actions_t files;
     posix_spawn_file_actions_init(&files);
     posix_spawnattr_t attributes;
@@ -69,7 +87,10 @@ pid_t startShell(const std::string& command, Place place, const sigset_t& mask) 
     std::string words[] = {"sh", "-c", command};
     char* const arguments[] = {words[0].data(), words[1].data(), words[2].data(), nullptr};
     pid_t child = -1;
-    if (posix_spawn(&child, "/bin/sh", &files, &attributes, arguments, environ) != 0) child = -1;
+    const std::vector<char*> settings = environmentWith(setting);
+    if (posix_spawn(&child, "/bin/sh", &files, &attributes, arguments, settings.data()) != 0) {
+        child = -1;
+    }
     posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&files);
     return child;
@@ -167,13 +188,13 @@ int runProgram(const std::string& path, const std::function<void()>& started) {
     return waitFor(child);
 }
 
-int runStoppable(const std::string& command) {
+int runStoppable(const std::string& command, const std::string& setting) {
     std::cout.flush();
     pid_t child = -1;
     {
         const HeldInterrupts held;  // or the handler would wait for what it interrupts
         g_group = kGroupIsStarting;
-        child = startShell(command, Place::kOwnGroup, held.maskOfCommands());
+        child = startShell(command, Place::kOwnGroup, held.maskOfCommands(), setting);
         g_group = child > 0 ? child : kNoGroup;
     }
     const int status = waitFor(child);
@@ -189,13 +210,17 @@ void endCommands() {
     if (g_group != kNoGroup) endGroup(g_group);
 }
 
-bool isInstalled(const std::string& program) {
+std::string findProgram(const std::string& program) {
     const char* path = std::getenv("PATH");
     std::istringstream directories(path != nullptr ? path : kDefaultSearchPath);
     for (std::string directory; std::getline(directories, directory, ':');) {
         const fs::path file = fs::u8path(directory) / program;  // an empty one is where we stand
         std::error_code ignored;
-        if (fs::is_regular_file(file, ignored) && access(file.c_str(), X_OK) == 0) return true;
+        if (fs::is_regular_file(file, ignored) && access(file.c_str(), X_OK) == 0) {
+            return file.u8string();
+        }
     }
-    return false;
+    return "";
 }
+
+bool isInstalled(const std::string& program) { return !findProgram(program).empty(); }

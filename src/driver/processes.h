@@ -35,8 +35,9 @@ int run_command(const std::string& command);
 int runProgram(const std::string& path, const std::function<void()>& started);
 
 /// As run_command, but Ctrl+C reaches this process at once and the command not at all: it and all
-/// that it starts are a process group of their own, for endCommands to end.
-int runStoppable(const std::string& command);
+/// that it starts are a process group of their own, for endCommands to end. `setting`, a
+/// "NAME=value" for the environment of the command alone, takes the place of one of that name.
+int runStoppable(const std::string& command, const std::string& setting = "");
 
 /// Begins the end of this process: from here on runStoppable doesn't return. False if it has
 /// begun. This and endCommands are for a signal handler, on whichever thread.
@@ -44,6 +45,9 @@ bool startEnding();
 
 /// Ends what runStoppable runs, with all that it started: gently, and after a second by force.
 void endCommands();
+
+/// Where the shell would find `program` by PATH; empty if it wouldn't.
+std::string findProgram(const std::string& program);
 
 /// True if the shell would find `program` by PATH.
 bool isInstalled(const std::string& program);

@@ -10,6 +10,7 @@
 #include "driver/paths.h"
 #include "driver/processes.h"
 #include "driver/served_page.h"
+#include "driver/warmed_web.h"
 
 namespace fs = std::filesystem;
 
@@ -43,6 +44,18 @@ bool readTemplate(const std::string& appDirectory, std::string& page) {
 /// Throws if one can't be removed; a missing one is no error.
 void removeOldOutput() {
     for (const char* file : kOutputFiles) fs::remove(fs::u8path(file));
+}
+
+/// What is prepared for em++ may be refused although it looks right. A build never fails for that:
+/// it is made again without, and so are the later ones.
+int runCompiler(const std::string& command, const std::string& objectDirectory) {
+    static bool isRefused = false;
+    const std::string setting = isRefused ? "" : warmedSetting(objectDirectory);
+    const int status = runStoppable(command, setting);
+    if (status == 0 || setting.empty()) return status;
+    const int bareStatus = runStoppable(command);
+    isRefused = bareStatus == 0;
+    return bareStatus;
 }
 
 bool reportFailedBuild(const WebBuild& build) {
@@ -83,10 +96,11 @@ bool buildWebApplication(const Program& program, const std::string& code, const 
 
     const std::string preload = preloadFlags(program);
     removeOldOutput();
-    const int status =
-        runStoppable(webCommand(source, getSafeMinGWPath(build.appDirectory + "/உள்ளடக்கம்"),
-                                getSafeMinGWPath(build.appDirectory + "/திரட்டு"), preload,
-                                fs::current_path().u8string() + "/வெளியீடு/index.js"));
+    const std::string objectDirectory = getSafeMinGWPath(build.appDirectory + "/திரட்டு");
+    const std::string command =
+        webCommand(source, getSafeMinGWPath(build.appDirectory + "/உள்ளடக்கம்"), objectDirectory,
+                   preload, fs::current_path().u8string() + "/வெளியீடு/index.js");
+    const int status = runCompiler(command, objectDirectory);
     if (status != 0) return reportFailedBuild(build);
     g_appVersion.exchange(version);
     return true;

@@ -1,9 +1,6 @@
 // The web build with an em++ that does as it is told: files, command, page and counter.
-#include "driver/served_page.h"
-#include "driver/web_build.h"
 #include "web/odd_names.h"
-#include "web/scratch_directory.h"
-#include "web/tree.h"
+#include "web/web_build_test.h"
 
 namespace fs = std::filesystem;
 
@@ -14,47 +11,6 @@ const std::string kFailure =
     "\033[1;33m💡 குறிப்பு: உமது பொழிலின் கட்டமைப்பை (Syntax) ஒருமுறை சரிபார்க்கவும்.\033[0m\n";
 
 const int kFirstNumber = g_appVersion.load();
-
-class WebBuildTest : public ScratchDirectory {
-protected:
-    WebBuildTest()
-        : path(std::getenv("PATH")),
-          here(directory.u8string()),
-          build{here + "/app", here + "/cache"} {
-        fs::create_directory("cache");
-        fs::create_directory("வெளியீடு");
-        write("app/உள்ளடக்கம்/template.html", "{{{ இணைய_தலைப்பு }}}<body>{{{ SCRIPT }}}</body>");
-        setenv("PATH", (here + "/bin:" + path).c_str(), 1);
-        compilerSays("exit 0");
-        storePage("");
-        g_appVersion = 1;
-    }
-
-    ~WebBuildTest() override { setenv("PATH", path.c_str(), 1); }
-
-    /// An em++ that notes its arguments, each in square brackets, and runs `script`.
-    void compilerSays(const std::string& script) const {
-        write("bin/em++", "#!/bin/sh\n{ printf '[%s]' \"$@\"; echo; } >>'" + here + "/calls'\n" +
-                              script + "\n");
-        fs::permissions("bin/em++", static_cast<fs::perms>(0755));
-    }
-
-    bool run(const std::string& code = "// நிரல்\n") const {
-        testing::internal::CaptureStdout();
-        testing::internal::CaptureStderr();
-        const bool built = buildWebApplication(tree, code, build);
-        out = testing::internal::GetCapturedStdout();
-        err = testing::internal::GetCapturedStderr();
-        return built;
-    }
-
-    const std::string path;
-    const std::string here;
-    const WebBuild build;
-    Program tree = program(application(head(properties(entry("இணைய_தலைப்பு", text("த"))))));
-    mutable std::string out;
-    mutable std::string err;
-};
 
 TEST_F(WebBuildTest, WritesTheTextAndCallsTheCompiler) {
     write("படம்.png", "x");

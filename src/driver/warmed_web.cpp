@@ -1,0 +1,91 @@
+#include "driver/warmed_web.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <locale>
+#include <vector>
+
+#include "driver/processes.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kCompiler = "em++";
+
+/// By these users tell em++ or its clang what to do; headers made without them may not fit.
+constexpr const char* kSettingsOfUsers[] = {
+    "EMCC_CFLAGS",         "EM_CONFIG", "EM_CACHE",           "EM_LLVM_ROOT",
+    "EM_COMPILER_WRAPPER", "CPATH",     "CPLUS_INCLUDE_PATH", "CCC_OVERRIDE_OPTIONS",
+};
+
+/// A line of the list `fits`: "SIZE TIME PATH", the time in seconds.
+struct Dependency {
+    long long size = 0;
+    long long time = 0;
+    std::string path;
+};
+
+bool isSet(const char* name) {
+    const char* value = std::getenv(name);
+    return value != nullptr && *value != '\0';
+}
+
+std::vector<Dependency> readDependencies(const std::string& list) {
+    std::ifstream stream(fs::u8path(list));
+    stream.imbue(std::locale::classic());
+    std::vector<Dependency> dependencies;
+    for (Dependency one;
+         stream >> one.size >> one.time && stream.get() == ' ' && std::getline(stream, one.path);) {
+        dependencies.push_back(one);
+    }
+    return dependencies;
+}
+
+bool isAsItWas(const Dependency& file) {
+    struct stat now = {};
+    return stat(file.path.c_str(), &now) == 0 && now.st_size == file.size &&
+           now.st_mtime == file.time;
+}
+
+bool isInstalledCompiler(const std::string& path) {
+    std::error_code ignored;
+    return fs::canonical(fs::u8path(findProgram(kCompiler)), ignored).u8string() == path;
+}
+
+/// The list begins with the compiler and the two prepared files: where they lie now, not in a
+/// folder from which they were moved or copied.
+bool areFit(const std::vector<Dependency>& files, const std::string& headers,
+            const std::string& object) {
+    return files.size() > 3 && isInstalledCompiler(files[0].path) && files[1].path == headers &&
+           files[2].path == object && std::all_of(files.begin(), files.end(), isAsItWas);
+}
+
+/// `path` as one word of a list of flags, which em++ reads as a shell would.
+std::string asFlag(const std::string& path) {
+    std::string flag = "'";
+    for (const char byte : path) {
+        if (byte == '\'') {
+            flag += "'\"'\"'";
+        } else {
+            flag += byte;
+        }
+    }
+    return flag + "'";
+}
+
+}  // namespace
+
+std::string warmedSetting(const std::string& objectDirectory) {
+    if (std::any_of(std::begin(kSettingsOfUsers), std::end(kSettingsOfUsers), isSet)) return "";
+    const std::string directory = objectDirectory + "/warmed_web";
+    const std::string header = directory + "/headers.h";  // clang adds the ending by itself
+    const std::string object = directory + "/instances.o";
+    if (!areFit(readDependencies(directory + "/fits"), header + ".pch", object)) return "";
+    return "EMCC_CFLAGS=-include " + asFlag(header) + " " + asFlag(object);
+}
