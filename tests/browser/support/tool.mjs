@@ -5,7 +5,8 @@ import {tmpdir} from 'node:os';
 import {delimiter, join} from 'node:path';
 
 const executableDirectory = required('POZHIL_EXECUTABLE_DIR');
-const emxx = execFileSync('bash', ['-c', 'command -v em++'], {encoding: 'utf8'}).trim();
+// By its own path: a stand-in found first would add its start to that of em++.
+const python = execFileSync('python3', ['-c', 'import sys; print(sys.executable)'], {encoding: 'utf8'}).trim();
 
 export const address = 'http://localhost:6931/';
 
@@ -15,7 +16,10 @@ function required(name) {
     return value;
 }
 
-/** A directory with a `bin` that hides the browser opener and notes when em++ runs. */
+/**
+ * A directory with a `bin` that hides the browser opener and notes when em++ runs. That is noted by the
+ * interpreter that em++ starts: the compiler must find em++ itself, for which headers are prepared.
+ */
 export function makeWorkplace() {
     const root = mkdtempSync(join(tmpdir(), 'pozhil-browser-'));
     for (const name of ['bin', 'work', 'tmp']) mkdirSync(join(root, name));
@@ -24,12 +28,13 @@ export function makeWorkplace() {
         chmodSync(join(root, 'bin', name), 0o755);
     };
     script('xdg-open', 'exit 0');
-    script('em++', `[ ! -e '${root}/broken' ] || set -- "$@" missing.o\n` +
+    script('python', `tool=$1; shift\n[ ! -e '${root}/broken' ] || set -- "$@" missing.o\n` +
         `if [ -e '${root}/drawn_by_hand.cpp' ]; then\nfor word; do\n` +
         `[[ $word != *.cpp ]] || sed -i '/if (!bgSet) nvgFillColor/{n;s|$|\\n#include "${root}/drawn_by_hand.cpp"|}' "$word"\n` +
         `done\nfi\n` +
         `echo "start $EPOCHREALTIME" >>'${root}/times'\nprintf '%s\\0' "$@" >'${root}/words'\n` +
-        `'${emxx}' "$@"\nstatus=$?\ntimes >'${root}/spent'\n` +
+        `printf '%s' "$EMCC_CFLAGS" >'${root}/flags'\n` +
+        `'${python}' "$tool" "$@"\nstatus=$?\ntimes >'${root}/spent'\n` +
         `echo "end $EPOCHREALTIME" >>'${root}/times'\nexit $status`);
     return {
         root,
@@ -38,6 +43,7 @@ export function makeWorkplace() {
             ...process.env,
             TMPDIR: join(root, 'tmp'),
             PATH: join(root, 'bin') + delimiter + process.env.PATH,
+            EMSDK_PYTHON: join(root, 'bin', 'python'),
         },
         /** Start and end of each run of em++, in milliseconds since the epoch. */
         compilerTimes() {
@@ -52,6 +58,10 @@ export function makeWorkplace() {
                 words: readFileSync(join(root, 'words'), 'utf8').split('\0').slice(0, -1),
                 seconds: user + system,
             };
+        },
+        /** The flags that the last run of em++ found in its environment. */
+        lastFlags() {
+            return readFileSync(join(root, 'flags'), 'utf8');
         },
         /** From now on em++ misses an object, or no longer does. */
         breakCompiler(broken) {
