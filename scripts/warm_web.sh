@@ -55,18 +55,20 @@ name_files() {
     sed -n 's/^\.\.* //p' "$work/read" | sort -u
 }
 
-# The flags that decide whether the headers fit are those of the compiler's own em++ command.
+# The flags that decide whether the headers fit are those of the compiler's own em++ command. The
+# folder of NanoVG serves names in quotes alone: <iostream> lies there too, for g++, and is renewed.
 compile() {
-    local flags=(-std=c++17 -finput-charset=UTF-8 -I"$include" -I"$include/nanovg")
+    local flags=(-std=c++17 -finput-charset=UTF-8 -I"$include")
     printf '#!/bin/sh\nexec bash %q --compile "$@"\n' "$script" >"$work/clang"
     chmod +x "$work/clang"
     EM_COMPILER_WRAPPER="$work/clang" POZHIL_WARMED="$work" em++ -x c++-header "$source" \
-        -o "$work/$headers" "${flags[@]}" -I"$root/src" \
+        -o "$work/$headers" "${flags[@]}" -iquote "$include/nanovg" -I"$root/src" \
         -fpch-instantiate-templates -fpch-codegen -w -H 2>"$work/read" || return 1
     [ -s "$work/$headers" ] && [ -s "$work/$object" ] || return 1
     # It must be accepted too.
     : >"$work/empty.cpp"
-    em++ -c "$work/empty.cpp" -o "$work/empty.o" "${flags[@]}" -include "$work/${headers%.pch}"
+    em++ -c "$work/empty.cpp" -o "$work/empty.o" "${flags[@]}" -I"$include/nanovg" \
+        -include "$work/${headers%.pch}"
 }
 
 is_done && exit 0
