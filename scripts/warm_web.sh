@@ -32,7 +32,7 @@ root=$(CDPATH="" cd "${1:-$(dirname "$script")/..}" && pwd -P)
 # shellcheck source=scripts/messages.sh
 . "${script%/*}/messages.sh"
 include="$root/உள்ளடக்கம்"
-warmed="$root/திரட்டு/warmed_web"
+warmed=$(readlink -m "$root/திரட்டு/warmed_web")
 source="$root/src/warmed_web.h"
 compiler=$(readlink -f "$(command -v em++)") || exit 0
 recipe=$(cksum <"$script")

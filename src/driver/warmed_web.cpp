@@ -53,17 +53,19 @@ bool isAsItWas(const Dependency& file) {
            now.st_mtime == file.time;
 }
 
-bool isInstalledCompiler(const std::string& path) {
+/// The place itself, to which links may lead; empty if there is none.
+std::string placeOf(const std::string& path) {
     std::error_code ignored;
-    return fs::canonical(fs::u8path(findProgram(kCompiler)), ignored).u8string() == path;
+    return fs::canonical(fs::u8path(path), ignored).u8string();
 }
 
 /// The list begins with the compiler and the two prepared files: where they lie now, not in a
 /// folder from which they were moved or copied.
 bool areFit(const std::vector<Dependency>& files, const std::string& headers,
             const std::string& object) {
-    return files.size() > 3 && isInstalledCompiler(files[0].path) && files[1].path == headers &&
-           files[2].path == object && std::all_of(files.begin(), files.end(), isAsItWas);
+    return files.size() > 3 && files[0].path == placeOf(findProgram(kCompiler)) &&
+           files[1].path == headers && files[2].path == object &&
+           std::all_of(files.begin(), files.end(), isAsItWas);
 }
 
 /// `path` as one word of a list of flags, which em++ reads as a shell would.
@@ -83,7 +85,7 @@ std::string asFlag(const std::string& path) {
 
 std::string warmedSetting(const std::string& objectDirectory) {
     if (std::any_of(std::begin(kSettingsOfUsers), std::end(kSettingsOfUsers), isSet)) return "";
-    const std::string directory = objectDirectory + "/warmed_web";
+    const std::string directory = placeOf(objectDirectory + "/warmed_web");
     const std::string header = directory + "/headers.h";  // clang adds the ending by itself
     const std::string object = directory + "/instances.o";
     if (!areFit(readDependencies(directory + "/fits"), header + ".pch", object)) return "";

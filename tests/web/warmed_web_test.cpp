@@ -149,6 +149,16 @@ TEST_F(WarmedWeb, StaysBehindWhenTheFolderIsCopiedOrMoved) {
     EXPECT_EQ(read("flags"), kBare);
 }
 
+TEST_F(WarmedWeb, IsFoundBehindALink) {
+    fs::create_directory("linked");
+    for (const char* companion : {"உள்ளடக்கம்", "திரட்டு"}) {
+        fs::create_directory_symlink(directory / "app" / fs::u8path(companion),
+                                     directory / "linked" / fs::u8path(companion));
+    }
+    EXPECT_TRUE(buildWebApplication(tree, "", {here + "/linked", here + "/cache"}));
+    EXPECT_EQ(read("flags"), handedOver());
+}
+
 TEST_F(WarmedWeb, RefusedByTheCompilerItIsLeftOutFromThenOn) {
     notesFlags("[ -z \"$EMCC_CFLAGS\" ]");
     prepare(here + "/app");

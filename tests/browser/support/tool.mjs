@@ -34,7 +34,7 @@ export function makeWorkplace() {
         `done\nfi\n` +
         `echo "start $EPOCHREALTIME" >>'${root}/times'\nprintf '%s\\0' "$@" >'${root}/words'\n` +
         `printf '%s' "$EMCC_CFLAGS" >'${root}/flags'\n` +
-        `'${python}' "$tool" "$@"\nstatus=$?\ntimes >'${root}/spent'\n` +
+        `EMSDK_PYTHON='${python}' '${python}' "$tool" "$@"\nstatus=$?\ntimes >'${root}/spent'\n` +
         `echo "end $EPOCHREALTIME" >>'${root}/times'\nexit $status`);
     return {
         root,
