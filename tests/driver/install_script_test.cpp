@@ -21,9 +21,12 @@ TEST_F(Installation, HoldsAllThatACompilerLooksForBesideItself) {
     ASSERT_EQ(result.exitCode, 0) << result.err;
     for (const char* name :
          {"உள்ளடக்கம்/error_codes.h", "உள்ளடக்கம்/error_handler.h", "உள்ளடக்கம்/template.html", "திரட்டு",
-          "src/error_handler.cpp", "தொகுப்புகள்/எண்/எண்.பொழில்", "தொகுப்புகள்/வலைதளம்/வலைதளம்.பொழில்"}) {
+          "src/error_handler.cpp", "src/warmed_web.h", "தொகுப்புகள்/எண்/எண்.பொழில்",
+          "தொகுப்புகள்/வலைதளம்/வலைதளம்.பொழில்"}) {
         EXPECT_TRUE(fs::exists(installed / fs::u8path(name))) << name;
     }
+
+    EXPECT_FALSE(fs::exists(installed / "திரட்டு" / "warmed_web")) << "it fits its own folder alone";
 
     // The diagnostics object can be made again: nothing that its source includes is missing.
     const ProcessResult read = runCommand({"g++", "-E", "-std=c++17", "-DPOZHIL_WITH_INSTANCES",
@@ -76,6 +79,19 @@ TEST_F(InstallScript, LetsTheCompilerLookForTheLibraryBesideItself) {
                   (root / name).u8string() + "/lib/pozhil/\n");
         EXPECT_NE(result.err.find((root / name / "bin" / "பொழில்").u8string()), std::string::npos);
     }
+}
+
+TEST_F(InstallScript, PreparesEmxxWhereWebApplicationsCanBeBuilt) {
+    writeFileText(home / "scripts" / "warm_web.sh",
+                  "#!/bin/sh\necho \"$1\" >>'" + (root / "warmed").u8string() + "'\nexit 1\n");
+    makeExecutable(home / "scripts" / "warm_web.sh");
+    EXPECT_EQ(install({"../without"}).exitCode, 0);
+    EXPECT_FALSE(fs::exists(root / "warmed"));
+    const fs::path folder = root / "with" / "lib" / "pozhil";
+    fs::create_directories(folder / "திரட்டு");
+    writeFileText(folder / "திரட்டு" / "error_handler_web.o", "");
+    EXPECT_EQ(install({"../with"}).exitCode, 0) << "it can do without";
+    EXPECT_EQ(readFileText(root / "warmed"), folder.u8string() + "\n");
 }
 
 TEST_F(InstallScript, RefusesAPlaceThatCannotBe) {
