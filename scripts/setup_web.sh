@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # setup_web.sh: what web applications are built with: em++, NanoVG and NanoSVG, their headers under
-# உள்ளடக்கம்/nanovg, and the two objects in திரட்டு that every application links. Objects are remade
-# when em++ or a source changes, and so is what warm_web.sh prepares. With nothing to do it takes a few milliseconds.
+# உள்ளடக்கம்/nanovg, the two objects in திரட்டு that every application links, and what warm_web.sh
+# prepares. Objects are remade when em++ or a source changes. With nothing to do it takes a tenth of
+# a second.
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"

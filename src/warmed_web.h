@@ -72,6 +72,7 @@ template <class Value>
 void list() {
     std::vector<Value> values;
     std::vector<Value> several(3);
+    const std::vector<Value>& same = values;
     values.push_back(several[0]);
     values.push_back(Value());
     values.emplace_back();
@@ -82,6 +83,8 @@ void list() {
     values.resize(several.size());
     values.reserve(2);
     (void)values.empty();
+    (void)values.data();
+    (void)same[0];
     values.clear();
     walk(values);
     copy(values);
@@ -92,7 +95,7 @@ void dictionary(const Key& key) {
     std::map<Key, Value> entries;
     const std::map<Key, Value>& same = entries;
     entries[key] = Value();
-    entries[Key()] = entries.at(key);
+    entries[Key()] = entries.at(key);  // by a key that may be moved from
     entries.insert({key, same.at(key)});
     entries.erase(entries.find(key));
     entries.erase(key);
@@ -156,7 +159,7 @@ inline void containers(std::string text, List any) {
     dictionary<std::string, int>(text);
     dictionary<std::string, float>(text);
     dictionary<std::string, std::function<void()>>(text);
-    dictionary<int, int>(0);
+    dictionary<int, std::function<void()>>(0);
 
     std::set<std::string> names = {text};
     names.insert(text);
@@ -166,8 +169,10 @@ inline void containers(std::string text, List any) {
     walk(names);
     copy(names);
 
-    std::unordered_map<std::string, float (*)(float)> curves = {{"", nullptr}};
-    curves[text] = nullptr;
+    std::unordered_map<std::string, float (*)(float)> curves;
+    curves = {{"", nullptr}};
+    curves[text] = curves[std::string(text)];
+    (void)curves.empty();
     (void)(curves.find(text) == curves.end());
     (void)curves.count(text);
     (void)பிழை_அகராதி.at(text);
