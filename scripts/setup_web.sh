@@ -84,16 +84,21 @@ make_objects() {
         mv -f "$new"/*.o "$objects" && rmdir "$new"
 }
 
-# Without what is warmed applications are built all the same, only slower.
+# Without what it prepares applications are built all the same, only slower.
+warm() { scripts/warm_web.sh || true; }
+
 if is_fresh; then
-    scripts/warm_web.sh || true
+    warm
     exit
 fi
 { [ -w "$objects" ] && mkdir -p build 2>/dev/null && [ -w build ]; } ||
     refuse "வலைதளங்களுக்கான துணைக் கோப்புகள் இல்லை; '$root' கோப்புறையில் எழுத உமக்கு உரிமை இல்லை."
 exec 8>build/web.lock
 flock 8  # two first runs at a time would build over each other
-if is_fresh; then exec scripts/warm_web.sh; fi
+if is_fresh; then
+    warm
+    exit
+fi
 
 work=$(mktemp -d)
 trap 'rm -rf "$work" "$objects/web.new"' EXIT
@@ -103,4 +108,4 @@ has_sources || fetch_sources
 say "🔨 வலைதளங்களுக்கான துணைக் கோப்புகள் உருவாக்கப்படுகின்றன..."
 run_quietly "வலைதளங்களுக்கான துணைக் கோப்புகளை உருவாக்க முடியவில்லை (em++)." make_objects
 identity >"$stamp"
-scripts/warm_web.sh || true
+warm

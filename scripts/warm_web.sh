@@ -34,7 +34,8 @@ root=$(CDPATH="" cd "${1:-$(dirname "$script")/..}" && pwd -P)
 include="$root/உள்ளடக்கம்"
 warmed=$(readlink -m "$root/திரட்டு/warmed_web")
 source="$root/src/warmed_web.h"
-compiler=$(readlink -f "$(command -v em++)") || exit 0
+command -v em++ >/dev/null || exit 0
+compiler=$(readlink -f "$(command -v em++)")
 recipe=$(cksum <"$script")
 
 # Of the files that are named, those that are there, each as it is found: size and time.
@@ -46,7 +47,9 @@ holds() {
     [ "$(sed -n 1p "$1" | cut -d ' ' -f 3-)" = "$compiler" ] || return 1
     cut -d ' ' -f 3- "$1" | state | cmp -s - "$1"
 }
-is_done() { holds "$warmed/fits" || holds "$warmed/refused"; }
+# Where they can't be made that isn't tried again for a day, or each start would wait for it.
+was_refused() { [ -n "$(find "$warmed/refused" -mtime -1 2>/dev/null)" ] && holds "$warmed/refused"; }
+is_done() { holds "$warmed/fits" || was_refused; }
 
 # What both depend on: the compiler, the two, and every header that was read.
 name_files() {
@@ -92,7 +95,6 @@ if compile >"$work/said" 2>&1; then
     name_files | state >"$work/fits" || true # the file of the version needn't be there
     mv -f "$work/fits" "$warmed/fits"
 else
-    # Not tried again with the same compiler, or each start would wait for it.
     printf '%s\n' "$compiler" "$source" | state >"$work/refused"
     mv -f "$work/recipe" "$work/refused" "$warmed"
 fi

@@ -101,8 +101,8 @@ TEST_F(WarmWebScript, MakesThemAnewOnlyWhenSomethingChanged) {
     }
     fs::remove(warmed / "instances.o");
     EXPECT_TRUE(isMade());
-    fs::rename(root / "bin", root / "moved");
-    fs::copy(root / "moved", root / "bin");
+    const fs::path emxx = root / "bin" / "em++";
+    fs::last_write_time(emxx, fs::last_write_time(emxx) + std::chrono::hours(1));
     EXPECT_TRUE(isMade()) << "another em++";
 }
 
@@ -115,9 +115,25 @@ TEST_F(WarmWebScript, LeavesNoListWhereTheCompilerRefuses) {
     EXPECT_TRUE(isMade()) << "another em++ is asked again";
     EXPECT_FALSE(fs::exists(warmed / "fits")) << "it makes them and doesn't take them";
     EXPECT_FALSE(isMade()) << "asked once";
+    fs::last_write_time(warmed / "refused",
+                        fs::file_time_type::clock::now() - std::chrono::hours(50));
+    EXPECT_TRUE(isMade()) << "and again on another day: the disk may have been full";
     compilerDoes("true");
     EXPECT_TRUE(isMade());
     EXPECT_TRUE(fs::exists(warmed / "fits"));
+}
+
+TEST_F(WarmWebScript, DoesNothingWithoutACompiler) {
+    fs::create_directories(root / "few");
+    for (const char* name : {"bash", "sh", "readlink", "dirname", "cksum"}) {
+        fs::create_symlink(fs::path("/usr/bin") / name, root / "few" / name);
+    }
+    const ProcessResult result =
+        runCommand({"/usr/bin/env", "PATH=" + (root / "few").u8string(), "bash",
+                    (home / "scripts" / "warm_web.sh").u8string()});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.err, "");
+    EXPECT_FALSE(fs::exists(warmed));
 }
 
 TEST_F(WarmWebScript, TidiesUpBehindARunThatWasKilled) {
