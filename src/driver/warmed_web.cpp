@@ -83,6 +83,8 @@ std::string asFlag(const std::string& path) {
 
 }  // namespace
 
+bool g_isWarmedWebRefused = false;
+
 std::string warmedSetting(const std::string& objectDirectory) {
     if (std::any_of(std::begin(kSettingsOfUsers), std::end(kSettingsOfUsers), isSet)) return "";
     const std::string directory = placeOf(objectDirectory + "/warmed_web");

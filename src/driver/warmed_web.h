@@ -9,3 +9,6 @@
 /// `objectDirectory`, if the compiler, a header or one of the prepared files is no longer as it was
 /// then, or if the user's own environment says how em++ is to work.
 std::string warmedSetting(const std::string& objectDirectory);
+
+/// Whether em++ has refused what is prepared: then it is handed over no more while the process lives.
+extern bool g_isWarmedWebRefused;

@@ -49,12 +49,11 @@ void removeOldOutput() {
 /// What is prepared for em++ may be refused although it looks right. A build never fails for that:
 /// it is made again without, and so are the later ones.
 int runCompiler(const std::string& command, const std::string& objectDirectory) {
-    static bool isRefused = false;
-    const std::string setting = isRefused ? "" : warmedSetting(objectDirectory);
+    const std::string setting = g_isWarmedWebRefused ? "" : warmedSetting(objectDirectory);
     const int status = runStoppable(command, setting);
     if (status == 0 || setting.empty()) return status;
     const int bareStatus = runStoppable(command);
-    isRefused = bareStatus == 0;
+    g_isWarmedWebRefused = bareStatus == 0;
     return bareStatus;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "driver/served_page.h"
+#include "driver/warmed_web.h"
 #include "driver/web_build.h"
 #include "web/scratch_directory.h"
 #include "web/tree.h"
@@ -19,6 +20,7 @@ protected:
         compilerSays("exit 0");
         storePage("");
         g_appVersion = 1;
+        g_isWarmedWebRefused = false;
     }
 
     ~WebBuildTest() override { setenv("PATH", path.c_str(), 1); }
