@@ -5,10 +5,9 @@
 
 void Lexer::checkMixedIndentation() {}
 void Lexer::checkIndentationMatches(int) {}
-void Lexer::checkInvisibleMark() {}
-void Lexer::checkLetter(std::string_view, std::string_view) {}
-void Lexer::checkKeywordSpacing(const std::string&) {}
-void Lexer::checkKeywordTypo(const std::string&) {}
+void Lexer::checkLetter(int) {}
+void Lexer::checkKeywordSpacing(std::string_view) {}
+void Lexer::checkKeywordTypo(std::string_view) {}
 
 // Never reached by a correct source.
 void Lexer::refuseGluedToWesternNumber() { std::abort(); }

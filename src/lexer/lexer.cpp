@@ -3,11 +3,11 @@
 #include "lexer/lexer.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 #include "error_codes.h"
 #include "error_handler.h"
-#include "lexer/utf8.h"
 #include "lexer/word_tables.h"
 
 namespace {
@@ -22,12 +22,26 @@ struct SymbolRow {
     TokenType kind;
 };
 
-const SymbolRow kSymbols[] = {
+constexpr SymbolRow kSymbols[] = {
     {'(', TokenType::LEFT_PAREN}, {')', TokenType::RIGHT_PAREN},  {':', TokenType::COLON},
     {'?', TokenType::QUESTION},   {';', TokenType::NEWLINE},      {',', TokenType::COMMA},
     {'.', TokenType::DOT},        {'[', TokenType::LEFT_BRACKET}, {']', TokenType::RIGHT_BRACKET},
     {'{', TokenType::LEFT_BRACE}, {'}', TokenType::RIGHT_BRACE},  {'*', TokenType::STAR},
 };
+
+/// By the symbol's byte: its kind, or UNKNOWN.
+constexpr std::array<TokenType, 256> kindsByByte() {
+    std::array<TokenType, 256> kinds{};
+    for (TokenType& kind : kinds) kind = TokenType::UNKNOWN;
+    for (const SymbolRow& symbol : kSymbols) {
+        kinds[static_cast<std::size_t>(symbol.byte)] = symbol.kind;
+    }
+    return kinds;
+}
+constexpr std::array<TokenType, 256> kSymbolKinds = kindsByByte();
+
+/// Sources are seldom denser; one that is makes the vector grow.
+constexpr std::size_t kLeastBytesAToken = 8;
 
 }  // namespace
 
@@ -38,6 +52,7 @@ Lexer::Lexer(const std::string& source, const std::string& filename)
 
 std::vector<Token> Lexer::tokenize() {
     std::vector<Token> tokens;
+    tokens.reserve(source.size() / kLeastBytesAToken + 1);
     while (peek() != 0) {
         if (atLineStart && !startLine(tokens)) continue;
 
@@ -114,10 +129,8 @@ Token Lexer::getNextToken() {
     if (byte >= '0' && byte <= '9') return scanWesternNumber();
     if (atTamilDigit()) return scanTamilNumber();
     if (byte == '=') return scanEquals();
-    for (const SymbolRow& symbol : kSymbols) {
-        if (byte == symbol.byte) return scanSymbol(symbol.kind);
-    }
-    return scanWord();
+    const TokenType symbol = kSymbolKinds[static_cast<std::size_t>(byte)];
+    return symbol == TokenType::UNKNOWN ? scanWord() : scanSymbol(symbol);
 }
 
 Token Lexer::scanLineEnd() {
@@ -154,29 +167,35 @@ bool Lexer::skipComment() {
 /// in. A line end inside is kept and not counted, so later reports run short by a line. Meant.
 Token Lexer::scanString() {
     advance();
-    std::string text;
+    const int start = position;
     while (peek() != '"') {
         if (peek() == 0) பிழை("பொழில்-102");
-        text += takeCharacter();
+        advance();
     }
+    Token token = make(TokenType::STRING, textFrom(start));
     advance();
-    return make(TokenType::STRING, std::move(text));
+    return token;
 }
 
 /// Any number of characters may stand between single quotes, but not none.
 Token Lexer::scanCharacter() {
     advance();
     if (peek() == '\'') பிழை("பொழில்-105");
-    std::string text;
+    const int start = position;
     while (peek() != '\'') {
         if (peek() == 0 || peek() == '\n') பிழை("பொழில்-103");
-        text += takeCharacter();
+        advance();
     }
+    Token token = make(TokenType::CHARACTER, textFrom(start));
     advance();
-    return make(TokenType::CHARACTER, std::move(text));
+    return token;
 }
 
-Token Lexer::scanSymbol(TokenType kind) { return make(kind, std::string(takeCharacter())); }
+Token Lexer::scanSymbol(TokenType kind) {
+    const int start = position;
+    advance();
+    return make(kind, textFrom(start));
+}
 
 Token Lexer::scanEquals() {
     advance();
@@ -186,15 +205,6 @@ Token Lexer::scanEquals() {
 }
 
 TokenType Lexer::lookupKeyword(const std::string& word) { return lookUpWord(word); }
-
-int Lexer::peek() { return byteAt(position); }
-
-int Lexer::advance() {
-    const int byte = peek();
-    if (position >= static_cast<int>(source.size())) return 0;
-    position += getUTF8SequenceLength(source[static_cast<std::size_t>(position)]);
-    return byte;
-}
 
 int Lexer::getCurrentIndent() {
     int width = 0;
@@ -209,10 +219,6 @@ int Lexer::getCurrentIndent() {
     }
 }
 
-void Lexer::skipWhitespace() {
-    while (peek() == ' ' || peek() == '\t' || peek() == '\r') advance();
-}
-
 void Lexer::பிழை(const std::string& code) {
     const பிழைதகவல்& entry = பிழை_அகராதி.at(code);
     ErrorHandler::அறிக்கை(LEXICAL_ERROR, code, entry.விளக்கம், filename, lineNumber,
@@ -225,18 +231,14 @@ bool Lexer::startsWith(const char* text) {
     return source.compare(static_cast<std::size_t>(position), std::strlen(text), text) == 0;
 }
 
-int Lexer::byteAt(int offset) const {
-    if (offset < 0 || offset >= static_cast<int>(source.size())) return 0;
-    return static_cast<unsigned char>(source[static_cast<std::size_t>(offset)]);
+/// The text from `start` up to the cursor. A broken character at the end of the source can take the
+/// cursor past it.
+std::string_view Lexer::textFrom(int start) const {
+    if (start >= static_cast<int>(source.size())) return {};
+    return std::string_view(source).substr(static_cast<std::size_t>(start),
+                                           static_cast<std::size_t>(position - start));
 }
 
-/// Moves past one character and returns its bytes, which stay in the source.
-std::string_view Lexer::takeCharacter() {
-    const auto start = static_cast<std::size_t>(position);
-    advance();
-    return std::string_view(source).substr(start, static_cast<std::size_t>(position) - start);
-}
-
-Token Lexer::make(TokenType kind, std::string text) const {
-    return Token{kind, std::move(text), lineNumber};
+Token Lexer::make(TokenType kind, std::string_view text) const {
+    return Token{kind, std::string(text), lineNumber};
 }

@@ -4,9 +4,11 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "lexer/token.h"
+#include "lexer/utf8.h"
 
 /// Scans one source text. Every refusal ends in a report and does not return.
 class Lexer {
@@ -25,16 +27,23 @@ public:
     TokenType lookupKeyword(const std::string& word);
 
     /// The byte at the cursor, 0 to 255; 0 at or past the end. So a NUL byte ends the text.
-    int peek();
+    int peek() { return byteAt(position); }
 
     /// Moves past one character (not one byte) and returns its first byte; at the end 0, no move.
-    int advance();
+    int advance() {
+        const int byte = peek();
+        if (position >= static_cast<int>(source.size())) return 0;
+        position += getUTF8SequenceLength(source[static_cast<std::size_t>(position)]);
+        return byte;
+    }
 
     /// Width of the line's leading blanks and tabs; a tab goes to the next multiple of 4.
     int getCurrentIndent();
 
     /// Passes blanks, tabs and carriage returns, never a line end.
-    void skipWhitespace();
+    void skipWhitespace() {
+        while (peek() == ' ' || peek() == '\t' || peek() == '\r') advance();
+    }
 
     /// Reports `code` at the current line and ends the process. Throws std::out_of_range for a
     /// code that the catalogue lacks.
@@ -63,27 +72,41 @@ private:
     Token scanCharacter();
     Token scanWesternNumber();
     Token scanTamilNumber();
+    Token scanPercentage(int start);
     Token scanSymbol(TokenType kind);
     Token scanEquals();
     Token scanWord();
-    std::string collectWord();
-    void appendCompoundTail(std::string& word);
+    std::string_view collectWord();
+    void passCompoundTail();
 
     // Script and spelling checks; each refuses or returns.
     void checkMixedIndentation();
     void checkIndentationMatches(int indent);
     [[noreturn]] void refuseGluedToWesternNumber();
     [[noreturn]] void refuseGluedToTamilNumber();
+    void checkLetter(int wordStart);
     void checkInvisibleMark();
-    void checkLetter(std::string_view word, std::string_view letter);
-    void checkKeywordSpacing(const std::string& word);
-    void checkKeywordTypo(const std::string& word);
+    void checkTamilLetter(int wordStart);
+    void checkKeywordSpacing(std::string_view word);
+    void checkKeywordTypo(std::string_view word);
     [[noreturn]] void refuseOpenComment();
 
     // Looking at the text
     bool startsWith(const char* text);
     bool atTamilDigit();
-    int byteAt(int offset) const;
-    std::string_view takeCharacter();
-    Token make(TokenType kind, std::string text) const;
+    int byteAt(int offset) const {
+        if (offset < 0 || offset >= static_cast<int>(source.size())) return 0;
+        return static_cast<unsigned char>(source[static_cast<std::size_t>(offset)]);
+    }
+    std::string_view textFrom(int start) const;
+    Token make(TokenType kind, std::string_view text) const;
+
+    /// What the tables tell of a word, kept for the next time that it stands in the source.
+    struct WordFacts {
+        TokenType kind;
+        bool beginsKeyword;  ///< With more letters it could become a word of the tables.
+        bool isSpelledRight = false;
+    };
+    WordFacts& factsOf(std::string_view word);
+    std::unordered_map<std::string_view, WordFacts> knownWords;  ///< The words stand in `source`.
 };

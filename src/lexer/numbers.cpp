@@ -5,27 +5,33 @@
 
 /// Digits with at most one dot; a dot at the end stays part of the number ("1.").
 Token Lexer::scanWesternNumber() {
-    std::string digits;
+    const int start = position;
     bool hasDot = false;
     while (isAsciiDigit(peek()) || peek() == '.') {
         if (peek() == '.') {
             if (hasDot) பிழை("பொழில்-104");
             hasDot = true;
         }
-        digits += takeCharacter();
+        advance();
     }
-    if (peek() == '%') return make(TokenType::PERCENTAGE, digits.append(takeCharacter()));
+    if (peek() == '%') return scanPercentage(start);
     if (!endsNumber(peek())) refuseGluedToWesternNumber();
-    return make(TokenType::NUMBER, std::move(digits));
+    return make(TokenType::NUMBER, textFrom(start));
 }
 
 /// Tamil digits know no decimal point: a dot behind them is a token of its own.
 Token Lexer::scanTamilNumber() {
-    std::string digits;
-    while (atTamilDigit()) digits += takeCharacter();
-    if (peek() == '%') return make(TokenType::PERCENTAGE, digits.append(takeCharacter()));
+    const int start = position;
+    while (atTamilDigit()) advance();
+    if (peek() == '%') return scanPercentage(start);
     if (!endsNumber(peek())) refuseGluedToTamilNumber();
-    return make(TokenType::NUMBER, std::move(digits));
+    return make(TokenType::NUMBER, textFrom(start));
+}
+
+/// The cursor stands at the sign behind digits that begin at `start`.
+Token Lexer::scanPercentage(int start) {
+    advance();
+    return make(TokenType::PERCENTAGE, textFrom(start));
 }
 
 /// ௦ to ௯: the bytes E0 AF A6 to E0 AF AF.

@@ -9,29 +9,27 @@ unsigned char byteOf(std::string_view text, std::size_t index) {
     return static_cast<unsigned char>(text[index]);
 }
 
-bool isTamil(std::string_view letter) { return letter.size() == 3 && byteOf(letter, 0) == 0xE0; }
+// A Tamil letter is three bytes, E0 and two that tell it: those are asked about here.
 
 /// U+0BBE (ா) to U+0BCD (்): a vowel sign, or the virama.
-bool isDependentSign(std::string_view letter) {
-    if (!isTamil(letter)) return false;
-    const int second = byteOf(letter, 1);
-    const int third = byteOf(letter, 2);
+bool isDependentSign(int second, int third) {
     return (second == 0xAE && (third == 0xBE || third == 0xBF)) ||
            (second == 0xAF && third >= 0x80 && third <= 0x8D);
 }
 
+/// U+0BBE (ா)
+bool isLongSign(int second, int third) { return second == 0xAE && third == 0xBE; }
+
 /// ஜ, ஷ, ஸ, ஹ. The letter ஶ isn't in the set. Meant.
-bool isGranthaLetter(std::string_view letter) {
-    if (!isTamil(letter) || byteOf(letter, 1) != 0xAE) return false;
-    const int third = byteOf(letter, 2);
-    return third == 0x9C || third == 0xB7 || third == 0xB8 || third == 0xB9;
+bool isGranthaLetter(int second, int third) {
+    return second == 0xAE && (third == 0x9C || third == 0xB7 || third == 0xB8 || third == 0xB9);
 }
 
 /// True if `word` ends in an independent vowel, அ to ஔ.
 bool endsInVowel(std::string_view word) {
     if (word.size() < 3) return false;
     const std::string_view last = word.substr(word.size() - 3);
-    return isTamil(last) && byteOf(last, 1) == 0xAE && byteOf(last, 2) >= 0x85 &&
+    return byteOf(last, 0) == 0xE0 && byteOf(last, 1) == 0xAE && byteOf(last, 2) >= 0x85 &&
            byteOf(last, 2) <= 0x94;
 }
 
@@ -56,17 +54,25 @@ void Lexer::refuseGluedToWesternNumber() { பிழை(atTamilDigit() ? "பொ
 
 void Lexer::refuseGluedToTamilNumber() { பிழை(isAsciiDigit(peek()) ? "பொழில்-109" : "பொழில்-108"); }
 
+/// The letter at the cursor, of the word that begins at `wordStart`.
+void Lexer::checkLetter(int wordStart) {
+    const int byte = peek();
+    if (byte == 0xE0) return checkTamilLetter(wordStart);
+    if (byte == 0xE2) checkInvisibleMark();
+}
+
 /// U+200C to U+200F at the cursor: joiners and direction marks. U+200B and U+FEFF pass. Meant.
 void Lexer::checkInvisibleMark() {
-    if (peek() != 0xE2 || byteAt(position + 1) != 0x80) return;
+    if (byteAt(position + 1) != 0x80) return;
     if (byteAt(position + 2) >= 0x8C && byteAt(position + 2) <= 0x8F) பிழை("பொழில்-117");
 }
 
-/// `letter` is about to be added to `word`.
-void Lexer::checkLetter(std::string_view word, std::string_view letter) {
-    if (word.empty() && isDependentSign(letter)) பிழை("பொழில்-106");
-    if (isGranthaLetter(letter)) பிழை("பொழில்-115");
-    if (letter == "ா" && endsInVowel(word)) பிழை("பொழில்-114");
+void Lexer::checkTamilLetter(int wordStart) {
+    const int second = byteAt(position + 1);
+    const int third = byteAt(position + 2);
+    if (position == wordStart && isDependentSign(second, third)) பிழை("பொழில்-106");
+    if (isGranthaLetter(second, third)) பிழை("பொழில்-115");
+    if (isLongSign(second, third) && endsInVowel(textFrom(wordStart))) பிழை("பொழில்-114");
 }
 
 void Lexer::refuseOpenComment() { பிழை("பொழில்-118"); }

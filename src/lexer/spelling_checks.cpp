@@ -5,6 +5,7 @@
 #include "lexer/characters.h"
 #include "lexer/lexer.h"
 #include "lexer/utf8.h"
+#include "lexer/word_tables.h"
 
 namespace {
 
@@ -42,7 +43,7 @@ bool isOneEditApart(const CodePoints& a, const CodePoints& b) {
 }  // namespace
 
 /// The cursor stands behind `word` and stays there. A line end between the halves ends the look.
-void Lexer::checkKeywordSpacing(const std::string& word) {
+void Lexer::checkKeywordSpacing(std::string_view word) {
     int at = position;
     while (byteAt(at) == ' ' || byteAt(at) == '\t') at++;
     const int start = at;
@@ -51,12 +52,13 @@ void Lexer::checkKeywordSpacing(const std::string& word) {
     }
     if (at == start) return;
     const auto from = static_cast<std::size_t>(start);
-    const std::string joined = word + source.substr(from, static_cast<std::size_t>(at) - from);
-    if (lookupKeyword(joined) != TokenType::IDENTIFIER) பிழை("பொழில்-112");
+    std::string joined(word);
+    joined.append(source, from, static_cast<std::size_t>(at) - from);
+    if (lookUpWord(joined) != TokenType::IDENTIFIER) பிழை("பொழில்-112");
 }
 
 /// A name within one edit of a spelled word is refused, with no way around it. Meant.
-void Lexer::checkKeywordTypo(const std::string& word) {
+void Lexer::checkKeywordTypo(std::string_view word) {
     const CodePoints letters = splitCodePoints(word);
     if (letters.size() <= kFreeLength) return;
     for (const CodePoints& keyword : spelledWords()) {

@@ -1,5 +1,7 @@
 #include "lexer/word_tables.h"
 
+#include <algorithm>
+
 // A later row with a key that stands already is passed over: the first wins.
 
 const std::unordered_map<std::string, TokenType> IF_KEYWORDS = {
@@ -220,10 +222,12 @@ const std::unordered_map<std::string, TokenType> kFirstWords = {
     {"குறை", TokenType::UNARY_MINUS},
 };
 
+using Words = std::unordered_map<std::string_view, TokenType>;
+
 /// All tables in one. The order in which they are entered is part of the language: a word keeps
 /// its first kind, which makes some rows of the later tables unreachable.
-std::unordered_map<std::string, TokenType> mergeTables() {
-    std::unordered_map<std::string, TokenType> words;
+Words mergeTables() {
+    Words words;
     for (const auto* table : {&kFirstWords, &IF_KEYWORDS, &WEB_KEYWORDS, &ANIMATION_KEYWORDS,
                               &OPERATOR_KEYWORDS, &ASSIGN_KEYWORDS, &INC_DEC_KEYWORDS}) {
         words.insert(table->begin(), table->end());
@@ -231,10 +235,21 @@ std::unordered_map<std::string, TokenType> mergeTables() {
     return words;
 }
 
+const Words& allWords() {
+    static const Words words = mergeTables();
+    return words;
+}
+
 }  // namespace
 
-TokenType lookUpWord(const std::string& word) {
-    static const std::unordered_map<std::string, TokenType> words = mergeTables();
-    const auto found = words.find(word);
-    return found == words.end() ? TokenType::IDENTIFIER : found->second;
+TokenType lookUpWord(std::string_view word) {
+    const auto found = allWords().find(word);
+    return found == allWords().end() ? TokenType::IDENTIFIER : found->second;
+}
+
+bool beginsLongerWord(std::string_view word) {
+    return std::any_of(allWords().begin(), allWords().end(), [&](const auto& row) {
+        return row.first.size() > word.size() && row.first.substr(0, word.size()) == word &&
+               row.second != TokenType::IDENTIFIER;
+    });
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "lexer/token.h"
@@ -14,4 +15,7 @@ extern const std::unordered_map<std::string, TokenType> ASSIGN_KEYWORDS;
 extern const std::unordered_map<std::string, TokenType> INC_DEC_KEYWORDS;
 
 /// Kind of `word`; IDENTIFIER for a word that no table holds.
-TokenType lookUpWord(const std::string& word);
+TokenType lookUpWord(std::string_view word);
+
+/// True if a longer word of the tables that has a kind of its own begins with `word`.
+bool beginsLongerWord(std::string_view word);
