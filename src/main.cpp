@@ -53,8 +53,9 @@ int main(int argc, char** argv) {
     if (!runPhase(scan, kScanFailure)) return 1;
 
     Program program;
-    Parser parser(tokens, sourceText, run.sourcePath);
+    Parser parser(std::move(tokens), sourceText, run.sourcePath);
     if (!runPhase([&] { program = parser.parse(); }, kParseFailure)) return 1;
+    parser.tokens = {};  // the tree needs none of them
 
     if (holdsWebApp(program) && !run.webMode) {
         run.webMode = true;

@@ -5,7 +5,6 @@
 #include "syntax/application.h"
 
 bool holdsWebApp(const Program& program) {
-    return std::any_of(program.statements.begin(), program.statements.end(), [](const auto& node) {
-        return dynamic_cast<const WebAppNode*>(node.get()) != nullptr;
-    });
+    return std::any_of(program.statements.begin(), program.statements.end(),
+                       [](const auto& node) { return nodeAs<WebAppNode>(node.get()) != nullptr; });
 }

@@ -62,7 +62,7 @@ bool translate(const std::string& sourcePath, const std::string& text, const Wat
     };
     std::vector<Token> tokens;
     if (!run([&] { tokens = Lexer(text, sourcePath).tokenize(); }, texts.scan)) return false;
-    Parser parser(tokens, text, sourcePath);
+    Parser parser(std::move(tokens), text, sourcePath);
     if (!run([&] { program = parser.parse(); }, texts.parse)) return false;
     const auto generate = [&] {
         Generator generator(program, parser.functionParameters, parser.structDefinitions,

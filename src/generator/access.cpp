@@ -113,7 +113,7 @@ void Generator::visitGetExpression(const GetExpression* access) {
 }
 
 bool Generator::writeInputProperty(const GetExpression& access) {
-    const auto* object = dynamic_cast<const VariableAccess*>(access.object.get());
+    const auto* object = nodeAs<VariableAccess>(access.object.get());
     if (object == nullptr) return false;
     for (const TextRow& row : kInputProperties) {
         if (access.name.text != row.word) continue;
@@ -141,7 +141,7 @@ void Generator::writeTimeField(const GetExpression& access) {
 /// Raises 321 if any structure at all, not just the object's own, has a private field of this
 /// name. Meant. The receiver may reach its own fields.
 void Generator::checkPrivateField(const Expression* object, const std::string& field, int line) {
-    const auto* variable = dynamic_cast<const VariableAccess*>(object);
+    const auto* variable = nodeAs<VariableAccess>(object);
     if (variable == nullptr || isReceiver(variable->name)) return;
     for (const auto& [name, structure] : structDefinitions) {
         for (const auto& candidate : structure->fields) {
@@ -155,7 +155,7 @@ void Generator::checkPrivateField(const Expression* object, const std::string& f
 /// Raises 322 for a part of a time, 304 for what is no object, 321 for a private field.
 void Generator::checkMemberAssignment(const SetMemberExpression& assignment) {
     const Expression* object = assignment.object.get();
-    const auto* variable = dynamic_cast<const VariableAccess*>(object);
+    const auto* variable = nodeAs<VariableAccess>(object);
     if (variable != nullptr && variable->name == "காட்சி_நிலை") return;
     const VarType kind = inferExpressionType(object);
     if (kind == VarType::Time) பிழை("பொழில்-322", assignment.line, "");
@@ -168,7 +168,7 @@ void Generator::checkMemberAssignment(const SetMemberExpression& assignment) {
 /// A whole line with its own indentation and end, though it is an expression; the statement's own
 /// `;` then stands on a line alone. Meant.
 void Generator::visitSetMemberExpression(const SetMemberExpression* assignment) {
-    const auto* variable = dynamic_cast<const VariableAccess*>(assignment->object.get());
+    const auto* variable = nodeAs<VariableAccess>(assignment->object.get());
     const std::string& property = assignment->name.text;
     indent();
     if (variable != nullptr && variable->name == "காட்சி_நிலை") {
@@ -212,7 +212,7 @@ void Generator::writeIndexStore(const CallExpression& call) {
 
 /// What an element is stored into: a chain of elements goes by reference all the way.
 void Generator::writeIndexTarget(const Expression* expression) {
-    const auto* element = dynamic_cast<const IndexExpression*>(expression);
+    const auto* element = nodeAs<IndexExpression>(expression);
     if (element == nullptr) return visitExpression(expression);
     out << "fn_index_ref(";
     writeIndexTarget(element->object.get());

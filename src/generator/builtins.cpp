@@ -1,6 +1,7 @@
 // The built-in calls: one table, in the order in which it is searched. The language has no
 // library in source form: each row's text expands in place.
 #include <climits>
+#include <string_view>
 
 #include "generator/generator.h"
 #include "static_error.h"
@@ -32,7 +33,7 @@ constexpr CountRefusal kNone = {false, ""};
     "[]() { static std::time_t t; t = std::time(nullptr); return std::localtime(&t); }()"
 
 struct BuiltinRow {
-    const char* name;
+    std::string_view name;
     Arity arity;
     const char* text;  ///< $A, $B, $C stand for the arguments, $FILE and $LINE for the place.
     CountRefusal refusal;
@@ -118,9 +119,8 @@ const BuiltinRow kBuiltins[] = {
 
 /// What `வை` may store into.
 bool isStorable(const Expression* target) {
-    return dynamic_cast<const VariableAccess*>(target) != nullptr ||
-           dynamic_cast<const IndexExpression*>(target) != nullptr ||
-           dynamic_cast<const GetExpression*>(target) != nullptr;
+    return nodeAs<VariableAccess>(target) != nullptr ||
+           nodeAs<IndexExpression>(target) != nullptr || nodeAs<GetExpression>(target) != nullptr;
 }
 
 }  // namespace

@@ -28,13 +28,13 @@ const InputCallRow kInputCalls[] = {
 void Generator::visitCallExpression(const CallExpression* call) {
     refuseEndlessText();
     const Expression* callee = call->callee.get();
-    if (const auto* member = dynamic_cast<const GetExpression*>(callee)) {
+    if (const auto* member = nodeAs<GetExpression>(callee)) {
         if (!writeInputCall(*call, *member)) writeMemberCall(*call, *member);
-    } else if (const auto* lambda = dynamic_cast<const LambdaExpression*>(callee)) {
+    } else if (const auto* lambda = nodeAs<LambdaExpression>(callee)) {
         writeDirectCall(*call, static_cast<int>(lambda->parameters.size()));
-    } else if (dynamic_cast<const GroupingExpression*>(callee) != nullptr) {
+    } else if (nodeAs<GroupingExpression>(callee) != nullptr) {
         writeDirectCall(*call, static_cast<int>(call->arguments.size()));
-    } else if (const auto* name = dynamic_cast<const VariableAccess*>(callee)) {
+    } else if (const auto* name = nodeAs<VariableAccess>(callee)) {
         writeNamedCall(*call, *name);
     } else {
         throw_static_error("பொழில்-399", "Unknown call expression");
@@ -54,7 +54,7 @@ void Generator::writeNamedCall(const CallExpression& call, const VariableAccess&
 }
 
 bool Generator::writeInputCall(const CallExpression& call, const GetExpression& callee) {
-    const auto* object = dynamic_cast<const VariableAccess*>(callee.object.get());
+    const auto* object = nodeAs<VariableAccess>(callee.object.get());
     if (object == nullptr) return false;
     for (const InputCallRow& row : kInputCalls) {
         if (callee.name.text != row.member) continue;
@@ -91,7 +91,7 @@ void Generator::writeMemberCall(const CallExpression& call, const GetExpression&
     if (inferExpressionType(callee.object.get()) == VarType::Object) {
         return writeGuardedCall(call, [&] { visitGetExpression(&callee); });
     }
-    const auto* object = dynamic_cast<const VariableAccess*>(callee.object.get());
+    const auto* object = nodeAs<VariableAccess>(callee.object.get());
     if (object != nullptr && object->name == "நேரம்" && member == "வினாடிகள்") {
         if (!call.arguments.empty()) {
             throw_static_error("பொழில்-331", "'நேரம்.வினாடிகள்()' arguments எதையும் ஏற்காது.");
@@ -141,7 +141,7 @@ void Generator::writeUserCall(const CallExpression& call, const std::string& nam
             writeAny(argument);
             continue;
         }
-        const auto* variable = dynamic_cast<const VariableAccess*>(argument);
+        const auto* variable = nodeAs<VariableAccess>(argument);
         if (variable == nullptr) {
             பிழை("பொழில்-331", call.line,
                  "'மாற்று' parameter-க்கு ஒரு மாறி (Variable)-ஐ மட்டும் தான் அனுப்ப முடியும்.");

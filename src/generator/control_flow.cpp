@@ -21,11 +21,11 @@ void Generator::visitIfStatement(const IfStatement* statement) {
     writeTruth(statement->condition.get());
     out << ") ";
     writeBraces(statement->thenBranch.get());
-    if (const auto* next = dynamic_cast<const IfStatement*>(statement->elseBranch.get())) {
+    if (const auto* next = nodeAs<IfStatement>(statement->elseBranch.get())) {
         out << " else ";
         return visitIfStatement(next);  // its indentation included
     }
-    if (const auto* last = dynamic_cast<const BlockStatement*>(statement->elseBranch.get())) {
+    if (const auto* last = nodeAs<BlockStatement>(statement->elseBranch.get())) {
         out << " else ";
         writeBraces(last);
     }
@@ -48,9 +48,8 @@ void Generator::visitForStatement(const ForStatement* loop) {
     const bool wasLocal = localVariables.count(variable) != 0;
     localVariables[variable] = true;
 
-    const auto* call = dynamic_cast<const CallExpression*>(loop->iterable.get());
-    const auto* callee =
-        call == nullptr ? nullptr : dynamic_cast<const VariableAccess*>(call->callee.get());
+    const auto* call = nodeAs<CallExpression>(loop->iterable.get());
+    const auto* callee = call == nullptr ? nullptr : nodeAs<VariableAccess>(call->callee.get());
     if (callee != nullptr && callee->name == "வரம்பு") {
         writeCountedLoop(*loop, *call);
     } else {

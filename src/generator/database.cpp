@@ -28,7 +28,7 @@ constexpr const char* kFirebase = "https://www.gstatic.com/firebasejs/10.0.0/fir
 std::string setting(const FirebaseConfigNode& config, const std::string& name) {
     const auto found = config.properties.find(name);
     if (found == config.properties.end()) return "";
-    const auto* text = dynamic_cast<const StringLiteral*>(found->second.get());
+    const auto* text = nodeAs<StringLiteral>(found->second.get());
     return text == nullptr ? "" : text->value;
 }
 
@@ -61,7 +61,7 @@ std::string loader(const FirebaseConfigNode& config) {
 }  // namespace
 
 void Generator::visitDatabaseManagerNode(const DatabaseManagerNode* manager) {
-    const auto* config = dynamic_cast<const FirebaseConfigNode*>(manager->firebaseConfig.get());
+    const auto* config = nodeAs<FirebaseConfigNode>(manager->firebaseConfig.get());
     if (config != nullptr) visitFirebaseConfigNode(config);
 }
 
@@ -87,8 +87,7 @@ void Generator::writeForBrowser(std::string_view call, const Fills& fills) {
 void Generator::writeJsonPairs(const MapLiteral& data, bool areAllQuoted) {
     bool isFirst = true;
     for (const auto& [key, value] : data.entries) {
-        const bool isQuoted =
-            areAllQuoted || dynamic_cast<const StringLiteral*>(value.get()) != nullptr;
+        const bool isQuoted = areAllQuoted || nodeAs<StringLiteral>(value.get()) != nullptr;
         const char* quote = isQuoted ? "\\\"" : "";
         indent();
         out << "json_data += \"" << (isFirst ? "" : ", ") << "\\\"" << key << "\\\": " << quote

@@ -23,9 +23,8 @@ void Generator::visitVarDeclaration(const VarDeclaration* declaration) {
 
     if (type == VarType::Object) {
         out << " = std::any();\n";
-        const auto* call = dynamic_cast<const CallExpression*>(value);
-        const auto* callee =
-            call == nullptr ? nullptr : dynamic_cast<const VariableAccess*>(call->callee.get());
+        const auto* call = nodeAs<CallExpression>(value);
+        const auto* callee = call == nullptr ? nullptr : nodeAs<VariableAccess>(call->callee.get());
         if (callee != nullptr && structNames.count(callee->name) != 0) {
             return writeStatementConstructor(name, *call);
         }
@@ -61,7 +60,7 @@ void Generator::writeStatementConstructor(const std::string& name, const CallExp
 
 /// அ[0] = 1 and அ.ஆ = 1 as statements. Any other target writes nothing.
 void Generator::visitSetStatement(const SetStatement* statement) {
-    if (const auto* element = dynamic_cast<const IndexExpression*>(statement->target.get())) {
+    if (const auto* element = nodeAs<IndexExpression>(statement->target.get())) {
         // File and line are left to their defaults: a failure shows an empty name and line 0.
         // Meant.
         out << "fn_index_ref(";
@@ -72,7 +71,7 @@ void Generator::visitSetStatement(const SetStatement* statement) {
         writeAny(statement->value.get());
         return;
     }
-    const auto* member = dynamic_cast<const GetExpression*>(statement->target.get());
+    const auto* member = nodeAs<GetExpression>(statement->target.get());
     if (member == nullptr) return;
 
     const int line = statement->line;

@@ -16,34 +16,34 @@ void Generator::visitExpression(const Expression* expression) {
 
 /// Literals, names, members, elements and functions; false if the node is none of them.
 bool Generator::visitValue(const Expression* expression) {
-    if (const auto* node = dynamic_cast<const NumberLiteral*>(expression)) {
+    if (const auto* node = nodeAs<NumberLiteral>(expression)) {
         visitNumberLiteral(node);
-    } else if (const auto* node = dynamic_cast<const DoubleLiteral*>(expression)) {
+    } else if (const auto* node = nodeAs<DoubleLiteral>(expression)) {
         visitDoubleLiteral(node);
-    } else if (const auto* node = dynamic_cast<const StringLiteral*>(expression)) {
+    } else if (const auto* node = nodeAs<StringLiteral>(expression)) {
         visitStringLiteral(node);
-    } else if (const auto* node = dynamic_cast<const CharLiteral*>(expression)) {
+    } else if (const auto* node = nodeAs<CharLiteral>(expression)) {
         visitCharLiteral(node);
-    } else if (const auto* node = dynamic_cast<const AssignmentExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<AssignmentExpression>(expression)) {
         visitAssignmentExpression(node);
-    } else if (const auto* node = dynamic_cast<const SetMemberExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<SetMemberExpression>(expression)) {
         checkMemberAssignment(*node);
         visitSetMemberExpression(node);
-    } else if (const auto* node = dynamic_cast<const VariableAccess*>(expression)) {
+    } else if (const auto* node = nodeAs<VariableAccess>(expression)) {
         visitVariableAccess(node);
-    } else if (const auto* node = dynamic_cast<const BooleanLiteral*>(expression)) {
+    } else if (const auto* node = nodeAs<BooleanLiteral>(expression)) {
         visitBooleanLiteral(node);
-    } else if (const auto* node = dynamic_cast<const TernaryExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<TernaryExpression>(expression)) {
         visitTernaryExpression(node);
-    } else if (const auto* node = dynamic_cast<const GetExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<GetExpression>(expression)) {
         visitGetExpression(node);
-    } else if (const auto* node = dynamic_cast<const ListLiteral*>(expression)) {
+    } else if (const auto* node = nodeAs<ListLiteral>(expression)) {
         visitListLiteral(node);
-    } else if (const auto* node = dynamic_cast<const MapLiteral*>(expression)) {
+    } else if (const auto* node = nodeAs<MapLiteral>(expression)) {
         visitMapLiteral(node);
-    } else if (const auto* node = dynamic_cast<const IndexExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<IndexExpression>(expression)) {
         visitIndexExpression(node);
-    } else if (const auto* node = dynamic_cast<const ColorExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<ColorExpression>(expression)) {
         visitColorExpression(node);
     } else {
         return false;
@@ -53,23 +53,23 @@ bool Generator::visitValue(const Expression* expression) {
 
 /// Lambdas, calls, operators and the database; false if the node is none of them.
 bool Generator::visitOperation(const Expression* expression) {
-    if (const auto* node = dynamic_cast<const LambdaExpression*>(expression)) {
+    if (const auto* node = nodeAs<LambdaExpression>(expression)) {
         visitLambdaExpression(node);
-    } else if (const auto* node = dynamic_cast<const CallExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<CallExpression>(expression)) {
         visitCallExpression(node);
-    } else if (const auto* node = dynamic_cast<const BinaryExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<BinaryExpression>(expression)) {
         visitBinaryExpression(node);
-    } else if (const auto* node = dynamic_cast<const LogicalExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<LogicalExpression>(expression)) {
         visitLogicalExpression(node);
-    } else if (const auto* node = dynamic_cast<const UnaryExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<UnaryExpression>(expression)) {
         visitUnaryExpression(node);
-    } else if (const auto* node = dynamic_cast<const GroupingExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<GroupingExpression>(expression)) {
         visitGroupingExpression(node);
-    } else if (const auto* node = dynamic_cast<const RTDBInsertExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<RTDBInsertExpression>(expression)) {
         visitRTDBInsertExpression(node);
-    } else if (const auto* node = dynamic_cast<const RTDBUpdateExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<RTDBUpdateExpression>(expression)) {
         visitRTDBUpdateExpression(node);
-    } else if (const auto* node = dynamic_cast<const RTDBDeleteExpression*>(expression)) {
+    } else if (const auto* node = nodeAs<RTDBDeleteExpression>(expression)) {
         visitRTDBDeleteExpression(node);
     } else {
         return false;

@@ -14,6 +14,11 @@ namespace {
 /// written. Meant.
 bool g_isGlobalScope = false;
 
+// Room for the text from the start, so that it needn't move while it grows. A program that needs
+// more gets it; memory that isn't written to costs nothing.
+constexpr std::size_t kRuntimeBytes = std::size_t{256} * 1024;
+constexpr std::size_t kBytesASourceByte = 3;
+
 }  // namespace
 
 // Each section needs only what stands before it. An empty one keeps the place of text to come.
@@ -64,7 +69,7 @@ const Generator::Section Generator::kSections[] = {
 };
 
 std::string Generator::generate() {
-    out.imbue(std::locale::classic());  // a decimal point in every locale
+    out.reserve(kRuntimeBytes + kBytesASourceByte * sourceText.size());
     for (const Section& section : kSections) {
         if (section.write == nullptr) {
             writeText(section.text);
@@ -72,7 +77,7 @@ std::string Generator::generate() {
             (this->*section.write)();
         }
     }
-    return out.str();
+    return out.take();
 }
 
 /// Runtime text with its placeholders filled in, and a blank line behind it.
@@ -96,15 +101,15 @@ void Generator::writeText(std::string_view section) {
 template <typename Definition, typename Visit>
 void Generator::visitDefinitions(Visit visit) {
     for (const auto& statement : program.statements) {
-        if (const auto* node = dynamic_cast<const Definition*>(statement.get())) visit(node);
+        if (const auto* node = nodeAs<Definition>(statement.get())) visit(node);
     }
     for (const auto& statement : program.statements) {
-        const auto* app = dynamic_cast<const WebAppNode*>(statement.get());
+        const auto* app = nodeAs<WebAppNode>(statement.get());
         if (app == nullptr) continue;
-        const auto* logic = dynamic_cast<const LogicBlockNode*>(app->logic.get());
+        const auto* logic = nodeAs<LogicBlockNode>(app->logic.get());
         if (logic == nullptr || logic->body == nullptr) continue;
         for (const auto& inner : logic->body->statements) {
-            if (const auto* node = dynamic_cast<const Definition*>(inner.get())) visit(node);
+            if (const auto* node = nodeAs<Definition>(inner.get())) visit(node);
         }
     }
 }
@@ -124,15 +129,14 @@ void Generator::writeInitGlobals() {
     out << "void init_globals() ";
     text.braces([this] {
         for (const auto& statement : program.statements) {
-            const auto* app = dynamic_cast<const WebAppNode*>(statement.get());
+            const auto* app = nodeAs<WebAppNode>(statement.get());
             if (app == nullptr) continue;
-            const auto* manager =
-                dynamic_cast<const DatabaseManagerNode*>(app->databaseManager.get());
+            const auto* manager = nodeAs<DatabaseManagerNode>(app->databaseManager.get());
             if (manager != nullptr) visitDatabaseManagerNode(manager);
         }
         g_isGlobalScope = false;
         for (const auto& statement : program.statements) {
-            if (const auto* app = dynamic_cast<const WebAppNode*>(statement.get())) {
+            if (const auto* app = nodeAs<WebAppNode>(statement.get())) {
                 generateLogic(app->logic.get());
             }
         }
@@ -154,9 +158,9 @@ void Generator::writeConsoleMain() {
     indentLevel++;
     for (const auto& statement : program.statements) {
         const Statement* node = statement.get();
-        if (node == nullptr || dynamic_cast<const StructDefinitionStatement*>(node) != nullptr ||
-            dynamic_cast<const FunctionDefinitionStatement*>(node) != nullptr ||
-            dynamic_cast<const AbstractStructDefinitionStatement*>(node) != nullptr) {
+        if (node == nullptr || nodeAs<StructDefinitionStatement>(node) != nullptr ||
+            nodeAs<FunctionDefinitionStatement>(node) != nullptr ||
+            nodeAs<AbstractStructDefinitionStatement>(node) != nullptr) {
             continue;
         }
         visitStatement(node);
@@ -167,7 +171,7 @@ void Generator::writeConsoleMain() {
 }
 
 void Generator::generateLogic(const Statement* statement) {
-    if (const auto* logic = dynamic_cast<const LogicBlockNode*>(statement)) {
+    if (const auto* logic = nodeAs<LogicBlockNode>(statement)) {
         visitLogicBlockNode(logic);
     }
 }
@@ -176,8 +180,7 @@ void Generator::visitLogicBlockNode(const LogicBlockNode* logic) {
     if (logic->body == nullptr) return;
     for (const auto& statement : logic->body->statements) {
         // Functions were written at file scope.
-        const bool isFunction =
-            dynamic_cast<const FunctionDefinitionStatement*>(statement.get()) != nullptr;
+        const bool isFunction = nodeAs<FunctionDefinitionStatement>(statement.get()) != nullptr;
         if (statement != nullptr && !isFunction) visitStatement(statement.get());
     }
 }

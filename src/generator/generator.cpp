@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <sstream>
 
 #include "error_codes.h"
 #include "error_handler.h"
@@ -35,8 +36,8 @@ ProgramText Generator::programText() {
 }
 
 void Generator::refuseEndlessText() {
-    constexpr std::streamoff kMaxTextBytes = 64L * 1024 * 1024;
-    if (out.tellp() > kMaxTextBytes) throw_static_error("பொழில்-291", "");
+    constexpr std::size_t kMaxTextBytes = std::size_t{64} * 1024 * 1024;
+    if (out.size() > kMaxTextBytes) throw_static_error("பொழில்-291", "");
 }
 
 void Generator::indent() { text.indent(); }

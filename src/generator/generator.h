@@ -1,12 +1,11 @@
 // The generator: tree in, the whole text of one C++17 translation unit out. Runtime text comes
 // from src/emitted, in the order of the table in frame.cpp; the program's own text is written by
-// the visitors, which tell nodes apart by dynamic_cast and append to one stream.
+// the visitors, which tell nodes apart by their type and append to one stream.
 #pragma once
 
 #include <map>
 #include <memory>
 #include <set>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -21,6 +20,7 @@
 #include "syntax/node.h"
 #include "syntax/statements.h"
 #include "syntax/var_type.h"
+#include "writing/text_stream.h"
 #include "writing/text_writer.h"
 
 struct PozhilColor;
@@ -135,7 +135,7 @@ public:
     void generateEventHandlers(const WebAppNode*) {}
 
     const Program& program;
-    std::stringstream out;
+    TextStream out;
     std::map<std::string, VarType> variableTypes;  ///< Kind last assigned, in traversal order.
     std::map<std::string, bool> structNames;       ///< Structures already emitted.
     std::set<std::string> constants;

@@ -1,12 +1,14 @@
 // Static kinds: what an expression holds, as far as its form and the assignments visited so far
 // tell. It is an estimate: Dynamic is accepted everywhere.
+#include <string_view>
+
 #include "generator/generator.h"
 #include "lexer/holds.h"
 
 namespace {
 
 struct ResultRow {
-    const char* name;  ///< Null for the name of any structure.
+    std::string_view name;  ///< Empty for the name of any structure.
     VarType kind;
 };
 
@@ -19,64 +21,64 @@ const ResultRow kResults[] = {
     {"காஸ்", VarType::Decimal},       {"டேன்", VarType::Decimal},
     {"மடக்கு", VarType::Decimal},     {"மேல்எண்", VarType::Integer},
     {"கீழ்எண்", VarType::Integer},      {"இப்போதுநேரம்", VarType::Time},
-    {"வரம்பு", VarType::Dynamic},     {nullptr, VarType::Object},
+    {"வரம்பு", VarType::Dynamic},     {"", VarType::Object},
     {"பிளவு", VarType::List},        {"பதில்", VarType::String},
     {"பெரியஎ", VarType::String},     {"சிறியஎ", VarType::String},
     {"கோப்பு_படி", VarType::String},  {"கோப்பு_உள்ளதா", VarType::Boolean},
     {"கோப்பு_அழி", VarType::Boolean},
 };
 
-const char* const kTruthOperators[] = {
+constexpr std::string_view kTruthOperators[] = {
     "சமம்", "சமமில்லை", "பெரிது", "சிறிது", "பெரிதுசமம்", "சிறிதுசமம்", "மற்றும்", "அல்லது",
 };
 
-const char* const kWholeTimeFields[] = {
+constexpr std::string_view kWholeTimeFields[] = {
     "ஆண்டு", "மாதம்", "நாள்", "மணி", "நிமிடம்", "வினாடி", "வாரநாள்",
 };
 
 }  // namespace
 
 VarType Generator::inferExpressionType(const Expression* expression) {
-    if (dynamic_cast<const NumberLiteral*>(expression) != nullptr) return VarType::Integer;
-    if (dynamic_cast<const DoubleLiteral*>(expression) != nullptr) return VarType::Decimal;
-    if (dynamic_cast<const StringLiteral*>(expression) != nullptr) return VarType::String;
-    if (dynamic_cast<const BooleanLiteral*>(expression) != nullptr) return VarType::Boolean;
-    if (dynamic_cast<const ListLiteral*>(expression) != nullptr) return VarType::List;
-    if (dynamic_cast<const MapLiteral*>(expression) != nullptr) return VarType::Map;
-    if (dynamic_cast<const LambdaExpression*>(expression) != nullptr) return VarType::Object;
-    if (const auto* call = dynamic_cast<const CallExpression*>(expression)) return inferCall(*call);
-    if (const auto* node = dynamic_cast<const VariableAccess*>(expression)) {
+    if (nodeAs<NumberLiteral>(expression) != nullptr) return VarType::Integer;
+    if (nodeAs<DoubleLiteral>(expression) != nullptr) return VarType::Decimal;
+    if (nodeAs<StringLiteral>(expression) != nullptr) return VarType::String;
+    if (nodeAs<BooleanLiteral>(expression) != nullptr) return VarType::Boolean;
+    if (nodeAs<ListLiteral>(expression) != nullptr) return VarType::List;
+    if (nodeAs<MapLiteral>(expression) != nullptr) return VarType::Map;
+    if (nodeAs<LambdaExpression>(expression) != nullptr) return VarType::Object;
+    if (const auto* call = nodeAs<CallExpression>(expression)) return inferCall(*call);
+    if (const auto* node = nodeAs<VariableAccess>(expression)) {
         return inferVariable(*node);
     }
-    if (const auto* node = dynamic_cast<const GetExpression*>(expression)) {
+    if (const auto* node = nodeAs<GetExpression>(expression)) {
         return inferMember(*node);
     }
-    if (const auto* node = dynamic_cast<const BinaryExpression*>(expression)) {
+    if (const auto* node = nodeAs<BinaryExpression>(expression)) {
         return inferBinary(*node);
     }
-    if (const auto* node = dynamic_cast<const TernaryExpression*>(expression)) {
+    if (const auto* node = nodeAs<TernaryExpression>(expression)) {
         return inferExpressionType(node->thenBranch.get());  // the second isn't looked at
     }
     return VarType::Dynamic;  // a parenthesis hides a kind, and so does an assignment
 }
 
 VarType Generator::inferCall(const CallExpression& call) {
-    if (const auto* callee = dynamic_cast<const VariableAccess*>(call.callee.get())) {
+    if (const auto* callee = nodeAs<VariableAccess>(call.callee.get())) {
         const std::string& name = callee->name;
         if (name == "தனிமதிப்பு") {
             return call.arguments.empty() ? VarType::Dynamic
                                           : inferExpressionType(call.arguments[0].get());
         }
         for (const ResultRow& row : kResults) {
-            if (row.name == nullptr ? structNames.count(name) != 0 : name == row.name) {
+            if (row.name.empty() ? structNames.count(name) != 0 : name == row.name) {
                 return row.kind;
             }
         }
         return VarType::Dynamic;
     }
-    if (const auto* callee = dynamic_cast<const GetExpression*>(call.callee.get())) {
+    if (const auto* callee = nodeAs<GetExpression>(call.callee.get())) {
         const std::string& member = callee->name.text;
-        const auto* object = dynamic_cast<const VariableAccess*>(callee->object.get());
+        const auto* object = nodeAs<VariableAccess>(callee->object.get());
         if (object != nullptr && object->name == "நேரம்") {
             if (member == "வினாடிகள்") return VarType::Decimal;
             if (member == "உருவாக்கு") return VarType::Time;
@@ -97,7 +99,7 @@ VarType Generator::inferVariable(const VariableAccess& access) {
 }
 
 VarType Generator::inferMember(const GetExpression& access) {
-    const auto* object = dynamic_cast<const VariableAccess*>(access.object.get());
+    const auto* object = nodeAs<VariableAccess>(access.object.get());
     if (object == nullptr) return VarType::Dynamic;
     const auto recorded = variableTypes.find(object->name);
     const bool isTime = recorded != variableTypes.end() && recorded->second == VarType::Time;
@@ -115,7 +117,7 @@ VarType Generator::inferBinary(const BinaryExpression& binary) {
 /// `inner`, if it is given, takes those of the others.
 Generator::SideKinds Generator::inferChain(const BinaryExpression& outermost, ChainKinds* inner) {
     std::vector<const BinaryExpression*> chain = {&outermost};
-    while (const auto* left = dynamic_cast<const BinaryExpression*>(chain.back()->left.get())) {
+    while (const auto* left = nodeAs<BinaryExpression>(chain.back()->left.get())) {
         chain.push_back(left);
     }
     SideKinds sides;

@@ -1,19 +1,22 @@
 // Operators. Addition, division and comparison go through the runtime; the other words are native
 // C++ over a cast that inference picks.
+#include <string_view>
+
 #include "generator/generator.h"
 #include "lexer/holds.h"
 
 namespace {
 
-const char* const kArithmetic[] = {"கூட்டு", "கழி", "பெருக்கு", "வகு", "மீதி"};
-const char* const kComparisons[] = {"சமம்", "சமமில்லை", "பெரிது", "சிறிது", "பெரிதுசமம்", "சிறிதுசமம்"};
+constexpr std::string_view kArithmetic[] = {"கூட்டு", "கழி", "பெருக்கு", "வகு", "மீதி"};
+constexpr std::string_view kComparisons[] = {"சமம்",    "சமமில்லை",   "பெரிது",
+                                             "சிறிது", "பெரிதுசமம்", "சிறிதுசமம்"};
 
 /// A zero as it is most often written; 00 and 0.00 are left to the run.
 bool isLiteralZero(const Expression* expression) {
-    if (const auto* number = dynamic_cast<const NumberLiteral*>(expression)) {
+    if (const auto* number = nodeAs<NumberLiteral>(expression)) {
         return number->value == "0";
     }
-    const auto* decimal = dynamic_cast<const DoubleLiteral*>(expression);
+    const auto* decimal = nodeAs<DoubleLiteral>(expression);
     return decimal != nullptr && (decimal->value == "0.0" || decimal->value == "0.");
 }
 
@@ -24,10 +27,10 @@ bool isCompoundKind(VarType kind) {
 }
 
 bool isNativeLiteral(const Expression* expression) {
-    return dynamic_cast<const NumberLiteral*>(expression) != nullptr ||
-           dynamic_cast<const DoubleLiteral*>(expression) != nullptr ||
-           dynamic_cast<const StringLiteral*>(expression) != nullptr ||
-           dynamic_cast<const BooleanLiteral*>(expression) != nullptr;
+    return nodeAs<NumberLiteral>(expression) != nullptr ||
+           nodeAs<DoubleLiteral>(expression) != nullptr ||
+           nodeAs<StringLiteral>(expression) != nullptr ||
+           nodeAs<BooleanLiteral>(expression) != nullptr;
 }
 
 }  // namespace
@@ -119,8 +122,7 @@ void Generator::visitLogicalExpression(const LogicalExpression* logical) {
 /// A truth value: bare where an operator yields it, otherwise a cast that throws for anything
 /// else. So a bare arithmetic expression counts by C++ conversion. Meant.
 void Generator::writeTruth(const Expression* side) {
-    if (dynamic_cast<const BinaryExpression*>(side) != nullptr ||
-        dynamic_cast<const LogicalExpression*>(side) != nullptr) {
+    if (nodeAs<BinaryExpression>(side) != nullptr || nodeAs<LogicalExpression>(side) != nullptr) {
         return visitExpression(side);
     }
     out << "std::any_cast<bool>(";

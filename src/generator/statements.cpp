@@ -17,40 +17,40 @@ bool Generator::visitSimpleStatement(const Statement* statement) {
         out << ";\n";
         return true;
     };
-    if (const auto* node = dynamic_cast<const PrintStatement*>(statement)) {
+    if (const auto* node = nodeAs<PrintStatement>(statement)) {
         return line([&] { visitPrintStatement(node); });
     }
-    if (const auto* node = dynamic_cast<const VarDeclaration*>(statement)) {
+    if (const auto* node = nodeAs<VarDeclaration>(statement)) {
         return line([&] { visitVarDeclaration(node); });
     }
-    if (const auto* node = dynamic_cast<const CompoundAssignmentStatement*>(statement)) {
+    if (const auto* node = nodeAs<CompoundAssignmentStatement>(statement)) {
         return line([&] { visitCompoundAssignmentStatement(node); });
     }
-    if (const auto* node = dynamic_cast<const IncrementStatement*>(statement)) {
+    if (const auto* node = nodeAs<IncrementStatement>(statement)) {
         return line([&] { visitIncrementStatement(node); });
     }
-    if (const auto* node = dynamic_cast<const WaitStatement*>(statement)) {
+    if (const auto* node = nodeAs<WaitStatement>(statement)) {
         return line([&] { visitWaitStatement(node); });
     }
-    if (const auto* node = dynamic_cast<const BreakStatement*>(statement)) {
+    if (const auto* node = nodeAs<BreakStatement>(statement)) {
         return line([&] { visitBreakStatement(node); });
     }
-    if (const auto* node = dynamic_cast<const ContinueStatement*>(statement)) {
+    if (const auto* node = nodeAs<ContinueStatement>(statement)) {
         return line([&] { visitContinueStatement(node); });
     }
-    if (const auto* node = dynamic_cast<const SetStatement*>(statement)) {
+    if (const auto* node = nodeAs<SetStatement>(statement)) {
         return line([&] { visitSetStatement(node); });
     }
-    if (const auto* node = dynamic_cast<const ExpressionStatement*>(statement)) {
+    if (const auto* node = nodeAs<ExpressionStatement>(statement)) {
         return line([&] { visitExpressionStatement(node); });
     }
-    if (const auto* node = dynamic_cast<const PassStatement*>(statement)) {
+    if (const auto* node = nodeAs<PassStatement>(statement)) {
         return line([&] { visitPassStatement(node); });
     }
-    if (const auto* node = dynamic_cast<const ReturnStatement*>(statement)) {
+    if (const auto* node = nodeAs<ReturnStatement>(statement)) {
         return line([&] { visitReturnStatement(node); });
     }
-    if (const auto* node = dynamic_cast<const RTDBReadStatement*>(statement)) {
+    if (const auto* node = nodeAs<RTDBReadStatement>(statement)) {
         return line([&] { visitRTDBReadStatement(node); });
     }
     return false;
@@ -58,30 +58,30 @@ bool Generator::visitSimpleStatement(const Statement* statement) {
 
 /// Statements that write their own lines. False if the node is none of them.
 bool Generator::visitIndentingStatement(const Statement* statement) {
-    if (const auto* node = dynamic_cast<const IfStatement*>(statement)) {
+    if (const auto* node = nodeAs<IfStatement>(statement)) {
         visitIfStatement(node);
-    } else if (const auto* node = dynamic_cast<const TryCatchStatement*>(statement)) {
+    } else if (const auto* node = nodeAs<TryCatchStatement>(statement)) {
         visitTryCatchStatement(node);
-    } else if (const auto* node = dynamic_cast<const WhileStatement*>(statement)) {
+    } else if (const auto* node = nodeAs<WhileStatement>(statement)) {
         visitWhileStatement(node);
-    } else if (const auto* node = dynamic_cast<const SwitchStatement*>(statement)) {
+    } else if (const auto* node = nodeAs<SwitchStatement>(statement)) {
         visitSwitchStatement(node);
-    } else if (const auto* node = dynamic_cast<const ForStatement*>(statement)) {
+    } else if (const auto* node = nodeAs<ForStatement>(statement)) {
         visitForStatement(node);
-    } else if (const auto* node = dynamic_cast<const SetStateStatement*>(statement)) {
+    } else if (const auto* node = nodeAs<SetStateStatement>(statement)) {
         visitSetStateStatement(node);
-    } else if (dynamic_cast<const AbstractStructDefinitionStatement*>(statement) != nullptr ||
-               dynamic_cast<const StructDefinitionStatement*>(statement) != nullptr) {
+    } else if (nodeAs<AbstractStructDefinitionStatement>(statement) != nullptr ||
+               nodeAs<StructDefinitionStatement>(statement) != nullptr) {
         // Structures were written at file scope; abstract ones write nothing.
-    } else if (const auto* node = dynamic_cast<const FunctionDefinitionStatement*>(statement)) {
+    } else if (const auto* node = nodeAs<FunctionDefinitionStatement>(statement)) {
         visitFunctionDefinitionStatement(node);
-    } else if (const auto* node = dynamic_cast<const BlockStatement*>(statement)) {
+    } else if (const auto* node = nodeAs<BlockStatement>(statement)) {
         visitBlockStatement(node);
-    } else if (const auto* node = dynamic_cast<const WebAppNode*>(statement)) {
+    } else if (const auto* node = nodeAs<WebAppNode>(statement)) {
         visitWebAppNode(node);
     } else if (const auto* node = dynamic_cast<const WidgetNode*>(statement)) {
         visitWidgetNode(node);
-    } else if (const auto* node = dynamic_cast<const LogicBlockNode*>(statement)) {
+    } else if (const auto* node = nodeAs<LogicBlockNode>(statement)) {
         visitLogicBlockNode(node);
     } else {
         return false;

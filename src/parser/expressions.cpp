@@ -1,11 +1,57 @@
-// The levels of the expression grammar, from assignment down to the postfix forms, each calling
-// the next tighter one. What an expression begins with stands in primary.cpp.
+// The levels of the expression grammar, from assignment down to the postfix forms. Those of the
+// operators with two sides are rows of one table, and one rule walks them. What an expression
+// begins with stands in primary.cpp.
 #include <algorithm>
+#include <string_view>
 
 #include "parser/parser.h"
 #include "parser/token_predicates.h"
 
-using Words = std::vector<std::string>;
+namespace {
+
+/// The levels of the operators with two sides, from the loosest on. Those before BitwiseOr are the
+/// logical ones.
+enum OperatorLevel {
+    kLogicalOr = 1,
+    kLogicalAnd,
+    kBitwiseOr,
+    kBitwiseXor,
+    kBitwiseAnd,
+    kEquality,
+    kComparison,
+    kShift,
+    kTerm,
+    kFactor,
+};
+
+struct OperatorRow {
+    std::string_view word;
+    OperatorLevel level;
+};
+
+const OperatorRow kOperators[] = {
+    {"அல்லது", kLogicalOr},
+    {"மற்றும்", kLogicalAnd},
+    {"கூட்டுஇருமை", kBitwiseOr},
+    {"வேறுஇருமை", kBitwiseXor},
+    {"பெருக்குஇருமை", kBitwiseAnd},
+    {"சமம்", kEquality},
+    {"சமமில்லை", kEquality},
+    {"பெரிது", kComparison},
+    {"சிறிது", kComparison},
+    {"பெரிதுசமம்", kComparison},
+    {"சிறிதுசமம்", kComparison},
+    {"இடதுஇருமை", kShift},
+    {"வலதுஇருமை", kShift},
+    {"கூட்டு", kTerm},
+    {"கழி", kTerm},
+    {"இணை", kTerm},
+    {"பெருக்கு", kFactor},
+    {"வகு", kFactor},
+    {"மீதி", kFactor},
+};
+
+}  // namespace
 
 std::unique_ptr<Expression> Parser::parseExpression() {
     auto expression = parseAssignment();
@@ -22,9 +68,9 @@ std::unique_ptr<Expression> Parser::parseAssignment() {
     auto left = parseTernary();
     if (check(TokenType::COLON)) {
         // The only place where a colon assigns.
-        auto* member = dynamic_cast<GetExpression*>(left.get());
+        auto* member = nodeAs<GetExpression>(left.get());
         const auto* object =
-            member == nullptr ? nullptr : dynamic_cast<VariableAccess*>(member->object.get());
+            member == nullptr ? nullptr : nodeAs<VariableAccess>(member->object.get());
         if (object != nullptr && object->name == "காட்சி_நிலை") {
             const int line = advance().line;
             const int depth = expressionDepth;
@@ -50,7 +96,7 @@ std::unique_ptr<Expression> Parser::assignTo(std::unique_ptr<Expression> target)
     deepen(depth, expressionDepth);
 
     std::unique_ptr<Expression> node;
-    if (auto* element = dynamic_cast<IndexExpression*>(target.get())) {
+    if (auto* element = nodeAs<IndexExpression>(target.get())) {
         // A compound word is dropped here and in the member form: a[i] கூட்டிசேர் 1 stores 1. Meant.
         std::vector<std::unique_ptr<Expression>> arguments;
         arguments.push_back(std::move(element->object));
@@ -58,10 +104,10 @@ std::unique_ptr<Expression> Parser::assignTo(std::unique_ptr<Expression> target)
         arguments.push_back(std::move(value));
         node = std::make_unique<CallExpression>(
             std::make_unique<VariableAccess>("_set_index_internal"), std::move(arguments));
-    } else if (auto* member = dynamic_cast<GetExpression*>(target.get())) {
+    } else if (auto* member = nodeAs<GetExpression>(target.get())) {
         node = std::make_unique<SetMemberExpression>(std::move(member->object), member->name,
                                                      std::move(value));
-    } else if (const auto* variable = dynamic_cast<VariableAccess*>(target.get())) {
+    } else if (const auto* variable = nodeAs<VariableAccess>(target.get())) {
         node = std::make_unique<AssignmentExpression>(variable->name, op, std::move(value));
     } else {
         பிழை("பொழில்-211", op.line);
@@ -91,71 +137,56 @@ std::unique_ptr<Expression> Parser::parseTernary() {
     return node;
 }
 
-template <typename Node>
-std::unique_ptr<Expression> Parser::parseLeftAssociative(
-    const Words& words, std::unique_ptr<Expression> (Parser::*tighter)()) {
-    auto left = (this->*tighter)();
-    while (match(words)) {
-        Token op = tokenAt(current - 1);
+/// The level of the operator at the cursor; 0 if none stands there.
+int Parser::operatorLevel() {
+    if (!check(TokenType::OPERATOR)) return 0;
+    const std::string_view word = peek().text;
+    for (const OperatorRow& row : kOperators) {
+        if (word == row.word) return row.level;
+    }
+    return 0;
+}
+
+/// level = tighter { word tighter }, for the levels from `loosest` on. All associate to the left.
+std::unique_ptr<Expression> Parser::parseOperators(int loosest) {
+    auto left = parseUnary();
+    for (int level = operatorLevel(); level >= loosest; level = operatorLevel()) {
+        Token op = advance();
         const int depth = expressionDepth;
-        auto right = (this->*tighter)();
+        auto right = parseOperators(level + 1);
         deepen(depth, expressionDepth);
         const int line = op.line;
-        left = std::make_unique<Node>(std::move(left), std::move(op), std::move(right));
+        if (level >= kBitwiseOr) {
+            left = std::make_unique<BinaryExpression>(std::move(left), std::move(op),
+                                                      std::move(right));
+        } else {
+            left = std::make_unique<LogicalExpression>(std::move(left), std::move(op),
+                                                       std::move(right));
+        }
         left->line = line;
     }
     return left;
 }
 
-std::unique_ptr<Expression> Parser::parseLogicalOr() {
-    static const Words words = {"அல்லது"};
-    return parseLeftAssociative<LogicalExpression>(words, &Parser::parseLogicalAnd);
-}
+std::unique_ptr<Expression> Parser::parseLogicalOr() { return parseOperators(kLogicalOr); }
 
-std::unique_ptr<Expression> Parser::parseLogicalAnd() {
-    static const Words words = {"மற்றும்"};
-    return parseLeftAssociative<LogicalExpression>(words, &Parser::parseBitwiseOr);
-}
+std::unique_ptr<Expression> Parser::parseLogicalAnd() { return parseOperators(kLogicalAnd); }
 
-std::unique_ptr<Expression> Parser::parseBitwiseOr() {
-    static const Words words = {"கூட்டுஇருமை"};
-    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseBitwiseXor);
-}
+std::unique_ptr<Expression> Parser::parseBitwiseOr() { return parseOperators(kBitwiseOr); }
 
-std::unique_ptr<Expression> Parser::parseBitwiseXor() {
-    static const Words words = {"வேறுஇருமை"};
-    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseBitwiseAnd);
-}
+std::unique_ptr<Expression> Parser::parseBitwiseXor() { return parseOperators(kBitwiseXor); }
 
-std::unique_ptr<Expression> Parser::parseBitwiseAnd() {
-    static const Words words = {"பெருக்குஇருமை"};
-    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseEquality);
-}
+std::unique_ptr<Expression> Parser::parseBitwiseAnd() { return parseOperators(kBitwiseAnd); }
 
-std::unique_ptr<Expression> Parser::parseEquality() {
-    static const Words words = {"சமம்", "சமமில்லை"};
-    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseComparison);
-}
+std::unique_ptr<Expression> Parser::parseEquality() { return parseOperators(kEquality); }
 
-std::unique_ptr<Expression> Parser::parseComparison() {
-    static const Words words = {"பெரிது", "சிறிது", "பெரிதுசமம்", "சிறிதுசமம்"};
-    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseShift);
-}
+std::unique_ptr<Expression> Parser::parseComparison() { return parseOperators(kComparison); }
 
-std::unique_ptr<Expression> Parser::parseShift() {
-    static const Words words = {"இடதுஇருமை", "வலதுஇருமை"};
-    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseTerm);
-}
+std::unique_ptr<Expression> Parser::parseShift() { return parseOperators(kShift); }
 
-std::unique_ptr<Expression> Parser::parseTerm() {
-    static const Words words = {"கூட்டு", "கழி", "இணை"};
-    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseFactor);
-}
+std::unique_ptr<Expression> Parser::parseTerm() { return parseOperators(kTerm); }
 
-std::unique_ptr<Expression> Parser::parseFactor() {
-    static const Words words = {"பெருக்கு", "வகு", "மீதி"};
-    return parseLeftAssociative<BinaryExpression>(words, &Parser::parseUnary);
-}
+std::unique_ptr<Expression> Parser::parseFactor() { return parseOperators(kFactor); }
 
 /// unary = ( "இல்லை" | "கழி" | "எதிர்இருமை" | "மிகை" | "குறை" ) unary | call
 /// `என்னவகை` stands in the test and never passes it: the scanner makes it an IDENTIFIER. Meant.
@@ -211,7 +242,7 @@ std::unique_ptr<Expression> Parser::parseMember(std::unique_ptr<Expression> obje
 
 /// A member of an enumeration is the number of its place; null for any other member.
 std::unique_ptr<Expression> Parser::foldEnumeration(const Expression& object, const Token& name) {
-    const auto* variable = dynamic_cast<const VariableAccess*>(&object);
+    const auto* variable = nodeAs<VariableAccess>(&object);
     if (variable == nullptr) return nullptr;
     const auto enumeration = enumerations.find(variable->name);
     if (enumeration == enumerations.end()) return nullptr;

@@ -1,10 +1,13 @@
 // The two forms of a lambda: by arrow, and by the word வினை.
 #include <algorithm>
+#include <string_view>
 
 #include "parser/parser.h"
 #include "parser/token_predicates.h"
 
 namespace {
+
+constexpr std::string_view kArrow = "=>";
 
 bool endsParameterLook(TokenType kind) {
     return kind == TokenType::RIGHT_PAREN || kind == TokenType::NEWLINE ||
@@ -16,7 +19,7 @@ bool endsParameterLook(TokenType kind) {
 /// `=>`, or `=` with `பெரிது` (or a `>` that the scanner never makes) behind it. So x = பெரிது y is
 /// read as a lambda and not as an assignment. Meant.
 bool Parser::isArrowAt(int index) const {
-    if (tokenAt(index).text == "=>") return true;
+    if (tokenAt(index).text == kArrow) return true;
     if (tokenAt(index).type != TokenType::EQUALS) return false;
     const std::string& behind = tokenAt(index + 1).text;
     return behind == ">" || behind == "பெரிது";
@@ -25,7 +28,7 @@ bool Parser::isArrowAt(int index) const {
 /// Looks ahead for `name =>` or `( ... ) =>`. The look stops at the first closing parenthesis and
 /// doesn't count nested ones.
 bool Parser::startsArrowLambda() {
-    if (isValidVariableName(peek()) && isArrowAt(current + 1)) return true;
+    if (isArrowAt(current + 1) && isValidVariableName(peek())) return true;
     if (!check(TokenType::LEFT_PAREN)) return false;
     // One look serves all parentheses that open before the same end.
     if (current < closeScan.start || current >= closeScan.end) {
@@ -53,7 +56,7 @@ std::unique_ptr<Expression> Parser::parseArrowLambda() {
         parameters.push_back(advance());
     }
 
-    if (advance().text != "=>") advance();  // the pair form is two tokens
+    if (advance().text != kArrow) advance();  // the pair form is two tokens
     auto body = parseExpression();
     deepen(expressionDepth, 0);
     auto node = std::make_unique<LambdaExpression>(std::move(parameters), std::move(body));

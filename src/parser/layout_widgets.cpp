@@ -239,7 +239,7 @@ bool Parser::parseFlexItem(int& flex) {
     if (!checkWord(TokenType::SHARE, "பங்கு") && !check(TokenType::ASPECT_RATIO)) return false;
     advance();
     auto value = parseValue();
-    if (const auto* number = dynamic_cast<const NumberLiteral*>(value.get())) {
+    if (const auto* number = nodeAs<NumberLiteral>(value.get())) {
         flex = std::stoi(number->value);
     }
     drop(std::move(value));
@@ -282,7 +282,7 @@ std::unique_ptr<Statement> Parser::parsePadding(int line) {
     if (check(TokenType::IDENTIFIER) && peek().text == "அளவு") {
         const std::string key = advance().text;
         auto value = parseValue();
-        if (const auto* number = dynamic_cast<const NumberLiteral*>(value.get())) {
+        if (const auto* number = nodeAs<NumberLiteral>(value.get())) {
             node->padding = floatOf(number->value);
         }
         node->properties[key] = std::move(value);
@@ -387,8 +387,8 @@ void Parser::parseSnackBarItem(SnackBarNode& node, int line) {
     if (key == "செய்தி") return parseSnackBarMessage(node, line);
 
     auto value = parseExpression();
-    const auto* text = dynamic_cast<const StringLiteral*>(value.get());
-    const auto* number = dynamic_cast<const NumberLiteral*>(value.get());
+    const auto* text = nodeAs<StringLiteral>(value.get());
+    const auto* number = nodeAs<NumberLiteral>(value.get());
     if (key == "பின்னணி" && text != nullptr) node.backgroundColor = text->value;
     if (key == "காலம்" && number != nullptr) node.durationMs = std::stoi(number->value);
     setProperty(node.properties, key, std::move(value));

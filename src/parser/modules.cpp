@@ -35,8 +35,7 @@ std::unique_ptr<Statement> Parser::parseImportStatement() {
     if (!importedFiles.insert(path).second) return nullptr;
 
     // Without a name and a text a report from inside can't quote the module's line. Meant.
-    const std::vector<Token> moduleTokens = Lexer(readModule(path, operand.line), "").tokenize();
-    Parser module(moduleTokens, "", "");
+    Parser module(Lexer(readModule(path, operand.line), "").tokenize(), "", "");
     module.importedFiles = importedFiles;
     module.nesting = nesting;
     Program program = module.parse();

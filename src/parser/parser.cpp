@@ -20,7 +20,10 @@ constexpr int kMaxRounds = 100000;
 
 Parser::Parser(const std::vector<Token>& tokens, const std::string& source,
                const std::string& filename)
-    : tokens(tokens), source(source), filename(filename) {}
+    : Parser(std::vector<Token>(tokens), source, filename) {}
+
+Parser::Parser(std::vector<Token>&& tokens, const std::string& source, const std::string& filename)
+    : tokens(std::move(tokens)), source(source), filename(filename) {}
 
 Program Parser::parse() {
     Program program;
@@ -46,21 +49,6 @@ Program Parser::parse() {
     return program;
 }
 
-const Token& Parser::peek() { return tokens[static_cast<std::size_t>(current)]; }
-
-const Token& Parser::advance() {
-    if (!is_at_end()) current++;
-    return tokens[static_cast<std::size_t>(std::max(current - 1, 0))];
-}
-
-bool Parser::is_at_end() { return peek().type == TokenType::END_OF_FILE; }
-
-bool Parser::check(TokenType kind) { return !is_at_end() && peek().type == kind; }
-
-bool Parser::checkKeyword(const std::string& word) {
-    return check(TokenType::KEYWORD) && peek().text == word;
-}
-
 bool Parser::match(const std::vector<std::string>& words) {
     if (!check(TokenType::OPERATOR)) return false;
     if (!holds(words, peek().text)) return false;
@@ -69,6 +57,10 @@ bool Parser::match(const std::vector<std::string>& words) {
 }
 
 Token Parser::consume(TokenType kind, const std::string& code, int line) {
+    return consume(kind, code.c_str(), line);
+}
+
+const Token& Parser::consume(TokenType kind, const char* code, int line) {
     if (!check(kind)) பிழை(code, line == -1 ? peek().line : line);
     return advance();
 }
@@ -86,13 +78,6 @@ bool Parser::handleIndentation(int& depth) {
 void Parser::skipNewlines() {
     while (check(TokenType::NEWLINE)) advance();
 }
-
-const Token& Parser::tokenAt(int index) const {
-    const auto last = static_cast<int>(tokens.size()) - 1;
-    return tokens[static_cast<std::size_t>(std::min(index, last))];
-}
-
-const Token& Parser::next() const { return tokenAt(current + 1); }
 
 bool Parser::checkName() { return isValidVariableName(peek()); }
 

@@ -5,6 +5,7 @@
 // database.
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <set>
@@ -27,22 +28,27 @@ public:
     /// `source` and `filename` are for reports only. All three are copied.
     Parser(const std::vector<Token>& tokens, const std::string& source,
            const std::string& filename);
+    /// The same over tokens that nobody needs any more: they are moved in.
+    Parser(std::vector<Token>&& tokens, const std::string& source, const std::string& filename);
 
     /// The whole tree. Called once.
     Program parse();
 
     // ---- Cursor ----
-    const Token& peek();
+    const Token& peek() { return tokens[static_cast<std::size_t>(current)]; }
     /// Takes one token and returns it; at the end the one before END_OF_FILE, again and again.
-    const Token& advance();
-    bool is_at_end();
+    const Token& advance() { return take(); }
+    bool is_at_end() { return peek().type == TokenType::END_OF_FILE; }
     /// False at the end, so check(END_OF_FILE) is never true.
-    bool check(TokenType kind);
-    bool checkKeyword(const std::string& word);
+    bool check(TokenType kind) { return peek().type == kind && kind != TokenType::END_OF_FILE; }
+    bool checkKeyword(const std::string& word) { return checkKeyword(word.c_str()); }
+    bool checkKeyword(const char* word) { return check(TokenType::KEYWORD) && peek().text == word; }
     /// Takes an OPERATOR token whose text is one of `words`.
     bool match(const std::vector<std::string>& words);
     /// Takes a token of `kind`; raises `code` at `line`, or at the current line if that is -1.
     Token consume(TokenType kind, const std::string& code, int line = -1);
+    /// The same for a code that is written out, without a copy of the token.
+    const Token& consume(TokenType kind, const char* code, int line = -1);
     /// Counts INDENT and DEDENT away inside brackets, where line structure means nothing.
     bool handleIndentation(int& depth);
     void skipNewlines();
@@ -184,9 +190,19 @@ private:
     using MapEntries = std::vector<std::pair<std::string, std::unique_ptr<Expression>>>;
     using Kinds = std::vector<TokenType>;
 
+    /// advance(), for a rule that moves the text into a node: no rule looks back at a name or a
+    /// literal.
+    Token& take() {
+        if (!is_at_end()) current++;
+        return tokens[static_cast<std::size_t>(std::max(current - 1, 0))];
+    }
+
     // Looking at tokens without moving
-    const Token& tokenAt(int index) const;
-    const Token& next() const;
+    const Token& tokenAt(int index) const {
+        const auto last = static_cast<int>(tokens.size()) - 1;
+        return tokens[static_cast<std::size_t>(std::min(index, last))];
+    }
+    const Token& next() const { return tokenAt(current + 1); }
     bool checkName();
     bool isArrowAt(int index) const;
     bool startsArrowLambda();
@@ -219,9 +235,8 @@ private:
     std::unique_ptr<Expression> parseWidgetOrName();
     MapEntries parseMapEntries(bool layoutBeforeColon);
     std::unique_ptr<Expression> takeVariable(bool withLine);
-    template <typename Node>
-    std::unique_ptr<Expression> parseLeftAssociative(
-        const std::vector<std::string>& words, std::unique_ptr<Expression> (Parser::*tighter)());
+    int operatorLevel();
+    std::unique_ptr<Expression> parseOperators(int loosest);
     void deepen(int left, int right);
 
     // Statements

@@ -76,22 +76,28 @@ std::unique_ptr<Expression> Parser::parseNameOrColour() {
 
 /// A literal of one token; null if none stands here.
 std::unique_ptr<Expression> Parser::parseLiteral() {
-    const Token& token = peek();
+    Token& token = tokens[static_cast<std::size_t>(current)];
     std::unique_ptr<Expression> literal;
     switch (token.type) {
-        case TokenType::BOOLEAN: literal = std::make_unique<BooleanLiteral>(token.text); break;
-        case TokenType::CHARACTER: literal = std::make_unique<CharLiteral>(token.text); break;
+        case TokenType::BOOLEAN:
+            literal = std::make_unique<BooleanLiteral>(std::move(token.text));
+            break;
+        case TokenType::CHARACTER:
+            literal = std::make_unique<CharLiteral>(std::move(token.text));
+            break;
         case TokenType::PERCENTAGE:
-            literal = std::make_unique<PercentageLiteral>(token.text);
+            literal = std::make_unique<PercentageLiteral>(std::move(token.text));
             break;
         case TokenType::NUMBER:
             if (token.text.find('.') != std::string::npos) {
-                literal = std::make_unique<DoubleLiteral>(token.text);
+                literal = std::make_unique<DoubleLiteral>(std::move(token.text));
             } else {
-                literal = std::make_unique<NumberLiteral>(token.text);
+                literal = std::make_unique<NumberLiteral>(std::move(token.text));
             }
             break;
-        case TokenType::STRING: literal = std::make_unique<StringLiteral>(token.text); break;
+        case TokenType::STRING:
+            literal = std::make_unique<StringLiteral>(std::move(token.text));
+            break;
         default: return nullptr;
     }
     literal->line = advance().line;
@@ -110,8 +116,8 @@ std::unique_ptr<Expression> Parser::parseBracketed() {
 
 /// Only a plain word brings its line along; the others keep 0.
 std::unique_ptr<Expression> Parser::takeVariable(bool withLine) {
-    const Token& token = advance();
-    auto variable = std::make_unique<VariableAccess>(token.text);
+    Token& token = take();
+    auto variable = std::make_unique<VariableAccess>(std::move(token.text));
     if (withLine) variable->line = token.line;
     return variable;
 }

@@ -1,7 +1,13 @@
 // The statement grammar: the dispatch, what a plain statement may be, and blocks. The statements
 // of control flow stand in control_flow.cpp.
+#include <string_view>
+
 #include "parser/parser.h"
 #include "syntax/database.h"
+
+namespace {
+constexpr std::string_view kLambdaWord = "வினை";
+}
 
 /// The first test that holds decides. Null, with the cursor unmoved, for DEDENT, NEWLINE and, in
 /// a structure, for `பொது`.
@@ -23,7 +29,7 @@ std::unique_ptr<Statement> Parser::parseStatement(bool inStruct) {
 Parser::StatementRule Parser::statementRule() {
     struct Row {
         TokenType kind;
-        const char* word;  ///< Told apart by text only where the kind is KEYWORD.
+        std::string_view word;  ///< Told apart by text only where the kind is KEYWORD.
         StatementRule rule;
     };
     static const Row rows[] = {
@@ -86,7 +92,7 @@ bool Parser::lambdaBeforeColonOnLine() {
         int pending = -1;
         for (int& at = lambdaScan.end; isOnLine(at) && tokenAt(at).type != TokenType::NEWLINE;
              at++) {
-            if (tokenAt(at).text == "வினை") pending = at;
+            if (tokenAt(at).text == kLambdaWord) pending = at;
             if (tokenAt(at).type == TokenType::COLON) lambdaScan.last = pending;
         }
     }
@@ -134,16 +140,15 @@ std::unique_ptr<Statement> Parser::parsePlainStatement(bool inStruct) {
 /// Raises 201 for an expression whose value would be lost.
 std::unique_ptr<Statement> Parser::parseExpressionStatement(
     std::unique_ptr<Expression> expression) {
-    if (auto* carrier = dynamic_cast<WidgetExpression*>(expression.get())) {
+    if (auto* carrier = nodeAs<WidgetExpression>(expression.get())) {
         return std::move(carrier->widget);  // a widget stands as a statement itself
     }
     const Expression* node = expression.get();
-    if (dynamic_cast<const CallExpression*>(node) == nullptr &&
-        dynamic_cast<const AssignmentExpression*>(node) == nullptr &&
-        dynamic_cast<const SetMemberExpression*>(node) == nullptr &&
-        dynamic_cast<const RTDBInsertExpression*>(node) == nullptr &&
-        dynamic_cast<const RTDBUpdateExpression*>(node) == nullptr &&
-        dynamic_cast<const RTDBDeleteExpression*>(node) == nullptr) {
+    if (nodeAs<CallExpression>(node) == nullptr && nodeAs<AssignmentExpression>(node) == nullptr &&
+        nodeAs<SetMemberExpression>(node) == nullptr &&
+        nodeAs<RTDBInsertExpression>(node) == nullptr &&
+        nodeAs<RTDBUpdateExpression>(node) == nullptr &&
+        nodeAs<RTDBDeleteExpression>(node) == nullptr) {
         பிழை("பொழில்-201", peek().line);
     }
     return std::make_unique<ExpressionStatement>(std::move(expression));
@@ -152,7 +157,7 @@ std::unique_ptr<Statement> Parser::parseExpressionStatement(
 /// Entered behind the `=`.
 std::unique_ptr<Statement> Parser::parseVarDeclaration(std::unique_ptr<Expression> target,
                                                        bool inStruct) {
-    const auto* variable = dynamic_cast<const VariableAccess*>(target.get());
+    const auto* variable = nodeAs<VariableAccess>(target.get());
     if (variable == nullptr) {
         if (inStruct) பிழை("பொழில்-210", peek().line);
         return parseSetStatement(std::move(target));
@@ -164,17 +169,17 @@ std::unique_ptr<Statement> Parser::parseVarDeclaration(std::unique_ptr<Expressio
 
 /// The kind that a declaration's value shows by its form; Unset if it shows none.
 VarType Parser::typeOfInitializer(const Expression& value) {
-    if (dynamic_cast<const ListLiteral*>(&value) != nullptr) return VarType::List;
-    if (dynamic_cast<const MapLiteral*>(&value) != nullptr) return VarType::Map;
-    const auto* call = dynamic_cast<const CallExpression*>(&value);
+    if (nodeAs<ListLiteral>(&value) != nullptr) return VarType::List;
+    if (nodeAs<MapLiteral>(&value) != nullptr) return VarType::Map;
+    const auto* call = nodeAs<CallExpression>(&value);
     if (call == nullptr) return VarType::Unset;
 
-    if (const auto* callee = dynamic_cast<const VariableAccess*>(call->callee.get())) {
+    if (const auto* callee = nodeAs<VariableAccess>(call->callee.get())) {
         if (callee->name == "இப்போதுநேரம்") return VarType::Time;
         return structDefinitions.count(callee->name) != 0 ? VarType::Object : VarType::Unset;
     }
-    if (const auto* member = dynamic_cast<const GetExpression*>(call->callee.get())) {
-        const auto* object = dynamic_cast<const VariableAccess*>(member->object.get());
+    if (const auto* member = nodeAs<GetExpression>(call->callee.get())) {
+        const auto* object = nodeAs<VariableAccess>(member->object.get());
         if (object != nullptr && object->name == "நேரம்" && member->name.text == "உருவாக்கு") {
             return VarType::Time;
         }

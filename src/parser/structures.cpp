@@ -108,13 +108,13 @@ void Parser::parseStructGroup(StructBody& body, bool isPrivate) {
 
 /// Takes a field or a method into the body; false, with `member` kept, for anything else.
 bool Parser::storeMember(StructBody& body, std::unique_ptr<Statement>& member, bool isPrivate) {
-    if (auto* field = dynamic_cast<VarDeclaration*>(member.get())) {
+    if (auto* field = nodeAs<VarDeclaration>(member.get())) {
         field->isPrivate = isPrivate;
         body.fields.emplace_back(field);
         static_cast<void>(member.release());
         return true;
     }
-    if (auto* method = dynamic_cast<FunctionDefinitionStatement*>(member.get())) {
+    if (auto* method = nodeAs<FunctionDefinitionStatement>(member.get())) {
         method->isPrivate = isPrivate;
         body.methodsByName[method->name.text] = method;
         body.methods.emplace_back(method);

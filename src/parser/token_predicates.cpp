@@ -1,12 +1,13 @@
 #include "parser/token_predicates.h"
 
+#include <array>
 #include <string>
 
 #include "lexer/holds.h"
 
 namespace {
 
-const TokenType kWidgetKinds[] = {
+constexpr TokenType kWidgetKinds[] = {
     TokenType::TEXT,        TokenType::BUTTON,     TokenType::CHECK_BOX,   TokenType::TOGGLE,
     TokenType::RADIO,       TokenType::SLIDER,     TokenType::UNDERLINE,   TokenType::IMAGE,
     TokenType::COLUMN,      TokenType::ROW,        TokenType::BOX,         TokenType::BOTTOM_BAR,
@@ -26,18 +27,31 @@ const char* const kWidgetWords[] = {
     "பெட்டி_பாணி",     "அறிவிப்பு_பட்டை", "தேடல்_பட்டை",    "தேடல்_பாணி",
 };
 
-const TokenType kNameKinds[] = {
+constexpr TokenType kNameKinds[] = {
     TokenType::IDENTIFIER, TokenType::KEYWORD, TokenType::PAGE,     TokenType::WIDTH,
     TokenType::HEIGHT,     TokenType::STYLE,   TokenType::ON_PRESS, TokenType::BACKGROUND,
 };
+
+constexpr auto kKindCount = static_cast<std::size_t>(TokenType::END_OF_FILE) + 1;
+
+/// For each kind, whether `kinds` holds it.
+template <std::size_t Count>
+constexpr std::array<bool, kKindCount> marked(const TokenType (&kinds)[Count]) {
+    std::array<bool, kKindCount> marks{};
+    for (const TokenType kind : kinds) marks[static_cast<std::size_t>(kind)] = true;
+    return marks;
+}
+
+constexpr auto kAreWidgets = marked(kWidgetKinds);
+constexpr auto kAreNames = marked(kNameKinds);
 
 }  // namespace
 
 bool isWidgetToken(const Token& token) {
     if (token.type == TokenType::IDENTIFIER) return holds(kWidgetWords, token.text);
-    return holds(kWidgetKinds, token.type);
+    return kAreWidgets[static_cast<std::size_t>(token.type)];
 }
 
 bool isValidVariableName(const Token& token) {
-    return holds(kNameKinds, token.type) || isWidgetToken(token);
+    return kAreNames[static_cast<std::size_t>(token.type)] || isWidgetToken(token);
 }

@@ -6,7 +6,7 @@
 namespace {
 
 const std::string* textOf(const Expression& value) {
-    const auto* literal = dynamic_cast<const StringLiteral*>(&value);
+    const auto* literal = nodeAs<StringLiteral>(&value);
     return literal == nullptr ? nullptr : &literal->value;
 }
 
@@ -15,17 +15,17 @@ const std::string* textOf(const Expression& value) {
 void setColor(TextStyle& style, const Expression& value) {
     if (const std::string* text = textOf(value)) {
         style.color = *text;
-    } else if (const auto* variable = dynamic_cast<const VariableAccess*>(&value)) {
+    } else if (const auto* variable = nodeAs<VariableAccess>(&value)) {
         style.color = variable->name;
-    } else if (const auto* color = dynamic_cast<const ColorExpression*>(&value)) {
+    } else if (const auto* color = nodeAs<ColorExpression>(&value)) {
         style.color = color->isHex ? color->hexValue : color->colorName;
     }
 }
 
 void setFontSize(TextStyle& style, const Expression& value) {
-    if (const auto* whole = dynamic_cast<const NumberLiteral*>(&value)) {
+    if (const auto* whole = nodeAs<NumberLiteral>(&value)) {
         style.fontSize = floatOf(whole->value);
-    } else if (const auto* decimal = dynamic_cast<const DoubleLiteral*>(&value)) {
+    } else if (const auto* decimal = nodeAs<DoubleLiteral>(&value)) {
         style.fontSize = floatOf(decimal->value);
     }
 }
@@ -33,7 +33,7 @@ void setFontSize(TextStyle& style, const Expression& value) {
 void setFontWeight(TextStyle& style, const Expression& value) {
     if (const std::string* text = textOf(value)) {
         style.fontWeight = *text == "தடிமனான" || *text == "bold" ? "700" : "400";
-    } else if (const auto* number = dynamic_cast<const NumberLiteral*>(&value)) {
+    } else if (const auto* number = nodeAs<NumberLiteral>(&value)) {
         style.fontWeight = number->value;
     }
 }
@@ -49,7 +49,7 @@ void setFontFamily(TextStyle& style, const Expression& value) {
 }
 
 void setUnderline(TextStyle& style, const Expression& value) {
-    if (const auto* truth = dynamic_cast<const BooleanLiteral*>(&value)) {
+    if (const auto* truth = nodeAs<BooleanLiteral>(&value)) {
         style.underline = truth->value == "மெய்";
     }
 }

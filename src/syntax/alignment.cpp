@@ -26,7 +26,7 @@ std::optional<சீரமைப்பு_வகை> alignmentNamed(const std::s
 }
 
 std::string wordOf(const Expression& value) {
-    if (const auto* member = dynamic_cast<const GetExpression*>(&value)) return member->name.text;
-    if (const auto* variable = dynamic_cast<const VariableAccess*>(&value)) return variable->name;
+    if (const auto* member = nodeAs<GetExpression>(&value)) return member->name.text;
+    if (const auto* variable = nodeAs<VariableAccess>(&value)) return variable->name;
     return "";
 }

@@ -16,7 +16,7 @@ struct ScreenConfig {
 };
 
 /// தலைமை(...)
-struct HeaderNode : WidgetNode {
+struct HeaderNode final : WidgetNode {
     HeaderNode(std::string name, PropertyMap properties, WidgetList children, ScreenConfig screen,
                bool flag = false)
         : WidgetNode(std::move(name), std::move(properties), std::move(children),
@@ -27,26 +27,26 @@ struct HeaderNode : WidgetNode {
 };
 
 /// வரையறை(...)
-struct LogicBlockNode : Statement {
+struct LogicBlockNode final : Statement {
     explicit LogicBlockNode(std::unique_ptr<BlockStatement> body) : body(std::move(body)) {}
     std::unique_ptr<BlockStatement> body;  ///< May hold nulls, which consumers skip.
 };
 
 /// பயர்பேசு_அமைப்பு(...)
-struct FirebaseConfigNode : Statement {
+struct FirebaseConfigNode final : Statement {
     explicit FirebaseConfigNode(PropertyMap properties) : properties(std::move(properties)) {}
     PropertyMap properties;
 };
 
 /// தரவுத்தளமேலாண்மை(...)
-struct DatabaseManagerNode : Statement {
+struct DatabaseManagerNode final : Statement {
     explicit DatabaseManagerNode(std::unique_ptr<Statement> firebaseConfig)
         : firebaseConfig(std::move(firebaseConfig)) {}
     std::unique_ptr<Statement> firebaseConfig;  ///< Null if none was given.
 };
 
 /// வலைதளம் name(...)
-struct WebAppNode : Statement {
+struct WebAppNode final : Statement {
     WebAppNode(std::string name, std::unique_ptr<Statement> databaseManager,
                std::unique_ptr<Statement> header, std::unique_ptr<Statement> body,
                std::unique_ptr<Statement> logic, bool flag = false)

@@ -9,7 +9,7 @@
 #include "syntax/node.h"
 
 /// நிகழ்நேர.தரவுசேர்(path) { data }
-struct RTDBInsertExpression : Expression {
+struct RTDBInsertExpression final : Expression {
     RTDBInsertExpression(std::unique_ptr<Expression> path, std::unique_ptr<MapLiteral> data)
         : path(std::move(path)), data(std::move(data)) {}
     std::unique_ptr<Expression> path;
@@ -17,7 +17,7 @@ struct RTDBInsertExpression : Expression {
 };
 
 /// நிகழ்நேர.தரவுமாற்று(path) { data }
-struct RTDBUpdateExpression : Expression {
+struct RTDBUpdateExpression final : Expression {
     RTDBUpdateExpression(std::unique_ptr<Expression> path, std::unique_ptr<MapLiteral> data)
         : path(std::move(path)), data(std::move(data)) {}
     std::unique_ptr<Expression> path;
@@ -25,13 +25,13 @@ struct RTDBUpdateExpression : Expression {
 };
 
 /// நிகழ்நேர.தரவுஅழி(path)
-struct RTDBDeleteExpression : Expression {
+struct RTDBDeleteExpression final : Expression {
     explicit RTDBDeleteExpression(std::unique_ptr<Expression> path) : path(std::move(path)) {}
     std::unique_ptr<Expression> path;
 };
 
 /// நிகழ்நேர.தரவுபடி(path) { statements }
-struct RTDBReadStatement : Statement {
+struct RTDBReadStatement final : Statement {
     RTDBReadStatement(std::unique_ptr<Expression> path,
                       std::vector<std::unique_ptr<Statement>> body)
         : path(std::move(path)), body(std::move(body)) {}

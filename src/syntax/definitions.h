@@ -23,7 +23,7 @@ struct AbstractMethod {
 };
 
 /// செயல் name(...)
-struct FunctionDefinitionStatement : Statement {
+struct FunctionDefinitionStatement final : Statement {
     FunctionDefinitionStatement(Token name, std::vector<Param> parameters,
                                 std::unique_ptr<BlockStatement> body, bool isPrivate = false)
         : name(std::move(name)),
@@ -37,7 +37,7 @@ struct FunctionDefinitionStatement : Statement {
 };
 
 /// கட்டமைப்பு name(parent)
-struct StructDefinitionStatement : Statement {
+struct StructDefinitionStatement final : Statement {
     StructDefinitionStatement(Token name, Token parentName, bool hasParent,
                               std::vector<std::unique_ptr<VarDeclaration>> fields,
                               std::vector<std::unique_ptr<FunctionDefinitionStatement>> methods,
@@ -57,7 +57,7 @@ struct StructDefinitionStatement : Statement {
 };
 
 /// வடிவமைப்பு name
-struct AbstractStructDefinitionStatement : Statement {
+struct AbstractStructDefinitionStatement final : Statement {
     AbstractStructDefinitionStatement(Token name, std::vector<AbstractMethod> methods)
         : name(std::move(name)), methods(std::move(methods)) {}
     Token name;

@@ -9,18 +9,18 @@
 #include "lexer/token.h"
 #include "syntax/node.h"
 
-struct PercentageLiteral : Expression {
+struct PercentageLiteral final : Expression {
     explicit PercentageLiteral(std::string value) : value(std::move(value)) {}
     std::string value;  ///< Digits with the trailing "%".
 };
 
-struct VariableAccess : Expression {
+struct VariableAccess final : Expression {
     explicit VariableAccess(std::string name) : name(std::move(name)) {}
     std::string name;
 };
 
 /// A colour, hexadecimal or by name: one of the two texts is filled, the other stays empty.
-struct ColorExpression : Expression {
+struct ColorExpression final : Expression {
     ColorExpression(const std::string& text, bool isHex)
         : hexValue(isHex ? text : ""), colorName(isHex ? "" : text), isHex(isHex) {}
     std::string hexValue;
@@ -29,20 +29,20 @@ struct ColorExpression : Expression {
 };
 
 /// (expression)
-struct GroupingExpression : Expression {
+struct GroupingExpression final : Expression {
     explicit GroupingExpression(std::unique_ptr<Expression> expression)
         : expression(std::move(expression)) {}
     std::unique_ptr<Expression> expression;
 };
 
-struct UnaryExpression : Expression {
+struct UnaryExpression final : Expression {
     UnaryExpression(Token op, std::unique_ptr<Expression> right)
         : op(std::move(op)), right(std::move(right)) {}
     Token op;
     std::unique_ptr<Expression> right;
 };
 
-struct BinaryExpression : Expression {
+struct BinaryExpression final : Expression {
     BinaryExpression(std::unique_ptr<Expression> left, Token op, std::unique_ptr<Expression> right)
         : left(std::move(left)), op(std::move(op)), right(std::move(right)) {}
     std::unique_ptr<Expression> left;
@@ -51,7 +51,7 @@ struct BinaryExpression : Expression {
 };
 
 /// மற்றும், அல்லது
-struct LogicalExpression : Expression {
+struct LogicalExpression final : Expression {
     LogicalExpression(std::unique_ptr<Expression> left, Token op, std::unique_ptr<Expression> right)
         : left(std::move(left)), op(std::move(op)), right(std::move(right)) {}
     std::unique_ptr<Expression> left;
@@ -59,7 +59,7 @@ struct LogicalExpression : Expression {
     std::unique_ptr<Expression> right;
 };
 
-struct TernaryExpression : Expression {
+struct TernaryExpression final : Expression {
     TernaryExpression(std::unique_ptr<Expression> condition, std::unique_ptr<Expression> thenBranch,
                       std::unique_ptr<Expression> elseBranch)
         : condition(std::move(condition)),
@@ -70,7 +70,7 @@ struct TernaryExpression : Expression {
     std::unique_ptr<Expression> elseBranch;
 };
 
-struct CallExpression : Expression {
+struct CallExpression final : Expression {
     CallExpression(std::unique_ptr<Expression> callee,
                    std::vector<std::unique_ptr<Expression>> arguments)
         : callee(std::move(callee)), arguments(std::move(arguments)) {}
@@ -79,7 +79,7 @@ struct CallExpression : Expression {
 };
 
 /// object.name
-struct GetExpression : Expression {
+struct GetExpression final : Expression {
     GetExpression(std::unique_ptr<Expression> object, Token name)
         : object(std::move(object)), name(std::move(name)) {}
     std::unique_ptr<Expression> object;
@@ -87,7 +87,7 @@ struct GetExpression : Expression {
 };
 
 /// object.name = value
-struct SetMemberExpression : Expression {
+struct SetMemberExpression final : Expression {
     SetMemberExpression(std::unique_ptr<Expression> object, Token name,
                         std::unique_ptr<Expression> value)
         : object(std::move(object)), name(std::move(name)), value(std::move(value)) {}
@@ -97,26 +97,26 @@ struct SetMemberExpression : Expression {
 };
 
 /// object[index]
-struct IndexExpression : Expression {
+struct IndexExpression final : Expression {
     IndexExpression(std::unique_ptr<Expression> object, std::unique_ptr<Expression> index)
         : object(std::move(object)), index(std::move(index)) {}
     std::unique_ptr<Expression> object;
     std::unique_ptr<Expression> index;
 };
 
-struct ListLiteral : Expression {
+struct ListLiteral final : Expression {
     std::vector<std::unique_ptr<Expression>> elements;
 };
 
 /// Entries stay in source order; a repeated key stays twice.
-struct MapLiteral : Expression {
+struct MapLiteral final : Expression {
     explicit MapLiteral(std::vector<std::pair<std::string, std::unique_ptr<Expression>>> entries)
         : entries(std::move(entries)) {}
     std::vector<std::pair<std::string, std::unique_ptr<Expression>>> entries;
 };
 
 /// வினை (a, b): body, or (a, b) => body
-struct LambdaExpression : Expression {
+struct LambdaExpression final : Expression {
     LambdaExpression(std::vector<Token> parameters, std::unique_ptr<Expression> body)
         : parameters(std::move(parameters)), body(std::move(body)) {}
     std::vector<Token> parameters;
@@ -124,7 +124,7 @@ struct LambdaExpression : Expression {
 };
 
 /// name = value, and the compound words
-struct AssignmentExpression : Expression {
+struct AssignmentExpression final : Expression {
     AssignmentExpression(std::string name, Token op, std::unique_ptr<Expression> value)
         : name(std::move(name)), op(std::move(op)), value(std::move(value)) {}
     std::string name;
@@ -134,7 +134,7 @@ struct AssignmentExpression : Expression {
 
 /// Carries a widget, which is a statement, through the expression descent. The statement grammar
 /// takes it back out; to every other consumer it is an expression of unknown kind.
-struct WidgetExpression : Expression {
+struct WidgetExpression final : Expression {
     explicit WidgetExpression(std::unique_ptr<Statement> widget) : widget(std::move(widget)) {}
     std::unique_ptr<Statement> widget;
 };

@@ -5,27 +5,27 @@
 
 #include "syntax/node.h"
 
-struct NumberLiteral : Expression {
+struct NumberLiteral final : Expression {
     explicit NumberLiteral(std::string value) : value(std::move(value)) {}
     std::string value;  ///< Digits, western or Tamil.
 };
 
-struct DoubleLiteral : Expression {
+struct DoubleLiteral final : Expression {
     explicit DoubleLiteral(std::string value) : value(std::move(value)) {}
     std::string value;  ///< Digits with one dot.
 };
 
-struct StringLiteral : Expression {
+struct StringLiteral final : Expression {
     explicit StringLiteral(std::string value) : value(std::move(value)) {}
     std::string value;
 };
 
-struct CharLiteral : Expression {
+struct CharLiteral final : Expression {
     explicit CharLiteral(std::string value) : value(std::move(value)) {}
     std::string value;
 };
 
-struct BooleanLiteral : Expression {
+struct BooleanLiteral final : Expression {
     explicit BooleanLiteral(std::string value) : value(std::move(value)) {}
     std::string value;  ///< `மெய்` or `பொய்`.
 };

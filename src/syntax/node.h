@@ -1,8 +1,10 @@
 // The bases of the tree. Nodes are plain data: children are owned by std::unique_ptr, there is no
-// visitor interface, and consumers tell nodes apart by dynamic_cast.
+// visitor interface, and consumers tell nodes apart by their type.
 #pragma once
 
 #include <memory>
+#include <type_traits>
+#include <typeinfo>
 #include <utility>
 #include <vector>
 
@@ -15,6 +17,18 @@ struct Expression {
     int line = 0;  ///< Counted from 1; 0 until the parser sets it.
     virtual ~Expression() = default;
 };
+
+/// `node` as a `Node`, a class that nothing derives from; null if it is another, or null. It says
+/// what dynamic_cast says, and only compares types to tell.
+template <typename Node, typename Base>
+auto nodeAs(Base* node) {
+    static_assert(std::is_final_v<Node>, "a base class needs dynamic_cast");
+    using Result = std::conditional_t<std::is_const_v<Base>, const Node*, Node*>;
+    if (node == nullptr) return static_cast<Result>(nullptr);
+    Base& object = *node;
+    return typeid(object) == typeid(Node) ? static_cast<Result>(node)
+                                          : static_cast<Result>(nullptr);
+}
 
 /// A whole source: owns the top-level statements. Not a node.
 struct Program {

@@ -10,25 +10,25 @@
 #include "syntax/var_type.h"
 
 /// அச்சிடு(...)
-struct PrintStatement : Statement {
+struct PrintStatement final : Statement {
     explicit PrintStatement(std::vector<std::unique_ptr<Expression>> expressions)
         : expressions(std::move(expressions)) {}
     std::vector<std::unique_ptr<Expression>> expressions;
 };
 
 /// The indented lines behind a colon.
-struct BlockStatement : Statement {
+struct BlockStatement final : Statement {
     std::vector<std::unique_ptr<Statement>> statements;
 };
 
-struct ExpressionStatement : Statement {
+struct ExpressionStatement final : Statement {
     explicit ExpressionStatement(std::unique_ptr<Expression> expression)
         : expression(std::move(expression)) {}
     std::unique_ptr<Expression> expression;
 };
 
 /// A field of a structure. There is no declaration keyword: elsewhere an assignment declares.
-struct VarDeclaration : Statement {
+struct VarDeclaration final : Statement {
     VarDeclaration(std::string name, std::unique_ptr<Expression> initializer, VarType type,
                    bool isPrivate)
         : name(std::move(name)),
@@ -41,14 +41,14 @@ struct VarDeclaration : Statement {
     bool isPrivate;
 };
 
-struct SetStatement : Statement {
+struct SetStatement final : Statement {
     SetStatement(std::unique_ptr<Expression> target, std::unique_ptr<Expression> value)
         : target(std::move(target)), value(std::move(value)) {}
     std::unique_ptr<Expression> target;
     std::unique_ptr<Expression> value;
 };
 
-struct CompoundAssignmentStatement : Statement {
+struct CompoundAssignmentStatement final : Statement {
     CompoundAssignmentStatement(std::unique_ptr<Expression> target, Token op,
                                 std::unique_ptr<Expression> value)
         : target(std::move(target)), op(std::move(op)), value(std::move(value)) {}
@@ -57,7 +57,7 @@ struct CompoundAssignmentStatement : Statement {
     std::unique_ptr<Expression> value;
 };
 
-struct IncrementStatement : Statement {
+struct IncrementStatement final : Statement {
     IncrementStatement(std::unique_ptr<Expression> target, Token op)
         : target(std::move(target)), op(std::move(op)) {}
     std::unique_ptr<Expression> target;
@@ -65,7 +65,7 @@ struct IncrementStatement : Statement {
 };
 
 /// எனில் ... இல்லைஎனில் ... இல்லை
-struct IfStatement : Statement {
+struct IfStatement final : Statement {
     IfStatement(std::unique_ptr<Expression> condition, std::unique_ptr<BlockStatement> thenBranch,
                 std::unique_ptr<Statement> elseBranch)
         : condition(std::move(condition)),
@@ -77,7 +77,7 @@ struct IfStatement : Statement {
 };
 
 /// சுற்று
-struct WhileStatement : Statement {
+struct WhileStatement final : Statement {
     WhileStatement(std::unique_ptr<Expression> condition, std::unique_ptr<BlockStatement> body)
         : condition(std::move(condition)), body(std::move(body)) {}
     std::unique_ptr<Expression> condition;
@@ -85,7 +85,7 @@ struct WhileStatement : Statement {
 };
 
 /// ஒவ்வொன்றாக x இல் y
-struct ForStatement : Statement {
+struct ForStatement final : Statement {
     ForStatement(Token variable, std::unique_ptr<Expression> iterable,
                  std::unique_ptr<BlockStatement> body)
         : variable(std::move(variable)), iterable(std::move(iterable)), body(std::move(body)) {}
@@ -101,7 +101,7 @@ struct CaseBlock {
 };
 
 /// தேர்வு
-struct SwitchStatement : Statement {
+struct SwitchStatement final : Statement {
     SwitchStatement(std::unique_ptr<Expression> subject, std::vector<CaseBlock> cases,
                     std::unique_ptr<BlockStatement> defaultBlock)
         : subject(std::move(subject)),
@@ -113,7 +113,7 @@ struct SwitchStatement : Statement {
 };
 
 /// முயற்சி ... பிடி
-struct TryCatchStatement : Statement {
+struct TryCatchStatement final : Statement {
     TryCatchStatement(std::unique_ptr<BlockStatement> tryBlock,
                       std::unique_ptr<BlockStatement> catchBlock, std::string errorName)
         : tryBlock(std::move(tryBlock)),
@@ -125,19 +125,19 @@ struct TryCatchStatement : Statement {
 };
 
 /// திரும்பு
-struct ReturnStatement : Statement {
+struct ReturnStatement final : Statement {
     explicit ReturnStatement(std::unique_ptr<Expression> value) : value(std::move(value)) {}
     std::unique_ptr<Expression> value;  ///< Null for a bare return.
 };
 
 /// காத்திரு
-struct WaitStatement : Statement {
+struct WaitStatement final : Statement {
     explicit WaitStatement(std::unique_ptr<Expression> duration) : duration(std::move(duration)) {}
     std::unique_ptr<Expression> duration;
 };
 
-struct BreakStatement : Statement {};
-struct ContinueStatement : Statement {};
-struct PassStatement : Statement {};
+struct BreakStatement final : Statement {};
+struct ContinueStatement final : Statement {};
+struct PassStatement final : Statement {};
 /// புதுப்பி()
-struct SetStateStatement : Statement {};
+struct SetStateStatement final : Statement {};

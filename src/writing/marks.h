@@ -2,7 +2,6 @@
 // text: runtime text, widgets, the table of built-ins, the page.
 #pragma once
 
-#include <ostream>
 #include <string>
 #include <string_view>
 
@@ -29,8 +28,8 @@ Mark findMark(std::string_view text, const MarkStyle& style);
 /// Copies `text` to `out` with its marks replaced: `write(name)` writes what stands for one, or
 /// returns false and leaves the mark as it is. What is written isn't looked at again: a file may be
 /// named like a mark.
-template <typename Write>
-void fillMarks(std::ostream& out, std::string_view text, const MarkStyle& style, Write write) {
+template <typename Stream, typename Write>
+void fillMarks(Stream& out, std::string_view text, const MarkStyle& style, Write write) {
     while (true) {
         const Mark mark = findMark(text, style);
         out << text.substr(0, mark.at);

@@ -43,7 +43,7 @@ protected:
         return *widget.animation;
     }
 
-    std::ostringstream out;
+    TextStream out;
     int level = 0;
     TextWriter text;
     WidgetWriter writer;

@@ -25,7 +25,7 @@ protected:
         return "filled";
     }
 
-    std::ostringstream out;
+    TextStream out;
     int level = 0;
     TextWriter writer{out, level};
 };
