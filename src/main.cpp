@@ -49,11 +49,13 @@ int main(int argc, char** argv) {
 
     if (run.webMode) openWebRoad();
     std::vector<Token> tokens;
-    const auto scan = [&] { tokens = Lexer(sourceText, run.sourcePath).tokenize(); };
+    Lexer lexer(sourceText, run.sourcePath);
+    const auto scan = [&] { tokens = lexer.tokenize(); };
     if (!runPhase(scan, kScanFailure)) return 1;
 
     Program program;
-    Parser parser(std::move(tokens), sourceText, run.sourcePath);
+    // Tokens and text are handed on from phase to phase: those of a large source are large.
+    Parser parser(std::move(tokens), std::move(lexer.source), run.sourcePath);
     if (!runPhase([&] { program = parser.parse(); }, kParseFailure)) return 1;
     parser.tokens = {};  // the tree needs none of them
 
@@ -72,7 +74,8 @@ int main(int argc, char** argv) {
     std::string code;
     const auto generate = [&] {
         Generator generator(program, parser.functionParameters, parser.structDefinitions,
-                            parser.abstractStructDefinitions, sourceText, run.sourcePath);
+                            parser.abstractStructDefinitions, std::move(sourceText),
+                            run.sourcePath);
         code = generator.generate();
     };
     if (!runPhase(generate, kGenerateFailure)) return 1;

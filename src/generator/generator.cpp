@@ -15,14 +15,14 @@ Generator::Generator(
     const Program& program, const std::map<std::string, std::vector<Param>>& functionParameters,
     const std::map<std::string, StructDefinitionStatement*>& structDefinitions,
     const std::map<std::string, AbstractStructDefinitionStatement*>& abstractStructDefinitions,
-    const std::string& sourceText, const std::string& filename)
+    std::string sourceText, std::string filename)
     : program(program),
       structDefinitions(structDefinitions),
       abstractStructDefinitions(abstractStructDefinitions),
       functionParameters(functionParameters),
-      sourceText(sourceText),
-      filename(filename),
-      sourceFile(quoted(filename)),
+      sourceText(std::move(sourceText)),
+      filename(std::move(filename)),
+      sourceFile(quoted(this->filename)),
       web(std::make_unique<WebForm>(program, text, programText())) {}
 
 Generator::~Generator() = default;

@@ -29,13 +29,14 @@ class WebForm;
 
 class Generator {
 public:
-    /// Keeps a reference to `program`, which must outlive the generator; all else is copied. The
-    /// tables are the parser's. `filename` is the path as the user gave it: it goes into the text.
+    /// Keeps a reference to `program`, which must outlive the generator; all else is copied, or
+    /// moved in. The tables are the parser's. `filename` is the path as the user gave it: it goes
+    /// into the text.
     Generator(
         const Program& program, const std::map<std::string, std::vector<Param>>& functionParameters,
         const std::map<std::string, StructDefinitionStatement*>& structDefinitions,
         const std::map<std::string, AbstractStructDefinitionStatement*>& abstractStructDefinitions,
-        const std::string& sourceText, const std::string& filename);
+        std::string sourceText, std::string filename);
     ~Generator();
 
     /// The whole translation. Called once. Throws std::runtime_error by throw_static_error, and

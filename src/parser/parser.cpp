@@ -22,8 +22,8 @@ Parser::Parser(const std::vector<Token>& tokens, const std::string& source,
                const std::string& filename)
     : Parser(std::vector<Token>(tokens), source, filename) {}
 
-Parser::Parser(std::vector<Token>&& tokens, const std::string& source, const std::string& filename)
-    : tokens(std::move(tokens)), source(source), filename(filename) {}
+Parser::Parser(std::vector<Token>&& tokens, std::string source, std::string filename)
+    : tokens(std::move(tokens)), source(std::move(source)), filename(std::move(filename)) {}
 
 Program Parser::parse() {
     Program program;

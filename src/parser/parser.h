@@ -28,8 +28,9 @@ public:
     /// `source` and `filename` are for reports only. All three are copied.
     Parser(const std::vector<Token>& tokens, const std::string& source,
            const std::string& filename);
-    /// The same over tokens that nobody needs any more: they are moved in.
-    Parser(std::vector<Token>&& tokens, const std::string& source, const std::string& filename);
+    /// The same over tokens that nobody needs any more: they are moved in, and a text that is
+    /// handed over is too.
+    Parser(std::vector<Token>&& tokens, std::string source, std::string filename);
 
     /// The whole tree. Called once.
     Program parse();

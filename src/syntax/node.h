@@ -2,20 +2,27 @@
 // visitor interface, and consumers tell nodes apart by their type.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <type_traits>
 #include <typeinfo>
 #include <utility>
 #include <vector>
 
+#include "syntax/node_memory.h"
+
 struct Statement {
     int line = 0;  ///< Counted from 1; 0 until the parser sets it.
     virtual ~Statement() = default;
+    static void* operator new(std::size_t bytes) { return takeNodeMemory(bytes); }
+    static void operator delete(void* node, std::size_t bytes) { giveNodeMemoryBack(node, bytes); }
 };
 
 struct Expression {
     int line = 0;  ///< Counted from 1; 0 until the parser sets it.
     virtual ~Expression() = default;
+    static void* operator new(std::size_t bytes) { return takeNodeMemory(bytes); }
+    static void operator delete(void* node, std::size_t bytes) { giveNodeMemoryBack(node, bytes); }
 };
 
 /// `node` as a `Node`, a class that nothing derives from; null if it is another, or null. It says

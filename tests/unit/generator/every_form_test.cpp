@@ -71,7 +71,7 @@ std::string className(const std::type_info& type) {
 
 /// The names of all structures of the tree that derive from `base` at once.
 std::set<std::string> nodesOf(const std::string& base) {
-    const std::regex heading("struct (\\w+) : " + base + " ");
+    const std::regex heading("struct (\\w+)(?: final)? : " + base + " ");
     std::set<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(POZHIL_ROOT "/src/syntax")) {
         std::ifstream file(entry.path());
