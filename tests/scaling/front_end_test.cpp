@@ -1,9 +1,12 @@
 // Scanning, parsing and generating take time in proportion to the source: ten times the source
-// takes about ten times as long. Processor time is measured.
+// takes about ten times as long, and not many times what reading its words takes. Processor time is
+// measured.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <limits>
+#include <map>
+#include <sstream>
 #include <string>
 
 #include "sources.h"
@@ -39,6 +42,41 @@ double growth(const Sized& small, const Sized& large, int repeats, double limit)
     }
     testing::Test::RecordProperty("growth", std::to_string(best));
     return best;
+}
+
+/// Each word of the source entered into a table: what a machine that is as busy takes for work of
+/// that size.
+double secondsOfCountingWords(const std::string& source) {
+    std::map<std::string, int> counts;
+    const double seconds = secondsOf([&] {
+        std::istringstream words(source);
+        for (std::string word; words >> word;) counts[word]++;
+    });
+    EXPECT_FALSE(counts.empty());
+    return seconds;
+}
+
+/// How many times as long as the words of `source` its translation takes. The best round counts,
+/// and the first that meets `limit` is the last.
+double timesItsWords(const std::string& source, double limit) {
+    double best = std::numeric_limits<double>::infinity();
+    for (int round = 0; round < kRounds && best > limit; round++) {
+        const double words = secondsOfCountingWords(source);
+        best = std::min(best, secondsAPiece({source, 1}) / words);
+    }
+    testing::Test::RecordProperty("times", std::to_string(best));
+    return best;
+}
+
+// About 1.6, on a busy machine too.
+constexpr double kMaxTimesWords = 2.6;
+
+TEST(FrontEnd, PrintsTakeFewTimesWhatTheirWordsTake) {
+    EXPECT_LE(timesItsWords(printLines(10'000), kMaxTimesWords), kMaxTimesWords);
+}
+
+TEST(FrontEnd, MixedStatementsTakeFewTimesWhatTheirWordsTake) {
+    EXPECT_LE(timesItsWords(mixedLines(10'000), kMaxTimesWords), kMaxTimesWords);
 }
 
 // Larger sources leave the processor's caches, which costs a little for each line.
