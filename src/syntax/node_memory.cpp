@@ -19,7 +19,7 @@ constexpr bool kIsPooled = true;
 
 constexpr std::size_t kStep = 16;            ///< Sizes are rounded up to a multiple of it.
 constexpr std::size_t kLargestPooled = 256;  ///< Widgets are larger, and few.
-constexpr std::size_t kBlockBytes = 64 * 1024;
+constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
 
 struct FreeNode {
     FreeNode* next;

@@ -14,6 +14,10 @@ TEST(KeywordSpacing, SplitKeywordIsRefused) {
     EXPECT_TRUE(scanRefused("a\nஎ னில் a:\n", "பொழில்-112", 2));
 }
 
+TEST(KeywordSpacing, IsLookedAtAnewWhereverAWordStands) {
+    EXPECT_TRUE(scanRefused("எ = 1\nஎ = எ\nஎ னில்", "பொழில்-112", 3));
+}
+
 TEST(KeywordSpacing, WordsOfEveryTableAreFound) {
     for (const char* split : {
              "தொட ர்", "ரகசி யம்", "வி னை", "புது ப்பி", "மெ ய்", "எதிர் இருமை", "மி கை",  // first rules
