@@ -14,11 +14,6 @@ namespace {
 /// written. Meant.
 bool g_isGlobalScope = false;
 
-// Room for the text from the start, so that it needn't move while it grows. A program that needs
-// more gets it; memory that isn't written to costs nothing.
-constexpr std::size_t kRuntimeBytes = std::size_t{256} * 1024;
-constexpr std::size_t kBytesASourceByte = 3;
-
 }  // namespace
 
 // Each section needs only what stands before it. An empty one keeps the place of text to come.
@@ -69,7 +64,7 @@ const Generator::Section Generator::kSections[] = {
 };
 
 std::string Generator::generate() {
-    out.reserve(kRuntimeBytes + kBytesASourceByte * sourceText.size());
+    out.imbue(std::locale::classic());  // a decimal point in every locale
     for (const Section& section : kSections) {
         if (section.write == nullptr) {
             writeText(section.text);
@@ -77,7 +72,7 @@ std::string Generator::generate() {
             (this->*section.write)();
         }
     }
-    return out.take();
+    return out.str();
 }
 
 /// Runtime text with its placeholders filled in, and a blank line behind it.

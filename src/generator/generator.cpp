@@ -22,7 +22,7 @@ Generator::Generator(
       functionParameters(functionParameters),
       sourceText(std::move(sourceText)),
       filename(std::move(filename)),
-      sourceFile(quoted(this->filename)),
+      sourceFile(::quoted(this->filename)),
       web(std::make_unique<WebForm>(program, text, programText())) {}
 
 Generator::~Generator() = default;
@@ -36,8 +36,8 @@ ProgramText Generator::programText() {
 }
 
 void Generator::refuseEndlessText() {
-    constexpr std::size_t kMaxTextBytes = std::size_t{64} * 1024 * 1024;
-    if (out.size() > kMaxTextBytes) throw_static_error("பொழில்-291", "");
+    constexpr std::streamoff kMaxTextBytes = 64L * 1024 * 1024;
+    if (out.tellp() > kMaxTextBytes) throw_static_error("பொழில்-291", "");
 }
 
 void Generator::indent() { text.indent(); }

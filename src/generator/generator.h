@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <set>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -20,7 +21,6 @@
 #include "syntax/node.h"
 #include "syntax/statements.h"
 #include "syntax/var_type.h"
-#include "writing/text_stream.h"
 #include "writing/text_writer.h"
 
 struct PozhilColor;
@@ -136,7 +136,7 @@ public:
     void generateEventHandlers(const WebAppNode*) {}
 
     const Program& program;
-    TextStream out;
+    std::stringstream out;
     std::map<std::string, VarType> variableTypes;  ///< Kind last assigned, in traversal order.
     std::map<std::string, bool> structNames;       ///< Structures already emitted.
     std::set<std::string> constants;

@@ -3,12 +3,11 @@
 #pragma once
 
 #include <functional>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
-
-#include "writing/text_stream.h"
 
 /// What stands for one placeholder of a template, by its name without POZHIL_: a switch of #if, a
 /// text, or a function that writes it. The template shows where: POZHIL_NAME; alone on a line is a
@@ -22,7 +21,7 @@ using Fills = std::vector<Fill>;
 class TextWriter {
 public:
     /// Keeps references to both, which must outlive it. `level` is the depth of indentation.
-    TextWriter(TextStream& out, int& level) : out(out), level(level) {}
+    TextWriter(std::ostream& out, int& level) : out(out), level(level) {}
 
     /// Appends four blanks a level.
     void indent();
@@ -54,6 +53,6 @@ public:
     /// directive of a switch that isn't closed.
     void fill(std::string_view text, const Fills& fills);
 
-    TextStream& out;
+    std::ostream& out;
     int& level;
 };

@@ -43,7 +43,7 @@ protected:
         return *widget.animation;
     }
 
-    TextStream out;
+    std::ostringstream out;
     int level = 0;
     TextWriter text;
     WidgetWriter writer;

@@ -25,7 +25,7 @@ protected:
         return "filled";
     }
 
-    TextStream out;
+    std::ostringstream out;
     int level = 0;
     TextWriter writer{out, level};
 };

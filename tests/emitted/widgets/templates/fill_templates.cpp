@@ -70,7 +70,7 @@ public:
         Fills fills;
         for (const std::string& each : switches) fills.push_back({each, isOn});
         for (const auto& each : values) fills.push_back({each.first, each.second});
-        TextStream filled;
+        std::ostringstream filled;
         int level = 0;
         TextWriter(filled, level).fill(text, fills);
         const std::string function = filled.str();
