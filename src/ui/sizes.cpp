@@ -12,18 +12,18 @@
 
 namespace {
 
-struct OperatorRow {
+struct ComparisonSign {
     const char* word;
     const char* sign;
 };
-const OperatorRow kComparisonSigns[] = {
+const ComparisonSign kComparisonSigns[] = {
     {"சமம்", "=="},   {"சமமில்லை", "!="},   {"பெரிது", ">"},
     {"சிறிது", "<"}, {"பெரிதுசமம்", ">="}, {"சிறிதுசமம்", "<="},
 };
 
 /// Any word that isn't a comparison reads as equality. Meant.
 const char* comparisonSign(const std::string& word) {
-    for (const OperatorRow& row : kComparisonSigns) {
+    for (const ComparisonSign& row : kComparisonSigns) {
         if (word == row.word) return row.sign;
     }
     return "==";
