@@ -10,7 +10,7 @@ cd "$root"
 object=திரட்டு/error_handler_native_linux.o
 include=உள்ளடக்கம்
 stamp="$object.stamp"
-sources=(src/error_handler.cpp src/instances.h src/emitted/{includes,animation_state}.cpp
+sources=(src/error_handler.cpp src/held_runtime.h src/instances.h src/emitted/*.cpp
     "$include"/error_handler.h "$include"/error_codes.h scripts/prepare_objects.sh)
 
 identity() {
@@ -22,7 +22,7 @@ identity() {
 
 is_fresh() { [ -f "$stamp" ] && [ "$(identity 2>/dev/null)" = "$(cat "$stamp")" ]; }
 
-compile() { g++ -c src/error_handler.cpp -o "$object.new" -std=c++17 -O2 -I"$include" "$@"; }
+compile() { g++ -c src/error_handler.cpp -o "$object.new" -std=c++17 -O2 -fwrapv -I"$include" "$@"; }
 
 # The shared instances name parts of libstdc++ that another version may not have: then programs do
 # without them, and take longer to build.

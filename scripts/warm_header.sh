@@ -20,7 +20,7 @@ stamp="$warmed.stamp"  # line 1: g++ and the list; then every file that was read
 if nm "$object" 2>/dev/null | grep -q pozhil_instances; then
     headers=src/warmed_header.h
     notes=("$held")
-    own=("$headers" src/instances.h src/emitted/includes.cpp "$include"/error_codes.h)
+    own=("$headers" src/{held_runtime,instances,plain_casts}.h src/emitted/*.cpp "$include"/error_{codes,handler}.h)
 else
     headers=src/emitted/includes.cpp
     notes=()

@@ -1,6 +1,7 @@
 // The boxed report and its sayings. Compiled into the compiler, and by the compiler's own build
-// into the object that every generated program links. For that object's sake it also holds the
-// template instances that those programs share; the report itself needs nothing but its header.
+// into the object that every generated program links. For that object's sake it also holds what
+// those programs share: template instances, and the text that all of them carry, compiled. The
+// report itself needs nothing but its header.
 #include "error_handler.h"
 
 #include <cstdlib>
@@ -148,8 +149,8 @@ int ErrorHandler::visualWidth(std::string text) {
     return width;
 }
 
-// Who makes the object anew is told by a note beside the warmed header that programs count on the
-// instances. Without one nobody does, and they would only ask of libstdc++ what another version may
+// Who makes the object anew is told by a note beside the warmed header that programs count on what
+// it holds. Without one nobody does, and they would only ask of libstdc++ what another version may
 // not have: the note speaks of one version alone.
 #if defined(POZHIL_WITH_INSTANCES) || defined(POZHIL_WITHOUT_INSTANCES)
 // Whoever compiles this has decided.
@@ -161,13 +162,51 @@ int ErrorHandler::visualWidth(std::string text) {
 #endif
 
 #ifdef POZHIL_WITH_INSTANCES
-#include "emitted/animation_state.cpp"
 #include "emitted/includes.cpp"
-#include "error_codes.h"
+
+#define POZHIL_HELD [[gnu::used]] inline
+#define POZHIL_OR_ELSE(VALUE)
+#include "emitted/animation_state.cpp"
+#include "emitted/base_structures.cpp"
+#include "emitted/widget_position.cpp"
+#include "held_runtime.h"
 
 #define POZHIL_INSTANCE template
 #include "instances.h"
 #undef POZHIL_INSTANCE
+
+// Here the variables are of a kind of their own: src/emitted/variables.cpp is what others define.
+PozhilVariables global_vars;
+
+void PozhilVariables::lookUp(const char* name, Known& place) {
+    place = {name, &(*this)[std::string(name)]};
+}
+
+#include "emitted/animations.cpp"
+#include "emitted/any_to_json.cpp"
+#include "emitted/any_to_string.cpp"
+#include "emitted/arithmetic.cpp"
+#include "emitted/comparison.cpp"
+#include "emitted/element_access.cpp"
+#include "emitted/files.cpp"
+#include "emitted/globals.cpp"
+#include "emitted/indices.cpp"
+#include "emitted/input.cpp"
+#include "emitted/input_state.cpp"
+#include "emitted/length.cpp"
+#include "emitted/module_path.cpp"
+#include "emitted/negation.cpp"
+#include "emitted/number_reading.cpp"
+#include "emitted/number_values.cpp"
+#include "emitted/properties.cpp"
+#include "emitted/removal.cpp"
+#include "emitted/rounding.cpp"
+#include "emitted/runtime_failure.cpp"
+#include "emitted/screen_size.cpp"
+#include "emitted/scroll_state.cpp"
+#include "emitted/text.cpp"
+#include "emitted/time.cpp"
+#include "emitted/type_names.cpp"
 
 /// Tells scripts/warm_header.sh that this object holds them.
 extern "C" int pozhil_instances;

@@ -3,9 +3,6 @@
 // program that is compiled with it. POZHIL_INSTANCE is `template` there, `extern template` here.
 // They name parts of libstdc++ that only its own headers show, and are for g++ alone.
 
-struct _StructBase;
-struct AnimationState;
-
 namespace pozhil {
 using List = std::vector<std::any>;
 using Dictionary = std::map<std::string, std::any>;
@@ -18,7 +15,6 @@ POZHIL_INSTANCE class std::vector<std::function<void()>>;
 POZHIL_INSTANCE class std::set<std::string>;
 POZHIL_INSTANCE class std::_Rb_tree<std::string, std::string, std::_Identity<std::string>,
                                     std::less<std::string>>;
-POZHIL_INSTANCE class std::unordered_map<std::string, பிழைதகவல்>;
 
 #define POZHIL_MAP_INSTANCE(VALUE)                                             \
     POZHIL_INSTANCE class std::map<std::string, VALUE>;                        \
@@ -30,6 +26,7 @@ POZHIL_MAP_INSTANCE(std::string)
 POZHIL_MAP_INSTANCE(bool)
 POZHIL_MAP_INSTANCE(int)
 POZHIL_MAP_INSTANCE(float)
+POZHIL_MAP_INSTANCE(WidgetPos)
 #undef POZHIL_MAP_INSTANCE
 
 POZHIL_INSTANCE class std::map<unsigned long long, AnimationState>;

@@ -1,7 +1,28 @@
-// What scripts/warm_header.sh precompiles: the headers of the generated text, the catalogue, and
-// the declarations of the instances that the diagnostics object holds.
+// What scripts/warm_header.sh precompiles: the headers of the generated text, the structures of the
+// text that every program carries, and the declarations of what the diagnostics object holds of it.
+
+// Programs are small and their loops long: this much is worth its time. It has to stand in front of
+// the library's own functions, which are part of every line. Numbers wrap around as they do
+// without it.
+#pragma GCC optimize("Og", "wrapv")
+
 #include "emitted/includes.cpp"
-#include "error_codes.h"
+
+#define pozhil_runtime_is_held
+#include "emitted/animation_state.cpp"
+#include "emitted/base_structures.cpp"
+#include "emitted/widget_position.cpp"
+
+#define POZHIL_HELD extern
+#define POZHIL_OR_ELSE(VALUE) = VALUE
+#include "held_runtime.h"
+#undef POZHIL_HELD
+#undef POZHIL_OR_ELSE
+
+#include "emitted/animation.cpp"
+#include "emitted/call_guard.cpp"
+#include "emitted/plain_text.cpp"
+#include "plain_casts.h"
 
 #define POZHIL_INSTANCE extern template
 #include "instances.h"

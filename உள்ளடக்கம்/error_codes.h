@@ -17,7 +17,11 @@ struct பிழைதகவல் {
 
 /// Full code text ("பொழில்-101") -> entry. Built once, constant after that. Every generated program
 /// compiles it: literals and one loop cost g++ a fraction of what ninety-four braced string triples
-/// do. The table stands inside, so that no further name of it meets the program's own.
+/// do. The table stands inside, so that no further name of it meets the program's own. A program
+/// that leaves its runtime to the diagnostics object takes the catalogue from there too.
+#ifdef pozhil_runtime_is_held
+extern const std::unordered_map<std::string, பிழைதகவல்> பிழை_அகராதி;
+#else
 inline const std::unordered_map<std::string, பிழைதகவல்> பிழை_அகராதி = [] {
     struct Row {
         const char* code;
@@ -314,5 +318,6 @@ inline const std::unordered_map<std::string, பிழைதகவல்> பி
     for (const Row& row : rows) catalogue.insert({row.code, {row.meaning, row.fix}});
     return catalogue;
 }();
+#endif
 
 #endif  // POZHIL_ERROR_CODES_H

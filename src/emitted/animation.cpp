@@ -4,8 +4,6 @@
 // that the others are built as fast without it, what needs containers are templates, all else is
 // inline, and curves stand in plain tables.
 
-std::map<unsigned long long, AnimationState> g_animationStates;
-
 inline float lerp(float start, float target, float progress) {
     return start + (target - start) * progress;
 }

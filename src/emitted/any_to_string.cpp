@@ -43,9 +43,3 @@ std::string fn_any_to_string(const std::any& val) {
     if (kind == &typeid(std::shared_ptr<_StructBase>)) return "[பொருள்]";
     return "[தெரியாத வகை]";
 }
-
-// The same for a text that isn't held in a std::any: it needn't be put into one first.
-template <class Text, std::enable_if_t<std::is_same_v<Text, std::string>, int> = 0>
-std::string fn_any_to_string(Text&& text) {
-    return std::move(text);
-}

@@ -1,4 +1,3 @@
-std::map<std::string, std::any> global_vars;
 std::map<std::string, std::string> g_inputErrors;
 std::map<std::string, bool> g_kaatchi_nilai;
 std::set<std::string> g_alert_names;
@@ -11,21 +10,3 @@ void pozhil_runtime_error(std::string code, std::string file, int line);
 
 int g_call_depth = 0;
 int g_current_call_line = 0;  // 🔥 வரியின் எண்ணை ட்ராக் செய்ய
-const int MAX_CALL_DEPTH = 150;
-
-struct CallTracker {
-    std::string file;
-
-    CallTracker(std::string f) : file(std::move(f)) {
-        g_call_depth++;
-        if (g_call_depth > MAX_CALL_DEPTH) {
-            g_call_depth = 0;
-            pozhil_runtime_error("பொழில்-335", file, g_current_call_line);
-        }
-    }
-
-    ~CallTracker() { g_call_depth--; }
-};
-
-float திரை_அகலம் = 1280.0f;
-float திரை_உயரம் = 720.0f;

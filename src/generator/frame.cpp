@@ -16,41 +16,54 @@ bool g_isGlobalScope = false;
 
 }  // namespace
 
+/// Marks text that every program carries to the letter: the diagnostics object holds it compiled,
+/// and the warmed header says so. g++ then passes over it; without that header it compiles it.
+constexpr bool kHeld = true;
+
 // Each section needs only what stands before it. An empty one keeps the place of text to come.
 const Generator::Section Generator::kSections[] = {
     {"includes", emitted::includes, nullptr},
     {"web: text layer and clipboard", emitted::web_text_layer, nullptr},
-    {"globals", emitted::globals, nullptr},
+    {"globals: the variables", emitted::variables, nullptr, kHeld},
+    {"globals", emitted::globals, nullptr, kHeld},
+    {"globals: count of calls", emitted::call_guard, nullptr, kHeld},
+    {"globals: size of the screen", emitted::screen_size, nullptr, kHeld},
     {"navigation", emitted::navigation, nullptr},
-    {"input state", emitted::input_state, nullptr},
+    {"input state", emitted::input_state, nullptr, kHeld},
     {"web: entry points", emitted::web_entry_points, nullptr},
     {"web: keyboard", emitted::web_keyboard, nullptr},
-    {"base structures and diagnostics headers", emitted::base_structures, nullptr},
-    {"run-time failures", emitted::runtime_failure, nullptr},
+    {"base structures and diagnostics headers", emitted::base_structures, nullptr, kHeld},
+    {"run-time failures", emitted::runtime_failure, nullptr, kHeld},
 
-    {"values: as text", emitted::any_to_string, nullptr},
-    {"values: as JavaScript", emitted::any_to_json, nullptr},
-    {"values: names of their kinds", emitted::type_names, nullptr},
-    {"values: as native numbers", emitted::number_values, nullptr},
-    {"values: comparison", emitted::comparison, nullptr},
-    {"values: indices", emitted::indices, nullptr},
-    {"values: arithmetic", emitted::arithmetic, nullptr},
-    {"module search", emitted::module_path, nullptr},
+    {"values: as text", emitted::any_to_string, nullptr, kHeld},
+    {"values: texts as they stand", emitted::plain_text, nullptr, kHeld},
+    {"values: as JavaScript", emitted::any_to_json, nullptr, kHeld},
+    {"values: names of their kinds", emitted::type_names, nullptr, kHeld},
+    {"values: as native numbers", emitted::number_values, nullptr, kHeld},
+    {"values: comparison", emitted::comparison, nullptr, kHeld},
+    {"values: indices", emitted::indices, nullptr, kHeld},
+    {"values: arithmetic", emitted::arithmetic, nullptr, kHeld},
+    {"module search", emitted::module_path, nullptr, kHeld},
+    {"values: numbers in texts", emitted::number_reading, nullptr, kHeld},
     {"values: conversion", emitted::conversion, nullptr},
-    {"animation: its state", emitted::animation_state, nullptr},
-    {"animation: the engine", emitted::animation, nullptr},
+    {"values: negation", emitted::negation, nullptr, kHeld},
+    {"animation: its state", emitted::animation_state, nullptr, kHeld},
+    {"animation: those that run", emitted::animations, nullptr, kHeld},
+    {"animation: the engine", emitted::animation, nullptr, kHeld},
 
-    {"library: files", emitted::files, nullptr},
-    {"library: text", emitted::text, nullptr},
-    {"library: time", emitted::time, nullptr},
-    {"library: input", emitted::input, nullptr},
-    {"library: length", emitted::length, nullptr},
-    {"library: element access", emitted::element_access, nullptr},
-    {"library: properties", emitted::properties, nullptr},
-    {"library: rounding", emitted::rounding, nullptr},
-    {"library: removal", emitted::removal, nullptr},
+    {"library: files", emitted::files, nullptr, kHeld},
+    {"library: text", emitted::text, nullptr, kHeld},
+    {"library: time", emitted::time, nullptr, kHeld},
+    {"library: input", emitted::input, nullptr, kHeld},
+    {"library: length", emitted::length, nullptr, kHeld},
+    {"library: element access", emitted::element_access, nullptr, kHeld},
+    {"library: properties", emitted::properties, nullptr, kHeld},
+    {"library: rounding", emitted::rounding, nullptr, kHeld},
+    {"library: removal", emitted::removal, nullptr, kHeld},
 
-    {"scroll state", emitted::scroll_state, nullptr},
+    {"scroll state: a place", emitted::widget_position, nullptr, kHeld},
+    {"scroll state", emitted::scroll_state, nullptr, kHeld},
+    {"scroll state: its request", emitted::scrolling, nullptr},
     {"web: boilerplate", emitted::web_boilerplate, nullptr},
     {"web: background video", emitted::web_background_video, nullptr},
     {"web: texts in boxes", emitted::web_box_text, nullptr},
@@ -65,7 +78,12 @@ const Generator::Section Generator::kSections[] = {
 
 std::string Generator::generate() {
     out.imbue(std::locale::classic());  // a decimal point in every locale
+    bool isInHeld = false;
     for (const Section& section : kSections) {
+        if (section.isHeld != isInHeld) {
+            out << (section.isHeld ? "#ifndef pozhil_runtime_is_held\n" : "#endif\n\n");
+            isInHeld = section.isHeld;
+        }
         if (section.write == nullptr) {
             writeText(section.text);
         } else {

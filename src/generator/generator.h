@@ -158,6 +158,7 @@ private:
         const char* title;
         std::string_view text;
         void (Generator::*write)();
+        bool isHeld = false;  ///< the diagnostics object may hold it
     };
     static const Section kSections[];
 

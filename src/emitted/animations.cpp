@@ -1,0 +1,1 @@
+std::map<unsigned long long, AnimationState> g_animationStates;

@@ -1,0 +1,1 @@
+std::map<std::string, std::any> global_vars;

@@ -1,0 +1,6 @@
+// Where a widget stands.
+
+struct WidgetPos {
+    float x = 0;
+    float y = 0;
+};
