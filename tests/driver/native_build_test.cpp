@@ -205,7 +205,9 @@ protected:
     }
 
     int run(const std::string& script) const {
-        return runCommand({"bash", (home / "scripts" / script).u8string()}).exitCode;
+        return runCommand({"bash", (home / "scripts" / script).u8string()},
+                          {work.u8string(), environment(), "", 240})
+            .exitCode;
     }
 
     /// Builds a file of somebody's own and runs it; gives what it prints, or what g++ says.

@@ -1,0 +1,68 @@
+// The text that the diagnostics object holds compiled: what the warmed header declares of it stands
+// in every program to the letter.
+#include <gtest/gtest.h>
+
+#include <regex>
+
+#include "support/case_files.h"
+#include "support/generated_text.h"
+
+namespace {
+
+/// Lines as one, with single blanks.
+std::string inOneLine(const std::string& text) {
+    return std::regex_replace(text, std::regex("\\s+"), " ");
+}
+
+/// All text between the directives by which g++ passes over it.
+std::string heldText() {
+    const std::string opening = "#ifndef pozhil_runtime_is_held\n";
+    const std::string text = generate("அச்சிடு(1)\n");
+    std::string held;
+    for (std::size_t at = text.find(opening); at != std::string::npos;
+         at = text.find(opening, at + 1)) {
+        // Others end inside a function.
+        const std::size_t end = text.find("\n#endif\n\n", at);
+        EXPECT_NE(end, std::string::npos);
+        held += text.substr(at + opening.size(), end - at - opening.size());
+    }
+    return held;
+}
+
+/// They point into `text`.
+std::vector<std::smatch> matches(const std::string& text, const std::regex& form) {
+    return {std::sregex_iterator(text.begin(), text.end(), form), std::sregex_iterator()};
+}
+
+const std::string kDeclarations = readText(POZHIL_ROOT "/src/held_runtime.h");
+
+TEST(HeldText, HasEachFunctionAsItIsDeclared) {
+    const std::string held = inOneLine(heldText());
+    const auto declared = matches(kDeclarations, std::regex("\nPOZHIL_HELD ([^;]+);"));
+    EXPECT_GT(declared.size(), 50U);
+    for (const std::smatch& function : declared) {
+        const std::string form = std::regex_replace(
+            function[1].str(), std::regex("POZHIL_OR_ELSE\\(([^)]*)\\)"), "= $1");
+        const std::string head = inOneLine(form);
+        const bool isDefined = held.find(" " + head + " {") != std::string::npos;
+        EXPECT_TRUE(isDefined) << head;
+    }
+}
+
+TEST(HeldText, HasEachVariableAsItIsDeclared) {
+    const std::string held = inOneLine(heldText());
+    const auto declared = matches(kDeclarations, std::regex("\nPOZHIL_VARIABLE\\((.+?), (.+)\\);"));
+    EXPECT_GT(declared.size(), 20U);
+    for (const std::smatch& variable : declared) {
+        std::string kind = variable[2];
+        if (kind == "PozhilVariables") kind = "std::map<std::string, std::any>";
+        EXPECT_NE(held.find(kind + " " + variable[1].str()), std::string::npos) << variable[0];
+    }
+}
+
+// The browser's build has no such object: its blocks stand between the others.
+TEST(HeldText, HoldsNothingOfTheBrowserAlone) {
+    EXPECT_EQ(heldText().find("#include <emscripten"), std::string::npos);
+}
+
+}  // namespace
