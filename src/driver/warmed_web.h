@@ -10,5 +10,6 @@
 /// then, or if the user's own environment says how em++ is to work.
 std::string warmedSetting(const std::string& objectDirectory);
 
-/// Whether em++ has refused what is prepared: then it is handed over no more while the process lives.
+/// Whether em++ has refused what is prepared: then it is handed over no more while the process
+/// lives.
 extern bool g_isWarmedWebRefused;

@@ -16,13 +16,13 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 /// More than any buffer holds.
-constexpr std::size_t kLarge = 20'000'000;
+constexpr std::size_t kLargeAnswer = 20'000'000;
 
 /// Answers with as much as the request's one letter says.
 void giveByLetter(int client) {
     char letter = 0;
     if (read(client, &letter, 1) != 1) return;
-    const std::string answer(letter == 'l' ? kLarge : 3, 'x');
+    const std::string answer(letter == 'l' ? kLargeAnswer : 3, 'x');
     send(client, answer.data(), answer.size(), MSG_NOSIGNAL);
 }
 
@@ -92,7 +92,7 @@ TEST(AnswerRoom, ItsEndEndsThemAll) {
         room.attend(silent.server());
     }
     EXPECT_FALSE(isOpen(silent.server()));
-    EXPECT_LT(silent.readAll(), kLarge);
+    EXPECT_LT(silent.readAll(), kLargeAnswer);
 }
 
 TEST(AnswerRoom, ManySilentOnesInARowDoNotAddUp) {

@@ -14,7 +14,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::size_t kBytes = 3'000'000;
-constexpr int kSmallBuffer = 4096;
+constexpr int kNarrowBuffer = 4096;
 constexpr int kLeaveBuffer = 0;
 
 /// Takes `client`'s answer for a while at `bytesPerSecond`, in `piecesPerSecond`, then all the
@@ -86,7 +86,7 @@ TEST_F(SlowReaders, GetTheWholePage) { expectWholeAnswerAtEveryPace("/"); }
 TEST_F(SlowReaders, AndAQuickOneBehindThem) {
     const int port = startServer();
     const std::size_t whole = get(port, "/index.js").size();
-    Client slow(port, kSmallBuffer);
+    Client slow(port, kNarrowBuffer);
     ask(slow, "/index.js");
     EXPECT_EQ(slow.readSome(8), "HTTP/1.1") << "its turn has come";
     auto slowSize =
@@ -100,7 +100,7 @@ TEST_F(SlowReaders, OneWhoTakesNothingAtAllIsDroppedInTheEnd) {
     const int port = startServer();
     const std::size_t whole = get(port, "/index.js").size();
     for (const char* path : {"/index.js", "/"}) {
-        Client silent(port, kSmallBuffer);
+        Client silent(port, kNarrowBuffer);
         ask(silent, path);
         EXPECT_TRUE(silent.waitForReset(20)) << path;
         EXPECT_LT(silent.readToEnd().size(), whole);
