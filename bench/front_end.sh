@@ -60,7 +60,7 @@ status=0
 aim() {
     awk -v text="$1" -v ratio="$2" -v most="$3" 'BEGIN {
         holds = ratio <= most
-        printf "%-58s %6.2fx  aim %.2fx  %s\n", text, ratio, most, holds ? "✓" : "✗"
+        printf "%-58s %6.2fx  aim %.2fx  %s\n", text, ratio, most, holds ? "✔" : "✗"
         exit !holds }' || status=1
 }
 ratio() { awk -v a="$1" -v b="$2" 'BEGIN { print a / b }'; }

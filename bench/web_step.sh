@@ -78,9 +78,9 @@ for _ in $(seq "$runs"); do
 done
 
 awk -v ours="$(least ours)" -v bare="$(least bare)" -v aim="$aim" 'BEGIN {
-    print "em++ step of a one-text application, beside the same command in a bare environment"
-    printf "processor time, s    ours %.2f    bare %.2f    ratio %.2fx\n", ours, bare, ours / bare
     holds = ours <= aim * bare
-    printf "%s at most %.2fx\n", holds ? "✔" : "✗", aim
+    printf "em++ step, processor time, s    ours %.2f    bare %.2f\n", ours, bare
+    text = "em++ step of a one-text application, beside a bare environment"
+    printf "%s %6.2fx  aim %.2fx  %s\n", text, ours / bare, aim, holds ? "✔" : "✗"
     exit !holds
 }'

@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# bench.sh [programs|frames|growth]: measures, side by side in one run, the g++ step of a program with and without
-# the warmed header, the front end on growing sources, the scanner with and without its checks, and
-# the programs of bench/programs beside the same programs in Python. With `programs` those alone.
-# With `frames` the time of a frame in the browser beside the same page drawn by hand, with `growth`
-# the time of em++ for applications that grow; both say whether the aims hold.
+# bench.sh [programs|frames|growth]: measures, side by side in one run, the front end beside Python's and
+# on growing sources, the scanner with and without its checks, the g++ and em++ steps of a program
+# beside bare ones, and the programs of bench/programs beside the same programs in Python. With
+# `programs` those alone. With `frames` the time of a frame in the browser beside the same page drawn
+# by hand, with `growth` the time of em++ for applications that grow. Says for each aim whether it
+# holds; the status is 1 if one doesn't.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -47,6 +48,19 @@ row() {
         'BEGIN { printf "%-52s %8.0f %8.0f %8.2fx\n", text, m, l, m / b }'
 }
 
+# aim TEXT RATIO MOST: a row of the table at the end, and whether it holds.
+aim() {
+    local mark
+    mark=$(awk -v ratio="$2" -v most="$3" 'BEGIN { print ratio <= most ? "✔" : "✗" }')
+    printf '%s\t%.2f\t%.2f\t%s\n' "$1" "$2" "$3" "$mark" >>"$work/aims"
+}
+
+print_aims() {
+    printf '\n%-76s %8s %8s\n' "what" "ratio" "aim"
+    awk -F '\t' '{ printf "%s %-74s %7.2fx %7.2fx\n", $4, $1, $2, $3 }' "$work/aims"
+    ! grep -q '✗$' "$work/aims"
+}
+
 # The compiler's own g++ command, noted as it is given: word by word, the link of a hello program.
 note_command() {
     mkdir -p "$work/bin"
@@ -80,6 +94,8 @@ measure_native_build() {
     row "bare C++ hello, same 18 headers, no warmed header" bare bare
     row "our program, without the warmed header" cold bare
     row "our program, with the warmed header" warm bare
+    aim "g++ step of hello, beside the bare eighteen-header hello" \
+        "$(awk -v a="$(median warm)" -v b="$(median bare)" 'BEGIN { print a / b }')" 0.60
     g++ "${with_header[@]}" -H 2>"$work/headers"
     grep -q "^! .*/iostream.gch" "$work/headers" ||
         refuse "g++ iostream.gch-ஐப் பயன்படுத்தவில்லை."
@@ -110,7 +126,7 @@ built() {
 # A program and its twin print the same, or nothing is measured. Python is named by its own path,
 # since a stand-in found first would add its own start to every run.
 measure_programs() {
-    local python name program source
+    local python name program source most
     scripts/install_packages.sh hyperfine python3
     python=$(python3 -c 'import sys; print(sys.executable)')
     printf '\n%-22s %12s %12s %9s %9s\n' \
@@ -127,8 +143,21 @@ measure_programs() {
         # Columns: command, mean, deviation, median, user, system, least, most.
         awk -F, -v name="$name" 'NR > 1 { median[NR] = $4 * 1000; cpu[NR] = $5 + $6 }
             END { printf "%-22s %12.0f %12.0f %8.2fx %8.2fx\n", name, median[2], median[3],
-                  median[2] / median[3], cpu[2] / cpu[3] }' "$work/csv"
+                  median[2] / median[3], cpu[2] / cpu[3]
+                  print cpu[2] / cpu[3] > "'"$work"'/ratio" }' "$work/csv"
+        most=1.00
+        [ "$name" != method_calls ] || most=1.70
+        aim "$name beside python3, processor time" "$(cat "$work/ratio")" "$most"
     done
+}
+
+# measure_apart COMMAND...: a measurement with aims of its own; those that it prints join the table.
+measure_apart() {
+    "$@" | tee "$work/apart" || [ "${PIPESTATUS[0]}" -eq 1 ]
+    sed -nE 's/^(.*[^ ]) +([0-9.]+)x  aim ([0-9.]+)x .*/\1\t\2\t\3/p' "$work/apart" >"$work/told"
+    [ -s "$work/told" ] || refuse "'$*' எதையும் அளக்கவில்லை."
+    local text ratio most
+    while IFS=$'\t' read -r text ratio most; do aim "$text" "$ratio" "$most"; done <"$work/told"
 }
 
 # The compiler and the driver of the browser are told where they stand, as by ctest.
@@ -145,9 +174,13 @@ if [ "$what" = frames ] || [ "$what" = growth ]; then
 fi
 if [ "$what" = all ]; then
     build_measures
-    measure_native_build
-    printf '\nfront end, print statements over literals, best of 5\n'
+    measure_apart bench/front_end.sh
+    printf '\nfront end in one process, print statements over literals, best of 5\n'
     build/bench/bench/bench_front_end
     measure_scanner
+    measure_native_build
+    printf '\n'
+    measure_apart bench/web_step.sh
 fi
 measure_programs
+print_aims
