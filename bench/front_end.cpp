@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "generator/generator.h"
+#include "kept_memory.h"
 #include "lexer/lexer.h"
 #include "parser/parser.h"
 #include "sources.h"
@@ -92,6 +93,7 @@ void printTable() {
 }  // namespace
 
 int main(int argc, char** argv) {
+    keepFreedMemory();
     if (argc == 3) return translateOnce(argv[1], std::atoi(argv[2]));
     printTable();
 }

@@ -16,12 +16,14 @@
 #include "driver/phases.h"
 #include "driver/watch.h"
 #include "driver/web_road.h"
+#include "kept_memory.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
 void setUpProcess() {
+    keepFreedMemory();
     std::setlocale(LC_ALL, "");
     try {
         std::locale::global(std::locale(""));
