@@ -17,7 +17,7 @@ failures=()
 check() {
     local name=$1
     shift
-    say "▶ $name"
+    say "▶ $name (${SECONDS} s)"
     if "$@"; then
         passed=$((passed + 1))
     else
@@ -57,7 +57,7 @@ add_whole_programs() {
 run_tests() {
     local name=$1 build=$PWD/build/$2 status=0 total=0 failures_of_tests=0 unrun=0 unbuilt
     local report=$build/tests.xml
-    say "▶ $name"
+    say "▶ $name (${SECONDS} s)"
     rm -rf "$report" "$build/counts"
     ctest --test-dir "build/$2" -j "$(nproc)" --output-on-failure --no-tests=error \
         --output-junit "$report" "${@:3}" || status=$?
