@@ -12,14 +12,8 @@ requests=${1:-10000} clients=20 silent=50 port=6931
 scripts/build_release.sh
 scripts/install_packages.sh wrk
 
-work=$(mktemp -d)
-server=
-stop() {
-    [ -z "$server" ] || kill -INT "$server" 2>/dev/null || true
-    [ -z "$server" ] || wait "$server" 2>/dev/null || true
-    rm -rf "$work"
-}
-trap stop EXIT
+# shellcheck source=bench/background.sh
+. bench/background.sh
 
 # em++ and the browser are not the point here.
 mkdir "$work/bin"
@@ -31,14 +25,14 @@ head -c 5000000 /dev/urandom >"$work/five.bin"
     cd "$work"
     PATH="$work/bin:$PATH" TMPDIR="$work" exec "$root/பொழில்" --வலை a.பொழில் >output 2>&1
 ) &
-server=$!
+background=$!
 for _ in $(seq 100); do
     ! (: <>"/dev/tcp/127.0.0.1/$port") 2>/dev/null || break
     sleep 0.05
 done
 grep -q "🌍 பிரவுசர்" "$work/output" || refuse "சேவையகம் தொடங்கவில்லை: $(tail -n 1 "$work/output")"
 
-memory() { awk '/^VmRSS/ { print $2 }' "/proc/$server/status"; }
+memory() { awk '/^VmRSS/ { print $2 }' "/proc/$background/status"; }
 
 # wrk knows a duration alone: it ends itself, as by Ctrl+C, once all requests are answered.
 cat >"$work/count.lua" <<'LUA'
@@ -92,7 +86,7 @@ hold_silent() {
 say "⏱ சேவையகம் அளவிடப்படுகிறது..."
 hold_silent 2>/dev/null &
 holder=$!
-trap 'kill "$holder" 2>/dev/null || true; stop' EXIT
+trap 'kill "$holder" 2>/dev/null || true; stop_background' EXIT
 sleep 0.5
 echo "$requests requests each, $clients clients at a time, $silent silent connections"
 printf '%-14s %9s %6s %6s %10s %9s %9s %9s %9s %9s\n' \

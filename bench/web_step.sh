@@ -12,14 +12,8 @@ runs=${1:-5}
 
 scripts/build_release.sh
 scripts/setup_web.sh
-work=$(mktemp -d)
-compiler=
-stop() {
-    [ -z "$compiler" ] || kill -INT "$compiler" 2>/dev/null || true
-    [ -z "$compiler" ] || wait "$compiler" 2>/dev/null || true
-    rm -rf "$work"
-}
-trap stop EXIT
+# shellcheck source=bench/background.sh
+. bench/background.sh
 
 # By its own path: a stand-in found first would add its start to both.
 python=$(python3 -c 'import sys; print(sys.executable)')
@@ -53,7 +47,7 @@ EOF
     cd "$work"
     PATH="$work/bin:$PATH" TMPDIR="$work" EMSDK_PYTHON="$work/bin/python" exec "$root/பொழில்" a.பொழில்
 ) >"$work/said" 2>&1 &
-compiler=$!
+background=$!
 for _ in $(seq 600); do
     [ ! -f "$work/words" ] || break
     sleep 0.1

@@ -87,7 +87,8 @@ check_looks() {
         say "▷ clang-format, clang-tidy: பதிப்பு 14 இல்லை, தவிர்க்கப்பட்டது"
         skipped=$((skipped + 2))
     fi
-    check "நிரல் துணுக்குகள் (shellcheck)" shellcheck -x scripts/*.sh bench/*.sh .ci/run
+    check "நிரல் துணுக்குகள் (shellcheck)" shellcheck -x scripts/*.sh bench/*.sh \
+        tests/support/*.sh .ci/run
 }
 
 summary() {
