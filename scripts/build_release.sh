@@ -42,5 +42,5 @@ objects=$!
 trap 'wait "$objects" || true' EXIT
 configure release
 build_with_progress "பொழிலைக் கட்ட முடியவில்லை." "🔨 பொழில் கட்டப்படுகிறது:" \
-    cmake --build --preset release --target pozhil
+    cmake --build --preset release --target pozhil companion
 wait "$objects" || exit 1

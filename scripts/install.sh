@@ -21,7 +21,7 @@ scripts/build_release.sh
 # The compiler at the root looks for the library in this checkout, the installed one beside itself.
 configure install "-DCMAKE_INSTALL_PREFIX=$prefix" "-DPOZHIL_LIBRARY_DIR=$prefix/lib/pozhil/"
 build_with_progress "பொழிலைக் கட்ட முடியவில்லை." "🔨 பொழில் கட்டப்படுகிறது:" \
-    cmake --build --preset install --target pozhil
+    cmake --build --preset install --target pozhil companion
 run_quietly "'$prefix' கோப்புறையில் நிறுவ முடியவில்லை." cmake --install build/install
 # What it prepares for em++ knows the folder in which it lies, so it is made there.
 installed="$prefix/lib/pozhil"

@@ -7,6 +7,7 @@
 #include "ui/web_form.h"
 
 void Generator::visitExpression(const Expression* expression) {
+    visited.expression = expression;
     if (visitValue(expression) || visitOperation(expression)) return;
     if (const WidgetNode* widget = widgetOf(expression)) {
         return web->widgets.writeValue(*widget);

@@ -152,6 +152,12 @@ public:
     std::map<std::string, bool> localVariables;
     int indentLevel = 0;
 
+    /// What was visited last, for tools that point at what was refused without a line.
+    struct Visited {
+        const Expression* expression = nullptr;  ///< Null behind the begin of a statement.
+        const Statement* statement = nullptr;
+    } visited;
+
 private:
     /// One section of the generated file: fixed text, or text that a function writes.
     struct Section {

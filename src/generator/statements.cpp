@@ -5,6 +5,7 @@
 
 void Generator::visitStatement(const Statement* statement) {
     refuseEndlessText();
+    visited = {nullptr, statement};
     if (visitSimpleStatement(statement) || visitIndentingStatement(statement)) return;
     throw_static_error("பொழில்-399", "Unknown statement type in generator");
 }

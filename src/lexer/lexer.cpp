@@ -60,6 +60,7 @@ std::vector<Token> Lexer::tokenize() {
         if (token.type == TokenType::UNKNOWN) continue;
         if (token.type == TokenType::NEWLINE) atLineStart = true;
         tokens.push_back(std::move(token));
+        noteEnds(tokens);
     }
 
     while (indentStack.back() > 0) {
@@ -67,7 +68,13 @@ std::vector<Token> Lexer::tokenize() {
         tokens.push_back(make(TokenType::DEDENT, "0"));
     }
     tokens.push_back(make(TokenType::END_OF_FILE, ""));
+    noteEnds(tokens);
     return tokens;
+}
+
+/// The tokens since the last call end at the cursor; those of indentation are empty.
+void Lexer::noteEnds(const std::vector<Token>& tokens) {
+    if (tokenEnds != nullptr) tokenEnds->resize(tokens.size(), position);
 }
 
 /// Measures a logical line. False if the main loop must look again before it takes a token: the
@@ -100,6 +107,7 @@ bool Lexer::startLine(std::vector<Token>& tokens) {
     }
     atLineStart = false;
     emitIndentation(indent, tokens);
+    noteEnds(tokens);
     return true;
 }
 

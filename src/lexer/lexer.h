@@ -57,11 +57,14 @@ public:
     std::vector<int> indentStack = {0};  ///< Widths of the open blocks.
     int lineStart = 0;                   ///< Byte offset where the logical line began.
     bool atLineStart = true;
+    /// Takes the byte offset behind each token, for tools that point at them; null if nobody asks.
+    std::vector<int>* tokenEnds = nullptr;
 
 private:
     std::size_t sourceLineEnd;  ///< Byte offset of the end of the file's line last begun.
 
     // tokenize
+    void noteEnds(const std::vector<Token>& tokens);
     bool startLine(std::vector<Token>& tokens);
     void emitIndentation(int indent, std::vector<Token>& tokens);
 

@@ -42,7 +42,8 @@ std::unique_ptr<Statement> Parser::parseIfStatement() {
     std::unique_ptr<Statement> elseBranch;
     if (checkKeyword("இல்லைஎனில்")) {
         const Nesting level(*this);
-        elseBranch = parseIfStatement();
+        const int first = current;
+        elseBranch = noted(first, parseIfStatement());
     } else if (checkKeyword("இல்லை")) {
         advance();
         expectColon();

@@ -63,7 +63,8 @@ std::unique_ptr<Expression> Parser::parseExpression() {
 ///            | "காட்சி_நிலை" "." name ":" assignment
 std::unique_ptr<Expression> Parser::parseAssignment() {
     const Nesting level(*this);
-    if (startsArrowLambda()) return parseArrowLambda();
+    const int first = current;
+    if (startsArrowLambda()) return noted(first, parseArrowLambda());
 
     auto left = parseTernary();
     if (check(TokenType::COLON)) {
@@ -79,13 +80,13 @@ std::unique_ptr<Expression> Parser::parseAssignment() {
             auto node = std::make_unique<SetMemberExpression>(std::move(member->object),
                                                               member->name, std::move(value));
             node->line = line;
-            return node;
+            return noted<Expression>(first, std::move(node));
         }
     }
     const bool assigns = check(TokenType::EQUALS) || check(TokenType::ASSIGN_OPERATOR) ||
                          check(TokenType::RESERVED_132) || check(TokenType::INCREMENT) ||
                          check(TokenType::DECREMENT);
-    return assigns ? assignTo(std::move(left)) : std::move(left);
+    return assigns ? noted(first, assignTo(std::move(left))) : std::move(left);
 }
 
 /// Raises 211 at the operator's line for a target that is no variable, member or element.
@@ -119,6 +120,7 @@ std::unique_ptr<Expression> Parser::assignTo(std::unique_ptr<Expression> target)
 /// ternary = or [ ( "எனில்" | "?" ) expression ( "இல்லைஎனில்" | ":" ) ternary ]
 /// The two spellings mix freely. Raises 202 for a missing closer.
 std::unique_ptr<Expression> Parser::parseTernary() {
+    const int first = current;
     auto condition = parseLogicalOr();
     if (!checkKeyword("எனில்") && !check(TokenType::QUESTION)) return condition;
     const int line = advance().line;
@@ -134,7 +136,7 @@ std::unique_ptr<Expression> Parser::parseTernary() {
     auto node = std::make_unique<TernaryExpression>(std::move(condition), std::move(thenBranch),
                                                     std::move(elseBranch));
     node->line = line;
-    return node;
+    return noted<Expression>(first, std::move(node));
 }
 
 /// The level of the operator at the cursor; 0 if none stands there.
@@ -149,6 +151,7 @@ int Parser::operatorLevel() {
 
 /// level = tighter { word tighter }, for the levels from `loosest` on. All associate to the left.
 std::unique_ptr<Expression> Parser::parseOperators(int loosest) {
+    const int first = current;
     auto left = parseUnary();
     for (int level = operatorLevel(); level >= loosest; level = operatorLevel()) {
         Token op = advance();
@@ -164,6 +167,7 @@ std::unique_ptr<Expression> Parser::parseOperators(int loosest) {
                                                        std::move(right));
         }
         left->line = line;
+        left = noted(first, std::move(left));
     }
     return left;
 }
@@ -197,19 +201,22 @@ std::unique_ptr<Expression> Parser::parseUnary() {
                           check(TokenType::UNARY_MINUS);
     if (!isPrefix) return parseCall();
     const Nesting level(*this);
+    const int first = current;
     Token op = advance();
     auto right = parseUnary();
     deepen(expressionDepth, 0);
     const int line = op.line;
     auto node = std::make_unique<UnaryExpression>(std::move(op), std::move(right));
     node->line = line;
-    return node;
+    return noted<Expression>(first, std::move(node));
 }
 
 /// call = primary { "(" arguments | "." name | "[" index }
 std::unique_ptr<Expression> Parser::parseCall() {
+    const int first = current;
     auto left = parsePrimary();
     while (true) {
+        left = noted(first, std::move(left));
         const int depth = expressionDepth;
         if (check(TokenType::LEFT_PAREN)) {
             const int line = advance().line;

@@ -38,6 +38,9 @@ std::unique_ptr<Statement> Parser::parseImportStatement() {
     Parser module(Lexer(readModule(path, operand.line), "").tokenize(), "", "");
     module.importedFiles = importedFiles;
     module.nesting = nesting;
+    module.places = places;
+    module.readModuleText = readModuleText;
+    module.isModule = true;
     Program program = module.parse();
     mergeModule(module, std::move(program));
     return nullptr;
@@ -48,7 +51,7 @@ std::unique_ptr<Statement> Parser::parseImportStatement() {
 std::string Parser::readModule(const std::string& path, int line) {
     std::string text;
     for (const std::string& candidate : {path, kLibraryDirectory + path}) {
-        if (readFile(candidate, text)) return text;
+        if (readModuleText(candidate, text)) return text;
     }
     பிழை("பொழில்-281", line);
 }

@@ -6,12 +6,14 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "files.h"
 #include "lexer/token.h"
 #include "parser/definition_log.h"
 #include "parser/gathered_parts.h"
@@ -21,6 +23,7 @@
 #include "syntax/expressions.h"
 #include "syntax/literals.h"
 #include "syntax/nesting.h"
+#include "syntax/node_places.h"
 #include "syntax/statements.h"
 
 class Parser {
@@ -175,6 +178,11 @@ public:
     std::map<std::string, std::map<std::string, int>> enumerations;
     int functionDepth = 0;  ///< Function bodies around the cursor.
 
+    // For tools that ask more of a parse than the tree.
+    NodePlaces* places = nullptr;  ///< Takes where nodes stand; null if nobody asks.
+    /// Gives an imported file's text; false if there is none.
+    std::function<bool(const std::string& path, std::string& text)> readModuleText = readFile;
+
 private:
     /// Counts one level of nesting for as long as it lives; raises 291 when there are too many.
     class Nesting {
@@ -196,6 +204,16 @@ private:
     Token& take() {
         if (!is_at_end()) current++;
         return tokens[static_cast<std::size_t>(std::max(current - 1, 0))];
+    }
+
+    /// Hands `node` on, and notes that it was parsed from the tokens between `first` and the
+    /// cursor.
+    template <typename Node>
+    std::unique_ptr<Node> noted(int first, std::unique_ptr<Node> node) {
+        if (places != nullptr && node != nullptr) {
+            places->note(*node, isModule ? NodePlaces::kInModule : TokenSpan{first, current});
+        }
+        return node;
     }
 
     // Looking at tokens without moving
@@ -348,6 +366,7 @@ private:
     void drop(PropertyMap properties);
     std::vector<std::unique_ptr<Statement>> dropped;
 
+    bool isModule = false;    ///< What is parsed here was imported.
     int nesting = 0;          ///< Statements and expressions around the cursor.
     int expressionDepth = 0;  ///< Depth of the expression tree that was parsed last.
     int deepestPart = 0;      ///< Depth of the deepest tree in the widget under the cursor.

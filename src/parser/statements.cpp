@@ -13,16 +13,17 @@ constexpr std::string_view kLambdaWord = "வினை";
 /// a structure, for `பொது`.
 std::unique_ptr<Statement> Parser::parseStatement(bool inStruct) {
     const Nesting level(*this);
-    if (const StatementRule rule = statementRule()) return (this->*rule)();
+    const int first = current;
+    if (const StatementRule rule = statementRule()) return noted(first, (this->*rule)());
     // செயல் = 1 goes on down, as an assignment to a variable of that name.
     if (checkKeyword("செயல்") && next().type != TokenType::EQUALS) {
-        return parseFunctionDefinitionStatement(inStruct);
+        return noted(first, parseFunctionDefinitionStatement(inStruct));
     }
-    if (checkKeyword("திரும்பு")) return parseReturnStatement();
+    if (checkKeyword("திரும்பு")) return noted(first, parseReturnStatement());
     if (inStruct && checkKeyword("பொது")) return nullptr;
     if (check(TokenType::DEDENT) || check(TokenType::NEWLINE)) return nullptr;
     refuseMisplacedTokens();
-    return parsePlainStatement(inStruct);
+    return noted(first, parsePlainStatement(inStruct));
 }
 
 /// The rule of the word that a statement begins with, in the order of the tests; null if none.

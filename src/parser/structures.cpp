@@ -54,6 +54,7 @@ void Parser::parseStructMember(StructBody& body) {
 /// A method that stands directly in the body. Unlike one in a group it isn't asked for its
 /// receiver. Meant.
 void Parser::parseDirectMethod(StructBody& body) {
+    const int first = current;
     advance();
     const Token name = expectName("பொழில்-231");
     consume(TokenType::LEFT_PAREN, "பொழில்-203");
@@ -62,17 +63,20 @@ void Parser::parseDirectMethod(StructBody& body) {
     auto block = parseFunctionBody();
     std::unique_ptr<Statement> method = std::make_unique<FunctionDefinitionStatement>(
         name, std::move(parameters), std::move(block));
+    method = noted(first, std::move(method));
     storeMember(body, method, false);
     skipNewlines();
 }
 
 /// field = identifier "=" expression NEWLINE
 void Parser::parseField(StructBody& body, bool isPrivate) {
+    const int first = current;
     std::string name = advance().text;
     advance();
     auto value = parseExpression();
-    body.fields.push_back(std::make_unique<VarDeclaration>(std::move(name), std::move(value),
-                                                           VarType::Unset, isPrivate));
+    body.fields.push_back(
+        noted(first, std::make_unique<VarDeclaration>(std::move(name), std::move(value),
+                                                      VarType::Unset, isPrivate)));
     expectNewline();
     skipNewlines();
 }

@@ -14,7 +14,8 @@ std::unique_ptr<Statement> Parser::parseWidget() {
     const Nesting level(*this);
     const int deepestOutside = deepestPart;
     deepestPart = 0;
-    auto widget = parseWidgetByWord();
+    const int first = current;
+    auto widget = noted(first, parseWidgetByWord());
     // What the widget holds counts for the depth of an expression that the widget stands in.
     deepen(deepestPart, 0);
     deepestPart = std::max(deepestOutside, expressionDepth);

@@ -1,0 +1,44 @@
+// Gathers what the rules find in one source.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "companion/check/finding.h"
+#include "companion/check/source_text.h"
+
+namespace companion {
+
+class Findings {
+public:
+    /// `source` must outlive it.
+    explicit Findings(const SourceText& source) : source(source) {}
+
+    /// A finding of the rule `code`; `parts` fill the marks of its message.
+    void add(std::string_view code, Range range, const std::vector<std::string>& parts = {});
+    /// One in other words: a refusal of the compiler.
+    void add(Severity severity, const std::string& code, Range range, const std::string& message);
+
+    bool hasErrors() const;
+    /// True if a rule whose code begins with `prefix` found something that touches `range`.
+    bool holds(std::string_view prefix, Range range) const;
+
+    /// All of them in the order of their places, each once, without those that a comment in their
+    /// line names.
+    std::vector<Finding> inOrder() const;
+
+private:
+    struct Entry {
+        Range range;
+        Severity severity;
+        std::string code;
+        std::string message;
+    };
+    bool isSilenced(const Entry& entry) const;
+
+    const SourceText& source;
+    std::vector<Entry> entries;
+};
+
+}  // namespace companion
