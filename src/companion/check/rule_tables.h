@@ -14,5 +14,6 @@ const RuleTable& nameRules();    ///< துணை-2..: what the compiler refuse
 const RuleTable& nativeRules();  ///< துணை-3..: what only g++ refuses.
 const RuleTable& stopRules();    ///< துணை-4..: what ends the program.
 const RuleTable& habitRules();   ///< துணை-5..: what runs and is wrong.
+const RuleTable& kindRules();    ///< துணை-58.: the same, by the kinds of values.
 
 }  // namespace companion

@@ -11,7 +11,7 @@ const std::vector<Rule>& allRules() {
     static const std::vector<Rule> rules = [] {
         std::vector<Rule> all;
         for (const RuleTable& table :
-             {markRules(), nameRules(), nativeRules(), stopRules(), habitRules()}) {
+             {markRules(), nameRules(), nativeRules(), stopRules(), habitRules(), kindRules()}) {
             all.insert(all.end(), table.begin(), table.end());
         }
         return all;
