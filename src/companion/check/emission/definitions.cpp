@@ -134,20 +134,26 @@ unsigned codePointOfBytes(std::string_view bytes) {
     return value;
 }
 
-/// True for what C++ takes in a name, as far as people type it: ASCII, and the letters, signs and
-/// digits of scripts, but no marks, pictures or the like.
+struct CodePoints {
+    unsigned first;
+    unsigned last;
+};
+
+/// What g++ takes in a name beside ASCII. Marks like … and → aren't among it.
+constexpr CodePoints kNameCharacters[] = {
+    {0xA8, 0xA8},     {0xAA, 0xAA},     {0xAD, 0xAD},     {0xAF, 0xAF},       {0xB2, 0xB5},
+    {0xB7, 0xBA},     {0xBC, 0xBE},     {0xC0, 0xD6},     {0xD8, 0xF6},       {0xF8, 0x167F},
+    {0x1681, 0x180D}, {0x180F, 0x1FFF}, {0x200B, 0x200D}, {0x202A, 0x202E},   {0x203F, 0x2040},
+    {0x2054, 0x2054}, {0x2060, 0x218F}, {0x2460, 0x24FF}, {0x2776, 0x2793},   {0x2C00, 0x2DFF},
+    {0x2E80, 0x2FFF}, {0x3004, 0x3007}, {0x3021, 0x302F}, {0x3031, 0xD7FF},   {0xF900, 0xFD3D},
+    {0xFD40, 0xFDCF}, {0xFDF0, 0xFE44}, {0xFE47, 0xFFFD}, {0x10000, 0xEFFFD},
+};
+
 bool isNameCharacter(unsigned code) {
-    if (code < 0x80) return true;
-    if (code >= 0x0BF0 && code <= 0x0BFF) return false;  // ௰ ௹ and their like
-    if (code < 0xC0) return code == 0xAA || code == 0xB5 || code == 0xB7 || code == 0xBA;
-    if (code == 0xD7 || code == 0xF7) return false;
-    if (code >= 0x2000 && code < 0x2C00) {
-        return code == 0x203F || code == 0x2040 || code == 0x2071 || code == 0x207F ||
-               (code >= 0x2090 && code <= 0x209C) || (code >= 0x2100 && code < 0x2190);
-    }
-    if (code >= 0x3000 && code <= 0x3004) return false;
-    if (code >= 0xE000 && code < 0xF900) return false;
-    return code < 0x1F000;
+    return code < 0x80 || std::any_of(std::begin(kNameCharacters), std::end(kNameCharacters),
+                                      [&](const CodePoints& range) {
+                                          return code >= range.first && code <= range.last;
+                                      });
 }
 
 std::string firstWrongCharacter(const std::string& name) {
