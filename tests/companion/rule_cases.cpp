@@ -28,9 +28,13 @@ std::string describeFindings(const std::vector<companion::Finding>& findings) {
     return text.str();
 }
 
+/// As from the folder of the program: there lie its modules.
 std::vector<companion::Finding> check(const std::string& path) {
+    const fs::path folder = fs::u8path(path).parent_path();
     const companion::SourceText source(path, readText(path));
-    return companion::checkSource(source, readFile);
+    return companion::checkSource(source, [&](const std::string& module, std::string& text) {
+        return readFile((folder / fs::u8path(module)).u8string(), text);
+    });
 }
 
 bool isRight(const CaseFile& file) {

@@ -2,6 +2,7 @@
 #include <string_view>
 
 #include "companion/check/emission/walk.h"
+#include "lexer/holds.h"
 
 namespace companion {
 
@@ -21,7 +22,7 @@ const BuiltinFacts kBuiltinFacts[] = {
     {"இப்போதுநேரம்", "", kTime, VarType::Time},
     {"என்னவகை", "a", kText, VarType::Dynamic},
     {"நீளம்", "a", kCount, VarType::Integer},
-    {"உள்ளீடு", "t", kText, VarType::String},
+    {"உள்ளீடு", "t", kTyped, VarType::String},
     {"எண்", "a", kWhole | kDecimal, VarType::Dynamic},
     {"வை", "raa", kAnyKind, VarType::Dynamic},
     {"நீக்கு", "ra", kEmpty, VarType::Dynamic},
@@ -64,7 +65,8 @@ bool isEmptyText(const Expression& node) {
     return text != nullptr && text->value.empty();
 }
 
-/// The whole number that is written there; false if it isn't one.
+}  // namespace
+
 bool readsWhole(const Expression& node, long long& number) {
     const auto* literal = nodeAs<NumberLiteral>(&node);
     if (literal == nullptr || literal->value.empty() || literal->value.size() > 17) return false;
@@ -76,15 +78,16 @@ bool readsWhole(const Expression& node, long long& number) {
     return true;
 }
 
-}  // namespace
-
 bool EmissionWalk::isBuiltin(const std::string& name) const {
     return name == "வரம்பு" || factsOfBuiltin(name) != nullptr;
 }
 
 Value EmissionWalk::walkBuiltin(const CallExpression& call, const std::string& name) {
     const std::vector<Value> values = walkArguments(call);
-    if (name == "வரம்பு") return valueOf(Cpp::Null);
+    if (name == "வரம்பு") {
+        tell("துணை-597", call, {textOf(call)});
+        return valueOf(Cpp::Null);
+    }
     const BuiltinFacts& row = *factsOfBuiltin(name);
     if (values.size() == row.arguments.size()) {
         for (std::size_t i = 0; i < values.size(); i++) {
@@ -125,11 +128,25 @@ void EmissionWalk::checkArgument(const CallExpression& call, std::size_t index, 
         requireNumber(node, value, kDecimal);
     } else if (wanted == 'w' && (kinds & kWhole) == 0) {
         tellStop("துணை-411", node, parts);
-    } else if (wanted == 't' && (kinds & kText) == 0) {
+    } else if (wanted == 't' && (kinds & kWholeTexts) == 0) {
         tellStop("துணை-410", node, parts);
     } else if (wanted == 'm' && (kinds & kTime) == 0) {
         tellStop("துணை-412", node, parts);
     }
+}
+
+/// A call as a statement whose result alone would be of use.
+void EmissionWalk::checkResultIsKept(const Expression& expression) {
+    static constexpr std::string_view kUseful[] = {
+        "என்னவகை", "நீளம்",    "எண்",     "சீரற்ற_எண்", "வர்க்கமூலம்", "அடுக்கு",   "தனிமதிப்பு",
+        "மேல்எண்",  "கீழ்எண்",   "சைன்",    "காஸ்",     "டேன்",      "மடக்கு",    "பிளவு",
+        "பதில்",   "பெரியஎ", "சிறியஎ", "தேதி",    "நேரம்",     "முழுவதும்", "கோப்பு_உள்ளதா",
+    };
+    const auto* call = nodeAs<CallExpression>(&expression);
+    const auto* callee = call == nullptr ? nullptr : nodeAs<VariableAccess>(call->callee.get());
+    if (callee == nullptr || !holds(kUseful, callee->name)) return;
+    if (compiled.parser->functionParameters.count(callee->name) != 0) return;
+    tell("துணை-593", *call, {textOf(*call)});
 }
 
 /// Calls that are wrong by what is written there.
@@ -141,9 +158,8 @@ void EmissionWalk::checkBuiltinCall(const CallExpression& call, const std::strin
         tell("துணை-317", call, {textOf(*arguments[0]), textOf(*arguments[1])});
     } else if (name == "செல்க" && !knowledge.isApplication) {
         tell("துணை-318", call);
-    } else if (name == "பிளவு" && arguments.size() == 2 && isEmptyText(*arguments[1])) {
-        tell("துணை-429", *arguments[1], {name});
-    } else if (name == "பதில்" && arguments.size() == 3 && isEmptyText(*arguments[1])) {
+    } else if ((name == "பிளவு" || name == "பதில்") && arguments.size() >= 2 &&
+               isEmptyText(*arguments[1])) {
         tell("துணை-429", *arguments[1], {name});
     } else if (name == "சீரற்ற_எண்" && arguments.size() == 2) {
         long long least = 0;

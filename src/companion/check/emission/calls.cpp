@@ -86,7 +86,9 @@ Value EmissionWalk::walkConstructor(const CallExpression& call, const std::strin
     for (int depth = 0; at != structures.end() && depth < 1000; depth++) {
         const StructDefinitionStatement& structure = *at->second;
         for (const auto& method : structure.methods) {
-            if (method->parameters.empty()) tell("துணை-304", call, {method->name.text, name});
+            if (method->parameters.empty()) {
+                tellWord("துணை-304", *method, method->name.text, {method->name.text, name});
+            }
             if (start == nullptr && method->name.text == "துவக்கம்") start = method.get();
         }
         if (!structure.hasParent) break;
@@ -113,6 +115,7 @@ Value EmissionWalk::walkMemberCall(const CallExpression& call, const GetExpressi
     const bool isInputCall = member == "பிழைசெய்தி" || member == "பிழை_அழி" ||
                              member == "கொண்டுள்ளது" || member == "தொடக்கம்" || member == "முடிவு";
     if (object != nullptr && isInputCall) {
+        checkInputMember(call, object->name, member);
         walkArguments(call);
         return Value{};
     }

@@ -199,13 +199,17 @@ void EmissionWalk::checkFunctionName(const FunctionDefinitionStatement& function
         tellWord("துணை-306", function, name, {name, wrong});
     }
     const std::string key = name + "/" + std::to_string(count);
-    if (!emittedFunctions.insert(key).second) tellWord("துணை-308", function, name, {name});
+    if (!emittedFunctions.insert(key).second && !importsItself) {
+        tellWord("துணை-308", function, name, {name});
+    }
 }
 
 void EmissionWalk::walkStructure(const StructDefinitionStatement& structure) {
     const std::string& name = structure.name.text;
     checkLocalName(structure, name);
-    if (!emittedStructures.insert(name).second) tellWord("துணை-341", structure, name, {name});
+    if (!emittedStructures.insert(name).second && !importsItself) {
+        tellWord("துணை-341", structure, name, {name});
+    }
     variableTypes[name] = VarType::Object;
     checkMethods(structure);
     currentStructure = name;

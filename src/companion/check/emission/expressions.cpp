@@ -5,6 +5,7 @@
 #include "companion/check/emission/walk.h"
 #include "lexer/characters.h"
 #include "lexer/holds.h"
+#include "lexer/utf8.h"
 
 namespace companion {
 
@@ -49,6 +50,30 @@ std::string firstRefusedEscape(const std::string& text) {
     return "";
 }
 
+bool isNumberText(const std::string& text) {
+    return !text.empty() && text.find_first_not_of("0123456789.") == std::string::npos &&
+           text.find_first_of("0123456789") != std::string::npos;
+}
+
+/// A backslash that C++ drops, since no mark of its own stands behind it.
+std::string firstLostBackslash(const std::string& text) {
+    static constexpr std::string_view kMarks = "ntrabfve0123456789'\"\\?xuU";
+    for (std::size_t at = text.find('\\'); at != std::string::npos; at = text.find('\\', at + 2)) {
+        if (at + 1 < text.size() && kMarks.find(text[at + 1]) == std::string_view::npos) {
+            const auto length = getUTF8SequenceLength(text[at + 1]);
+            return text.substr(at, 1 + static_cast<std::size_t>(length));
+        }
+    }
+    return "";
+}
+
+/// C:\new, whose backslash makes another mark of the letter behind it.
+bool isWindowsPath(const std::string& text) {
+    return text.size() > 3 && isAsciiWordByte(static_cast<unsigned char>(text[0])) &&
+           !isAsciiDigit(static_cast<unsigned char>(text[0])) && text[1] == ':' &&
+           text[2] == '\\' && text[3] != '\\';
+}
+
 }  // namespace
 
 Value EmissionWalk::walk(const Expression& expression) {
@@ -66,8 +91,10 @@ Value EmissionWalk::walk(const Expression& expression) {
 
 std::optional<Value> EmissionWalk::walkLiteral(const Expression& expression) {
     if (const auto* node = nodeAs<NumberLiteral>(&expression)) return walkNumber(*node);
-    if (nodeAs<DoubleLiteral>(&expression) != nullptr) {
-        return valueOf(Cpp::LongDouble, VarType::Decimal);
+    if (const auto* node = nodeAs<DoubleLiteral>(&expression)) {
+        Value value = valueOf(Cpp::LongDouble, VarType::Decimal);
+        value.facts.isOnlyZero = node->value.find_first_not_of("0.") == std::string::npos;
+        return value;
     }
     if (const auto* node = nodeAs<StringLiteral>(&expression)) {
         return walkText(*node, node->value);
@@ -114,6 +141,7 @@ Value EmissionWalk::walkNumber(const NumberLiteral& literal) {
     const std::string& digits = literal.value;
     if (digits.empty() || !isAsciiDigit(static_cast<unsigned char>(digits[0]))) return Value{};
     value.isLiteralZero = hasOnlyZeros(digits);
+    value.facts.isOnlyZero = value.isLiteralZero;
     const bool isOctal = digits.size() > 1 && digits[0] == '0';
     if (isOctal && digits.find_first_of("89") != std::string::npos) {
         const std::size_t first = digits.find_first_not_of('0');
@@ -131,8 +159,14 @@ Value EmissionWalk::walkText(const Expression& node, const std::string& text) {
         tell("துணை-321", node, {textOf(node)});
     } else if (const std::string escape = firstRefusedEscape(text); !escape.empty()) {
         tell("துணை-319", node, {escape});
+    } else if (isWindowsPath(text)) {
+        tell("துணை-598", node, {textOf(node)});
+    } else if (const std::string lost = firstLostBackslash(text); !lost.empty()) {
+        tell("துணை-599", node, {lost});
     }
-    return valueOf(Cpp::Text, VarType::String);
+    Value value = valueOf(Cpp::Text, VarType::String);
+    if (isNumberText(text)) value.facts.kinds = kDigits;
+    return value;
 }
 
 Value EmissionWalk::walkVariable(const VariableAccess& access) {
@@ -156,6 +190,7 @@ Value EmissionWalk::walkAssignment(const AssignmentExpression& assignment) {
     variableTypes[name] = kind;
     const Value target = targetOf(assignment);
     const Value value = walk(*assignment.value);
+    checkGivesSomething(*assignment.value, value);
     const bool isLocalTarget = !currentFunction.empty() && isLocal(name);
     if (assignment.op.type == TokenType::ASSIGN_OPERATOR) {
         walkCompound(assignment, target, value);
@@ -241,10 +276,36 @@ void EmissionWalk::walkCompound(const AssignmentExpression& assignment, const Va
     }
 }
 
+/// A call of what gives nothing back, where something is asked for.
+void EmissionWalk::checkGivesSomething(const Expression& node, const Value& value) {
+    if (!knowledge.isComplete || nodeAs<CallExpression>(&node) == nullptr) return;
+    if (isWithin(value.facts.kinds, kEmpty)) tell("துணை-592", node, {textOf(node)});
+}
+
+/// These words belong to the inputs of an application: no variable is read.
+void EmissionWalk::checkInputMember(const Expression& node, const std::string& object,
+                                    const std::string& member) {
+    struct Cure {
+        std::string_view member;
+        std::string_view function;
+    };
+    static constexpr Cure kCures[] = {
+        {"நீளம்", "நீளம்"}, {"பெரியஎழுத்து", "பெரியஎ"}, {"சிறியஎழுத்து", "சிறியஎ"}};
+    if (knowledge.isApplication) return;
+    for (const Cure& cure : kCures) {
+        if (cure.member != member) continue;
+        std::string called(cure.function);
+        called += "(" + object + ")";
+        return tell("துணை-595", node, {object + "." + member, called});
+    }
+    tell("துணை-589", node, {object + "." + member});
+}
+
 Value EmissionWalk::walkMember(const GetExpression& access) {
     const auto* variable = nodeAs<VariableAccess>(access.object.get());
     const std::string& member = access.name.text;
     if (variable != nullptr && holds(kInputWords, member)) {
+        checkInputMember(access, variable->name, member);
         if (member == "வெறுமை" || member == "வெறுமைஇல்லை") return valueOf(Cpp::Bool);
         return anyOf(member == "நீளம்" ? kWhole : kText);
     }
@@ -283,7 +344,7 @@ Value EmissionWalk::walkIndex(const IndexExpression& access) {
     if (object.cpp == Cpp::Unknown || kinds == kNoKinds) return anyOf(kinds);
     Kinds elements = kNoKinds;
     if ((kinds & (kList | kMap)) != 0) elements |= object.facts.elements;
-    if ((kinds & kText) != 0) elements |= kTexts;
+    if ((kinds & kWholeTexts) != 0) elements |= kTexts;
     return anyOf(elements == kNoKinds ? kAnyKind : elements);
 }
 
@@ -295,8 +356,8 @@ void EmissionWalk::checkIndex(const Expression& index, const Value& object, cons
         tellStop("துணை-417", index, {textOf(index)});
     } else if (isWithin(kinds, kCount)) {
         tellStop("துணை-405", index, {textOf(index)});
-    } else if ((isWithin(object.facts.kinds, kList | kText) && (kinds & kWhole) == 0) ||
-               (isWithin(object.facts.kinds, kMap) && (kinds & kText) == 0)) {
+    } else if ((isWithin(object.facts.kinds, kList | kWholeTexts) && (kinds & kWhole) == 0) ||
+               (isWithin(object.facts.kinds, kMap) && (kinds & kWholeTexts) == 0)) {
         const bool isMap = isWithin(object.facts.kinds, kMap);
         tellStop(isMap ? "துணை-422" : "துணை-421", index, {textOf(index)});
     }

@@ -1,5 +1,8 @@
 #include "companion/check/emission/kinds.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace companion {
 
 Kinds kindsOf(Cpp cpp) {
@@ -41,10 +44,9 @@ Value anyOf(Kinds kinds, VarType guess, Kinds elements) {
 
 bool canBeEqual(Kinds left, Kinds right) {
     if (left == kNoKinds || right == kNoKinds) return true;
-    for (const Kinds family : {kNumbers, kTexts, kTruth}) {
-        if ((left & family) != 0 && (right & family) != 0) return true;
-    }
-    return false;
+    constexpr Kinds kFamilies[] = {kNumbers, kTexts, kTruth};
+    return std::any_of(std::begin(kFamilies), std::end(kFamilies),
+                       [&](Kinds family) { return (left & family) != 0 && (right & family) != 0; });
 }
 
 bool isArithmetic(Cpp cpp) {

@@ -25,10 +25,13 @@ constexpr Kinds kFunction = 1U << 10U;
 constexpr Kinds kTime = 1U << 11U;
 constexpr Kinds kEmpty = 1U << 12U;  ///< A name that was never given anything.
 constexpr Kinds kNull = 1U << 13U;
-constexpr Kinds kAnyKind = (1U << 14U) - 1;
+constexpr Kinds kDigits = 1U << 14U;  ///< A number in quotes.
+constexpr Kinds kTyped = 1U << 15U;   ///< A text that was typed in.
+constexpr Kinds kAnyKind = (1U << 16U) - 1;
 
 constexpr Kinds kNumbers = kWhole | kCount | kDecimal;
-constexpr Kinds kTexts = kText | kLetter;
+constexpr Kinds kWholeTexts = kText | kDigits | kTyped;
+constexpr Kinds kTexts = kWholeTexts | kLetter;
 
 constexpr bool isWithin(Kinds kinds, Kinds others) {
     return kinds != kNoKinds && (kinds & ~others) == 0;
@@ -57,6 +60,7 @@ enum class Cpp {
 struct Facts {
     Kinds kinds = kNoKinds;
     Kinds elements = kNoKinds;
+    bool isOnlyZero = false;  ///< Nothing but a zero that is written out.
 };
 constexpr Facts kAnything = {kAnyKind, kAnyKind};
 

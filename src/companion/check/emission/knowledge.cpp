@@ -29,9 +29,14 @@ bool Knowledge::takeGrowth() { return std::exchange(hasGrown, false); }
 
 void Knowledge::join(Facts& into, const Facts& facts) {
     const Facts before = into;
+    const bool isFirst = into.kinds == kNoKinds;
     into.kinds |= facts.kinds;
     into.elements |= facts.elements;
-    hasGrown |= into.kinds != before.kinds || into.elements != before.elements;
+    if (facts.kinds != kNoKinds) {
+        into.isOnlyZero = facts.isOnlyZero && (isFirst || before.isOnlyZero);
+    }
+    hasGrown |= into.kinds != before.kinds || into.elements != before.elements ||
+                into.isOnlyZero != before.isOnlyZero;
 }
 
 }  // namespace companion

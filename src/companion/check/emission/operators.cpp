@@ -96,8 +96,13 @@ Value EmissionWalk::operate(const BinaryExpression& binary, const Sides& sides) 
         value.guess = kind;
         return value;
     }
+    if (op == "இணை" || op == "கூட்டு") {
+        checkGivesSomething(*binary.left, sides.left);
+        checkGivesSomething(*binary.right, sides.right);
+    }
     if (op == "இணை") return valueOf(Cpp::Text, kind);
     if (op == "கூட்டு") {
+        checkSum(binary, sides);
         return anyOf(sumKinds(sides.left.facts.kinds, sides.right.facts.kinds), kind);
     }
     if (op == "வகு") return divide(binary, sides, kind);
@@ -105,10 +110,22 @@ Value EmissionWalk::operate(const BinaryExpression& binary, const Sides& sides) 
     return operateNative(binary, sides, kind);
 }
 
+/// Two texts are joined: 5 and 3 in quotes make 53.
+void EmissionWalk::checkSum(const BinaryExpression& binary, const Sides& sides) {
+    const Kinds left = sides.left.facts.kinds;
+    const Kinds right = sides.right.facts.kinds;
+    const std::vector<std::string> parts = {textOf(*binary.left), textOf(*binary.right)};
+    if (isWithin(left, kDigits) && isWithin(right, kDigits | kTyped)) {
+        tell("துணை-590", binary, parts);
+    } else if (isWithin(left, kTyped) && isWithin(right, kDigits | kTyped | kNumbers)) {
+        tell("துணை-591", binary, parts);
+    }
+}
+
 Value EmissionWalk::divide(const BinaryExpression& binary, const Sides& sides, VarType kind) {
     const Kinds left = sides.left.facts.kinds;
     const Kinds right = sides.right.facts.kinds;
-    if (isWrittenZero(*binary.right)) {
+    if (isWrittenZero(*binary.right) || sides.right.facts.isOnlyZero) {
         tellStop("துணை-409", *binary.right, {textOf(*binary.right)});
     } else if (left != kNoKinds && (left & kNumbers) == 0 && sides.left.cpp != Cpp::Unknown) {
         requireNumber(*binary.left, sides.left, kNumbers);
@@ -118,12 +135,24 @@ Value EmissionWalk::divide(const BinaryExpression& binary, const Sides& sides, V
     return anyOf(quotientKinds(left, right), kind);
 }
 
+/// என்னவகை gives four of its names with a blank behind them.
+void EmissionWalk::checkKindName(const Expression& asked, const Expression& name) {
+    static constexpr std::string_view kNames[] = {"எண்", "நிலை", "நேரம்", "பொருள்"};
+    const auto* call = nodeAs<CallExpression>(&asked);
+    const auto* callee = call == nullptr ? nullptr : nodeAs<VariableAccess>(call->callee.get());
+    const auto* text = nodeAs<StringLiteral>(&name);
+    if (callee == nullptr || text == nullptr || callee->name != "என்னவகை") return;
+    if (holds(kNames, text->value)) tell("துணை-596", name, {text->value});
+}
+
 /// What can't be compared is simply false, and texts have no order.
 Value EmissionWalk::compare(const BinaryExpression& binary, const Sides& sides, VarType kind) {
     const Value& left = sides.left;
     const Value& right = sides.right;
     const std::vector<std::string> parts = {textOf(*binary.left), textOf(*binary.right)};
     const bool isKnown = left.cpp != Cpp::Unknown && right.cpp != Cpp::Unknown;
+    checkKindName(*binary.left, *binary.right);
+    checkKindName(*binary.right, *binary.left);
     if (isKnown && !canBeEqual(left.facts.kinds, right.facts.kinds)) {
         const bool hasText =
             isWithin(left.facts.kinds, kTexts) || isWithin(right.facts.kinds, kTexts);
@@ -165,7 +194,7 @@ Value EmissionWalk::operateNative(const BinaryExpression& binary, const Sides& s
         tell("துணை-328", binary, {op});
         return unknown;
     }
-    if (op == "மீதி" && isWrittenZero(*binary.right)) {
+    if (op == "மீதி" && (isWrittenZero(*binary.right) || sides.right.facts.isOnlyZero)) {
         tellStop("துணை-409", *binary.right, {textOf(*binary.right)});
     }
     const bool isShift = op == "இடதுஇருமை" || op == "வலதுஇருமை";

@@ -22,13 +22,20 @@ void EmissionWalk::walkBody(const BlockStatement* block) {
 void EmissionWalk::walkStatement(const Statement& statement) {
     if (walkControlFlow(statement)) return;
     if (const auto* print = nodeAs<PrintStatement>(&statement)) {
-        for (const auto& expression : print->expressions) walk(*expression);
+        for (const auto& expression : print->expressions) {
+            checkGivesSomething(*expression, walk(*expression));
+        }
     } else if (const auto* node = nodeAs<ExpressionStatement>(&statement)) {
         memberAssignment = node->expression.get();
         walk(*node->expression);
         memberAssignment = nullptr;
+        checkResultIsKept(*node->expression);
     } else if (const auto* node = nodeAs<WaitStatement>(&statement)) {
-        walk(*node->duration);
+        const Value duration = walk(*node->duration);
+        const Kinds kinds = duration.facts.kinds;
+        if (kinds != kNoKinds && (kinds & kNumbers) == 0 && duration.cpp != Cpp::Unknown) {
+            tell("துணை-594", *node->duration, {textOf(*node->duration)});
+        }
     } else if (const auto* node = nodeAs<FunctionDefinitionStatement>(&statement)) {
         if (!currentFunction.empty()) {
             walkNestedFunction(*node);
@@ -120,6 +127,13 @@ void EmissionWalk::walkCountedLoop(const ForStatement& loop, const CallExpressio
             }
         }
     }
+    long long first = 0;
+    long long end = 0;
+    const auto& bounds = range.arguments;
+    if (bounds.size() == 2 && readsWhole(*bounds[0], first) && readsWhole(*bounds[1], end) &&
+        first > end) {
+        tell("துணை-588", range, {textOf(*bounds[0]), textOf(*bounds[1])});
+    }
     walkLoopBody(loop, variable);
 }
 
@@ -161,7 +175,7 @@ void EmissionWalk::walkLoopBody(const ForStatement& loop, Local variable) {
 void EmissionWalk::walkSwitch(const SwitchStatement& statement) {
     const Value subject = walk(*statement.subject);
     if (statement.cases.empty() && statement.defaultBlock != nullptr) {
-        tellWord("துணை-312", statement, "மற்றவை");
+        tellWord("துணை-312", statement, "தேர்வு");
     }
     for (const CaseBlock& block : statement.cases) {
         const Value value = walk(*block.value);

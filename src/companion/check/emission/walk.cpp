@@ -13,7 +13,12 @@ constexpr std::size_t kShownBytes = 90;
 }  // namespace
 
 EmissionWalk::EmissionWalk(const CompiledSource& compiled, Knowledge& knowledge, Findings* findings)
-    : compiled(compiled), knowledge(knowledge), findings(findings) {}
+    : compiled(compiled), knowledge(knowledge), findings(findings) {
+    if (findings == nullptr) return;
+    const std::optional<Range> import = findImportOfItself(compiled);
+    importsItself = import.has_value();
+    tellAt("துணை-349", import, {});
+}
 
 /// Structures, functions, an application's logic, and then the statements: as they are written.
 void EmissionWalk::walkProgram() {
@@ -70,11 +75,13 @@ bool EmissionWalk::isCaught() const {
 std::string EmissionWalk::textOf(const Expression& node) const {
     const std::optional<Range> range = compiled.rangeOf(node);
     if (!range) return "";
-    const std::string text(compiled.source.slice(*range));
-    if (text.size() <= kShownBytes && text.find('\n') == std::string::npos) return text;
+    const std::string_view text = compiled.source.slice(*range);
+    if (text.size() <= kShownBytes && text.find('\n') == std::string_view::npos) {
+        return std::string(text);
+    }
     std::size_t end = std::min({text.size(), kShownBytes, text.find('\n')});
     while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) end--;
-    return text.substr(0, end) + "…";
+    return std::string(text.substr(0, end)) + "…";
 }
 
 void EmissionWalk::declare(const std::string& name, const Local& local) {

@@ -80,7 +80,7 @@ private:
     void walkReturn(const ReturnStatement& statement);
     void walkJump(const Statement& statement, const char* word);
     void walkApplication(const WebAppNode& app);
-    void walkLogic(const Statement* logic);
+    void walkLogic(const Statement* statement);
     void walkWidget(const WidgetNode& widget);
 
     // ---- Expressions ----
@@ -115,10 +115,12 @@ private:
     };
     Value walkBinary(const BinaryExpression& binary);
     Value operate(const BinaryExpression& binary, const Sides& sides);
-    Value operateNative(const BinaryExpression& binary, const Sides& sides, VarType guess);
+    Value operateNative(const BinaryExpression& binary, const Sides& sides, VarType kind);
     Cpp castSide(const Expression& side, const Value& value, Cpp type);
-    Value divide(const BinaryExpression& binary, const Sides& sides, VarType guess);
-    Value compare(const BinaryExpression& binary, const Sides& sides, VarType guess);
+    void checkSum(const BinaryExpression& binary, const Sides& sides);
+    void checkKindName(const Expression& asked, const Expression& name);
+    Value divide(const BinaryExpression& binary, const Sides& sides, VarType kind);
+    Value compare(const BinaryExpression& binary, const Sides& sides, VarType kind);
     void walkTruth(const Expression& side);
     void walkCondition(const Expression& condition);
     void requireTruth(const Expression& node, const Value& value, const char* code);
@@ -143,6 +145,10 @@ private:
     void checkArgument(const CallExpression& call, std::size_t index, char wanted,
                        const Value& value, const std::string& name);
     void checkBuiltinCall(const CallExpression& call, const std::string& name);
+    void checkResultIsKept(const Expression& expression);
+    void checkGivesSomething(const Expression& node, const Value& value);
+    void checkInputMember(const Expression& node, const std::string& object,
+                          const std::string& member);
     Value walkIndexStore(const CallExpression& call);
     Value walkIndexTarget(const Expression& expression);
     void addElement(const Expression& container, const Value& value);
@@ -182,7 +188,14 @@ private:
     int tries = 0;
     int blockDepth = 0;  ///< Blocks around the cursor, without those of definitions.
     bool isInHandler = false;
+    bool importsItself = false;  ///< So that everything is defined twice.
 };
+
+/// The whole number that is written there; false if it isn't one.
+bool readsWhole(const Expression& node, long long& number);
+
+/// The import by which the program asks for itself; nothing if there is none.
+std::optional<Range> findImportOfItself(const CompiledSource& compiled);
 
 template <typename Node>
 void EmissionWalk::tell(const char* code, const Node& node, const std::vector<std::string>& parts) {
