@@ -292,13 +292,14 @@ void EmissionWalk::checkInputMember(const Expression& node, const std::string& o
     static constexpr Cure kCures[] = {
         {"நீளம்", "நீளம்"}, {"பெரியஎழுத்து", "பெரியஎ"}, {"சிறியஎழுத்து", "சிறியஎ"}};
     if (knowledge.isApplication) return;
+    const std::string read = object + "." + member;
     for (const Cure& cure : kCures) {
         if (cure.member != member) continue;
         std::string called(cure.function);
         called += "(" + object + ")";
-        return tell("துணை-595", node, {object + "." + member, called});
+        return tell("துணை-595", node, {read, called});
     }
-    tell("துணை-589", node, {object + "." + member});
+    tell("துணை-589", node, {read});
 }
 
 Value EmissionWalk::walkMember(const GetExpression& access) {
