@@ -1,0 +1,132 @@
+#include "mistakes/outcome.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "companion/refusal.h"
+#include "support/case_files.h"
+#include "support/generated_text.h"
+#include "support/subprocess.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Every source is compiled under this name, so that all texts begin alike.
+const char* const kSourceName = "நிரல்.பொழில்";
+const std::string kProgramsDirectory = POZHIL_BUILD_DIR "/programs/";
+
+/// The directory in which imports are looked for, while it lives.
+class CurrentDirectory {
+public:
+    explicit CurrentDirectory(const std::string& directory) : before(fs::current_path()) {
+        fs::current_path(fs::u8path(directory));
+    }
+    ~CurrentDirectory() { fs::current_path(before); }
+
+private:
+    fs::path before;
+};
+
+std::vector<std::string> nativeCommand(const std::vector<std::string>& arguments) {
+    const std::string include = "-I" POZHIL_ROOT "/உள்ளடக்கம்";
+    std::vector<std::string> command = {"g++", "-std=c++17", include, include + "/nanovg"};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    return command;
+}
+
+ProcessResult runNativeCompiler(const std::vector<std::string>& arguments) {
+    ProcessOptions options;
+    options.timeoutSeconds = 200;
+    options.environment = {"LC_ALL=C.UTF-8"};  // else Tamil names come out as numbers
+    return runCommand(nativeCommand(arguments), options);
+}
+
+void writeText(const std::string& path, const std::string& text) {
+    std::ofstream(fs::u8path(path)) << text;
+}
+
+std::string between(const std::string& text, const std::string& from, const std::string& to) {
+    const std::size_t begin = text.find(from);
+    if (begin == std::string::npos) return "";
+    const std::size_t end = text.find(to, begin + from.size());
+    return text.substr(begin + from.size(), end - begin - from.size());
+}
+
+/// The code and the line that a running program's report shows; no code if there is none.
+Truth readReport(const std::string& output) {
+    const std::size_t report = output.rfind("🚨 [ ");
+    if (report == std::string::npos) return {"runs", "", 0};
+    const std::string text = output.substr(report);
+    const std::string line = between(text, ": வரி ", "\n");
+    return {"reported", "பொழில்-" + between(text, "பொழில்-", "\033"),
+            line.empty() ? 0 : std::stoi(line)};
+}
+
+}  // namespace
+
+FrontEndOutcome compileMistake(const Mistake& mistake) {
+    const CurrentDirectory here(mistake.folder);
+    try {
+        return {{"taken", "", 0}, generate(readText(mistake.source), kSourceName)};
+    } catch (const companion::CompilerRefusal& refusal) {
+        return {{"refused", refusal.code, refusal.line}, ""};
+    } catch (const std::exception&) {
+        return {{"hidden", "", 0}, ""};
+    }
+}
+
+bool nativeCompilerTakes(const std::string& name, const std::string& text) {
+    const std::string folder = kProgramsDirectory + "mistakes/";
+    fs::create_directories(fs::u8path(folder));
+    const std::string path = folder + fs::u8path(name).filename().u8string() + ".cpp";
+    writeText(path, text);
+    return runNativeCompiler({"-fsyntax-only", path}).exitCode == 0;
+}
+
+ProgramsInOne::ProgramsInOne(const std::string& name)
+    : folder(kProgramsDirectory + "mistakes_" + name + "/") {
+    fs::remove_all(fs::u8path(folder));
+    fs::create_directories(fs::u8path(folder));
+    const std::string text = generate("", kSourceName);
+    common = text.substr(0, text.find("void init_globals()"));
+}
+
+int ProgramsInOne::add(const Mistake& mistake, const std::string& text) {
+    const std::string number = std::to_string(count);
+    if (text.compare(0, common.size(), common) != 0) {
+        throw std::logic_error(mistake.name + " begins otherwise than the other programs");
+    }
+    programs +=
+        "namespace program_" + number + " {\n" + text.substr(common.size()) + "\n}  // namespace\n";
+    const std::string runDirectory = folder + number + "/";
+    fs::create_directories(fs::u8path(runDirectory));
+    fs::copy_file(fs::u8path(mistake.source), fs::u8path(runDirectory + kSourceName));
+    return count++;
+}
+
+std::string ProgramsInOne::build() const {
+    std::string text = common + programs + "int main(int, char** words) {\n";
+    text += "    switch (std::atoi(words[1])) {\n";
+    for (int number = 0; number < count; number++) {
+        const std::string written = std::to_string(number);
+        text += "        case " + written + ": return program_" + written + "::main();\n";
+    }
+    writeText(folder + "programs.cpp", text + "    }\n    return 99;\n}\n");
+    const ProcessResult built = runNativeCompiler(
+        {folder + "programs.cpp", kProgramsDirectory + "error_handler_native_linux.o", "-o",
+         folder + "programs", "-static", "-static-libstdc++", "-static-libgcc", "-lm"});
+    return built.exitCode == 0 ? "" : "g++: " + built.err;
+}
+
+Truth ProgramsInOne::run(int number, const std::string& input, double seconds) const {
+    ProcessOptions options;
+    options.input = input;
+    options.timeoutSeconds = seconds;
+    options.directory = folder + std::to_string(number);
+    const ProcessResult ran = runCommand({folder + "programs", std::to_string(number)}, options);
+    output = ran.out;
+    if (ran.timedOut) return {"endless", "", 0};
+    if (ran.signal != 0) return {"stops", "", 0};
+    return readReport(ran.out);
+}

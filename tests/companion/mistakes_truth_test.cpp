@@ -1,0 +1,83 @@
+// Holds what stands beside each mistake against what really comes of it: the compiler's library,
+// the real g++, the running program. With POZHIL_REWRITE=1 in the environment the kinds are written
+// anew; which line is to blame for what has no report stays as it was written.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <map>
+
+#include "mistakes/mistake.h"
+#include "mistakes/outcome.h"
+
+namespace {
+
+const bool kRewritesTruths = std::getenv("POZHIL_REWRITE") != nullptr;
+constexpr double kSecondsOfEndless = 1;
+constexpr double kSecondsOfOthers = 30;
+
+/// Whether a program that ran did what was wanted, its truth alone knows.
+bool agrees(const Truth& truth, const Truth& outcome) {
+    if (outcome.kind == "runs") return truth.kind == "wrong" || truth.kind == "right";
+    return truth.kind == outcome.kind && truth.code == outcome.code &&
+           (outcome.line == 0 || truth.line == outcome.line);
+}
+
+void rewrite(const Mistake& mistake, Truth outcome) {
+    if (outcome.kind == "runs") outcome.kind = "wrong";
+    if (outcome.line == 0) outcome.line = mistake.truth.line;
+    std::ofstream(mistake.truthPath) << describe(outcome) << "\n";
+}
+
+void holdAgainst(const Mistake& mistake, const Truth& outcome) {
+    if (agrees(mistake.truth, outcome)) return;
+    if (kRewritesTruths) return rewrite(mistake, outcome);
+    ADD_FAILURE() << mistake.source << "\n  is told to be: " << describe(mistake.truth)
+                  << "\n  and is: " << describe(outcome);
+}
+
+class MistakesOf : public testing::TestWithParam<std::string> {};
+
+TEST_P(MistakesOf, AreWhatTheirTruthsSay) {
+    ProgramsInOne programs(GetParam());
+    std::vector<std::pair<int, Mistake>> running;
+    const auto mistakes = findMistakes(GetParam());
+    EXPECT_FALSE(mistakes.empty());
+    for (const Mistake& mistake : mistakes) {
+        const FrontEndOutcome compiled = compileMistake(mistake);
+        if (compiled.truth.kind != "taken") {
+            holdAgainst(mistake, compiled.truth);
+        } else if (mistake.isApplication()) {
+            if (!runs(mistake.truth)) holdAgainst(mistake, {"runs", "", 0});
+        } else if (runs(mistake.truth) && !kRewritesTruths) {
+            running.emplace_back(programs.add(mistake, compiled.text), mistake);
+        } else if (!nativeCompilerTakes(GetParam(), compiled.text)) {
+            holdAgainst(mistake, {"native", "", 0});
+        } else {
+            running.emplace_back(programs.add(mistake, compiled.text), mistake);
+        }
+    }
+    ASSERT_EQ(programs.build(), "");
+    for (const auto& [number, mistake] : running) {
+        const double seconds =
+            mistake.truth.kind == "endless" ? kSecondsOfEndless : kSecondsOfOthers;
+        holdAgainst(mistake, programs.run(number, mistake.input, kRewritesTruths ? 2 : seconds));
+        if (kRewritesTruths) {
+            std::cout << "-- " << mistake.name << "\n"
+                      << programs.lastOutput().substr(0, 600) << "\n";
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, MistakesOf, testing::ValuesIn(mistakeTopics()),
+                         [](const auto& topic) { return topic.param; });
+
+TEST(MistakeTruths, StandBesideEachMistakeAndNothingElseDoes) {
+    for (const Mistake& mistake : findMistakes()) {
+        EXPECT_FALSE(mistake.truth.kind.empty()) << mistake.source;
+        EXPECT_EQ(mistake.truth.kind == "right", mistake.truth.line == 0) << mistake.source;
+    }
+    for (const std::string& path : findStrayMistakeFiles()) ADD_FAILURE() << path;
+}
+
+}  // namespace
