@@ -16,16 +16,18 @@ const bool kRewritesTruths = std::getenv("POZHIL_REWRITE") != nullptr;
 constexpr double kSecondsOfEndless = 1;
 constexpr double kSecondsOfOthers = 30;
 
-/// Whether a program that ran did what was wanted, its truth alone knows.
+/// Whether a program that ran did what was wanted, its truth alone knows; and a running program
+/// often reports a call where what is called is to blame.
 bool agrees(const Truth& truth, const Truth& outcome) {
     if (outcome.kind == "runs") return truth.kind == "wrong" || truth.kind == "right";
+    const bool isPlaced = outcome.kind == "refused" && outcome.line > 0;
     return truth.kind == outcome.kind && truth.code == outcome.code &&
-           (outcome.line == 0 || truth.line == outcome.line);
+           (!isPlaced || truth.line == outcome.line);
 }
 
 void rewrite(const Mistake& mistake, Truth outcome) {
     if (outcome.kind == "runs") outcome.kind = "wrong";
-    if (outcome.line == 0) outcome.line = mistake.truth.line;
+    if (outcome.kind != "refused" || outcome.line == 0) outcome.line = mistake.truth.line;
     std::ofstream(mistake.truthPath) << describe(outcome) << "\n";
 }
 

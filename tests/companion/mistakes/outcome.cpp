@@ -70,7 +70,8 @@ FrontEndOutcome compileMistake(const Mistake& mistake) {
     try {
         return {{"taken", "", 0}, generate(readText(mistake.source), kSourceName)};
     } catch (const companion::CompilerRefusal& refusal) {
-        return {{"refused", refusal.code, refusal.line}, ""};
+        // Without a file's name it is a module's line.
+        return {{"refused", refusal.code, refusal.file.empty() ? 0 : refusal.line}, ""};
     } catch (const std::exception&) {
         return {{"hidden", "", 0}, ""};
     }
