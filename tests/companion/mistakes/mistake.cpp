@@ -26,12 +26,14 @@ Truth readTruth(const std::string& path) {
     words >> truth.kind;
     if (truth.kind == "refused" || truth.kind == "reported") words >> truth.code;
     words >> truth.line;
+    int line = 0;
+    for (std::string also; words >> also >> line;) truth.furtherLines.push_back(line);
     return truth;
 }
 
 }  // namespace
 
-bool Mistake::isApplication() const { return name.rfind("applications/", 0) == 0; }
+bool Mistake::isApplication() const { return readText(source).rfind("வலைதளம்", 0) == 0; }
 
 std::vector<Mistake> findMistakes(const std::string& topic) {
     std::vector<Mistake> mistakes;
@@ -76,6 +78,7 @@ std::string describe(const Truth& truth) {
     std::string text = truth.kind;
     if (!truth.code.empty()) text += " " + truth.code;
     if (truth.kind != "right") text += " " + std::to_string(truth.line);
+    for (const int line : truth.furtherLines) text += "\nalso " + std::to_string(line);
     return text;
 }
 

@@ -4,7 +4,8 @@
 #include <string>
 #include <vector>
 
-/// What comes of a program: the one line of its `.truth`.
+/// What comes of a program: the first line of its `.truth`. In a whole program with more than one
+/// mistake those that don't show yet follow, each as "also LINE".
 struct Truth {
     /// refused   the compiler reports it, with a code and a place
     /// hidden    the compiler prints one fixed line, without a place
@@ -15,8 +16,9 @@ struct Truth {
     /// wrong     the program runs to its end, and does what nobody wants
     /// right     nothing is wrong with it
     std::string kind;
-    std::string code;  ///< Of what is refused or reported.
-    int line = 0;      ///< What is to blame; the report's own line for what is refused.
+    std::string code = "";  ///< Of what is refused or reported.
+    int line = 0;           ///< What is to blame; the report's own line for what is refused.
+    std::vector<int> furtherLines = {};  ///< To blame for what will show when that is put right.
 };
 
 struct Mistake {

@@ -15,6 +15,9 @@ namespace {
 // Every source is compiled under this name, so that all texts begin alike.
 const char* const kSourceName = "நிரல்.பொழில்";
 const std::string kProgramsDirectory = POZHIL_BUILD_DIR "/programs/";
+const char* const kWarmedHeader = "-I" POZHIL_ROOT "/உள்ளடக்கம்/nanovg";
+const char* const kBrowserStandIn = "-I" POZHIL_ROOT "/tests/emitted/widgets/stand_in";
+const char* const kTests = "-I" POZHIL_ROOT "/tests";
 
 /// The directory in which imports are looked for, while it lives.
 class CurrentDirectory {
@@ -28,18 +31,13 @@ private:
     fs::path before;
 };
 
-std::vector<std::string> nativeCommand(const std::vector<std::string>& arguments) {
-    const std::string include = "-I" POZHIL_ROOT "/உள்ளடக்கம்";
-    std::vector<std::string> command = {"g++", "-std=c++17", include, include + "/nanovg"};
-    command.insert(command.end(), arguments.begin(), arguments.end());
-    return command;
-}
-
 ProcessResult runNativeCompiler(const std::vector<std::string>& arguments) {
     ProcessOptions options;
     options.timeoutSeconds = 200;
     options.environment = {"LC_ALL=C.UTF-8"};  // else Tamil names come out as numbers
-    return runCommand(nativeCommand(arguments), options);
+    std::vector<std::string> command = {"g++", "-std=c++17", "-I" POZHIL_ROOT "/உள்ளடக்கம்"};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    return runCommand(command, options);
 }
 
 void writeText(const std::string& path, const std::string& text) {
@@ -56,11 +54,13 @@ std::string between(const std::string& text, const std::string& from, const std:
 /// The code and the line that a running program's report shows; no code if there is none.
 Truth readReport(const std::string& output) {
     const std::size_t report = output.rfind("🚨 [ ");
-    if (report == std::string::npos) return {"runs", "", 0};
+    if (report == std::string::npos) return {"runs"};
     const std::string text = output.substr(report);
     const std::string line = between(text, ": வரி ", "\n");
-    return {"reported", "பொழில்-" + between(text, "பொழில்-", "\033"),
-            line.empty() ? 0 : std::stoi(line)};
+    return {"reported",
+            "பொழில்-" + between(text, "பொழில்-", "\033"),
+            line.empty() ? 0 : std::stoi(line),
+            {}};
 }
 
 }  // namespace
@@ -68,21 +68,26 @@ Truth readReport(const std::string& output) {
 FrontEndOutcome compileMistake(const Mistake& mistake) {
     const CurrentDirectory here(mistake.folder);
     try {
-        return {{"taken", "", 0}, generate(readText(mistake.source), kSourceName)};
+        return {{"taken"}, generate(readText(mistake.source), kSourceName)};
     } catch (const companion::CompilerRefusal& refusal) {
         // Without a file's name it is a module's line.
-        return {{"refused", refusal.code, refusal.file.empty() ? 0 : refusal.line}, ""};
+        return {{"refused", refusal.code, refusal.file.empty() ? 0 : refusal.line, {}}, ""};
     } catch (const std::exception&) {
-        return {{"hidden", "", 0}, ""};
+        return {{"hidden"}, ""};
     }
 }
 
-bool nativeCompilerTakes(const std::string& name, const std::string& text) {
+bool nativeCompilerTakes(const Mistake& mistake, const std::string& text, const std::string& name) {
     const std::string folder = kProgramsDirectory + "mistakes/";
     fs::create_directories(fs::u8path(folder));
-    const std::string path = folder + fs::u8path(name).filename().u8string() + ".cpp";
+    const std::string path = folder + name + ".cpp";
     writeText(path, text);
-    return runNativeCompiler({"-fsyntax-only", path}).exitCode == 0;
+    const std::vector<std::string> arguments =
+        mistake.isApplication()
+            ? std::vector<std::string>{kBrowserStandIn, kTests, "-D__EMSCRIPTEN__", "-fsyntax-only",
+                                       path}
+            : std::vector<std::string>{kWarmedHeader, "-fsyntax-only", path};
+    return runNativeCompiler(arguments).exitCode == 0;
 }
 
 ProgramsInOne::ProgramsInOne(const std::string& name)
@@ -115,8 +120,9 @@ std::string ProgramsInOne::build() const {
     }
     writeText(folder + "programs.cpp", text + "    }\n    return 99;\n}\n");
     const ProcessResult built = runNativeCompiler(
-        {folder + "programs.cpp", kProgramsDirectory + "error_handler_native_linux.o", "-o",
-         folder + "programs", "-static", "-static-libstdc++", "-static-libgcc", "-lm"});
+        {kWarmedHeader, folder + "programs.cpp",
+         kProgramsDirectory + "error_handler_native_linux.o", "-o", folder + "programs", "-static",
+         "-static-libstdc++", "-static-libgcc", "-lm"});
     return built.exitCode == 0 ? "" : "g++: " + built.err;
 }
 
@@ -127,7 +133,7 @@ Truth ProgramsInOne::run(int number, const std::string& input, double seconds) c
     options.directory = folder + std::to_string(number);
     const ProcessResult ran = runCommand({folder + "programs", std::to_string(number)}, options);
     output = ran.out;
-    if (ran.timedOut) return {"endless", "", 0};
-    if (ran.signal != 0) return {"stops", "", 0};
+    if (ran.timedOut) return {"endless"};
+    if (ran.signal != 0) return {"stops"};
     return readReport(ran.out);
 }

@@ -14,8 +14,9 @@ struct FrontEndOutcome {
 };
 FrontEndOutcome compileMistake(const Mistake& mistake);
 
-/// True if g++ takes the generated text.
-bool nativeCompilerTakes(const std::string& name, const std::string& text);
+/// True if g++ takes the generated text; an application's behind stand-ins for the browser's
+/// headers. `name` is that of a file that is the caller's alone.
+bool nativeCompilerTakes(const Mistake& mistake, const std::string& text, const std::string& name);
 
 /// Programs that g++ takes, built as one executable: each stands in a namespace behind the text
 /// that all of them carry.
