@@ -1,6 +1,7 @@
 // Mistakes of beginners: small programs, and beside each what really comes of it.
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -45,3 +46,18 @@ std::string describe(const Truth& truth);
 
 /// True if the program gets as far as running.
 bool runs(const Truth& truth);
+
+/// The directory in which imports are looked for, while it lives.
+class CurrentDirectory {
+public:
+    explicit CurrentDirectory(const std::string& directory)
+        : before(std::filesystem::current_path()) {
+        std::filesystem::current_path(std::filesystem::u8path(directory));
+    }
+    ~CurrentDirectory() { std::filesystem::current_path(before); }
+    CurrentDirectory(const CurrentDirectory&) = delete;
+    CurrentDirectory& operator=(const CurrentDirectory&) = delete;
+
+private:
+    std::filesystem::path before;
+};

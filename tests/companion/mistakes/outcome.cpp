@@ -19,18 +19,6 @@ const char* const kWarmedHeader = "-I" POZHIL_ROOT "/உள்ளடக்கம
 const char* const kBrowserStandIn = "-I" POZHIL_ROOT "/tests/emitted/widgets/stand_in";
 const char* const kTests = "-I" POZHIL_ROOT "/tests";
 
-/// The directory in which imports are looked for, while it lives.
-class CurrentDirectory {
-public:
-    explicit CurrentDirectory(const std::string& directory) : before(fs::current_path()) {
-        fs::current_path(fs::u8path(directory));
-    }
-    ~CurrentDirectory() { fs::current_path(before); }
-
-private:
-    fs::path before;
-};
-
 ProcessResult runNativeCompiler(const std::vector<std::string>& arguments) {
     ProcessOptions options;
     options.timeoutSeconds = 200;
