@@ -1,0 +1,350 @@
+#include "random_programs.h"
+
+#include <iterator>
+#include <map>
+#include <random>
+#include <utility>
+#include <vector>
+
+namespace {
+
+enum class Kind { Whole, Decimal, Text, Truth, List, Dictionary };
+constexpr int kKinds = 6;
+
+const char* const kVariables[] = {"அகம்", "புறம்", "கூடை", "வானம்", "நதி", "மலை", "கடல்"};
+const char* const kFunctions[] = {"தேடல்", "கணிப்பு", "மாற்றம்"};
+const char* const kParameters[] = {"ஒன்று", "இரண்டு"};
+const char* const kLoopVariables[] = {"சுழல்", "படி"};
+const char* const kTexts[] = {"\"மா\"", "\"12\"", "\"\"", "\"tamil\""};
+const char* const kWholes[] = {"0", "1", "2", "3", "7", "10"};
+const char* const kDecimals[] = {"2.5", "0.5", "1.0", "10.25"};
+const char* const kArithmetic[] = {" கூட்டு ", " கழி ", " பெருக்கு "};
+const char* const kComparisons[] = {" சமம் ",    " சமமில்லை ",   " பெரிது ",
+                                    " சிறிது ", " பெரிதுசமம் ", " சிறிதுசமம் "};
+
+constexpr int kDeepestExpression = 3;
+constexpr int kDeepestBlock = 2;
+constexpr int kOddOnesIn = 40;  ///< One in so many operands is of any kind.
+
+struct Function {
+    std::string name;
+    std::vector<Kind> parameters;
+    Kind result;
+};
+
+/// Writes one program. What it knows of a name's kind is what was assigned to it last.
+class ProgramWriter {
+public:
+    explicit ProgramWriter(std::uint32_t seed) : engine(seed) {}
+
+    std::string write() {
+        const int functionCount = below(3);
+        for (int i = 0; i < functionCount; i++) writeFunction(kFunctions[i]);
+        writeStatements(4 + below(5));
+        return text;
+    }
+
+private:
+    int below(int limit) { return static_cast<int>(engine() % static_cast<unsigned>(limit)); }
+    bool onceIn(int times) { return below(times) == 0; }
+    template <std::size_t size>
+    std::string oneOf(const char* const (&words)[size]) {
+        return words[below(static_cast<int>(size))];
+    }
+    Kind anyKind() { return static_cast<Kind>(below(kKinds)); }
+
+    void writeLine(const std::string& line) {
+        text += std::string(static_cast<std::size_t>(depth) * 4, ' ') + line + "\n";
+    }
+
+    template <typename Write>
+    void writeBlock(const std::string& head, Write write) {
+        writeLine(head);
+        depth++;
+        write();
+        depth--;
+    }
+
+    // ---- Expressions ----
+
+    /// An operand of `kind`, or once in a while of any other.
+    std::string operand(Kind kind, int level) {
+        return expression(onceIn(kOddOnesIn) ? anyKind() : kind, level + 1);
+    }
+
+    std::string expression(Kind kind, int level) {
+        if (level >= kDeepestExpression || onceIn(3)) return atom(kind);
+        if (onceIn(12)) return "(" + operand(kind, level) + ")";
+        switch (kind) {
+            case Kind::Whole: return whole(level);
+            case Kind::Decimal: return decimal(level);
+            case Kind::Text: return joined(level);
+            case Kind::Truth: return truth(level);
+            case Kind::List: return list(level);
+            case Kind::Dictionary: return dictionary(level);
+        }
+        return "";
+    }
+
+    std::string atom(Kind kind) {
+        const std::string name = nameOf(kind);
+        if (!name.empty() && !onceIn(3)) return name;
+        switch (kind) {
+            case Kind::Whole: return oneOf(kWholes);
+            case Kind::Decimal: return oneOf(kDecimals);
+            case Kind::Text: return oneOf(kTexts);
+            case Kind::Truth: return onceIn(2) ? "மெய்" : "பொய்";
+            case Kind::List: return "[1, 2, 3]";
+            case Kind::Dictionary: return "{\"அ\": 1}";
+        }
+        return "";
+    }
+
+    /// A name that holds `kind`; now and then one that nothing was assigned to; empty if there is
+    /// none.
+    std::string nameOf(Kind kind) {
+        if (onceIn(kOddOnesIn * 2)) return oneOf(kVariables);
+        std::vector<std::string> names;
+        for (const auto& [name, known] : kinds) {
+            if (known == kind) names.push_back(name);
+        }
+        return names.empty() ? "" : names[static_cast<std::size_t>(below(int(names.size())))];
+    }
+
+    std::string whole(int level) {
+        switch (below(10)) {
+            case 0: return operand(Kind::Whole, level) + " மீதி " + operand(Kind::Whole, level);
+            case 1: return operand(Kind::Whole, level) + " வகு " + operand(Kind::Whole, level);
+            case 2: return "நீளம்(" + operand(onceIn(2) ? Kind::List : Kind::Text, level) + ")";
+            case 3: return "எண்(" + operand(onceIn(2) ? Kind::Whole : Kind::Decimal, level) + ")";
+            case 4: return "குறை " + atom(Kind::Whole);
+            case 5: return element(level);
+            case 6: return call(Kind::Whole, level);
+            case 7: return chosen(Kind::Whole, level);
+            default: return arithmetic(Kind::Whole, level);
+        }
+    }
+
+    std::string decimal(int level) {
+        switch (below(6)) {
+            case 0: return "வர்க்கமூலம்(" + operand(Kind::Decimal, level) + ")";
+            case 1: return operand(Kind::Decimal, level) + " வகு " + operand(Kind::Decimal, level);
+            case 2: return call(Kind::Decimal, level);
+            case 3: return chosen(Kind::Decimal, level);
+            default: return arithmetic(Kind::Decimal, level);
+        }
+    }
+
+    std::string arithmetic(Kind kind, int level) {
+        return operand(kind, level) + oneOf(kArithmetic) + operand(kind, level);
+    }
+
+    std::string joined(int level) {
+        switch (below(6)) {
+            case 0: return "பெரியஎ(" + operand(Kind::Text, level) + ")";
+            case 1: return call(Kind::Text, level);
+            case 2: return chosen(Kind::Text, level);
+            case 3: return operand(Kind::Text, level) + " கூட்டு " + operand(Kind::Text, level);
+            default: return operand(Kind::Text, level) + " இணை " + operand(anyKind(), level);
+        }
+    }
+
+    std::string truth(int level) {
+        switch (below(6)) {
+            case 0: return operand(Kind::Truth, level) + " மற்றும் " + operand(Kind::Truth, level);
+            case 1: return operand(Kind::Truth, level) + " அல்லது " + operand(Kind::Truth, level);
+            case 2: return "இல்லை " + operand(Kind::Truth, level);
+            case 3: return call(Kind::Truth, level);
+            default: return comparison(level);
+        }
+    }
+
+    std::string comparison(int level) {
+        const Kind kind = onceIn(3) ? Kind::Decimal : Kind::Whole;
+        return operand(kind, level) + oneOf(kComparisons) + operand(kind, level);
+    }
+
+    std::string list(int level) {
+        if (onceIn(4)) return "பிளவு(" + operand(Kind::Text, level) + ", \",\")";
+        if (onceIn(3)) return call(Kind::List, level);
+        const Kind kind = onceIn(4) ? anyKind() : Kind::Whole;
+        return "[" + operand(kind, level) + ", " + operand(kind, level) + ", " +
+               operand(kind, level) + "]";
+    }
+
+    std::string dictionary(int level) {
+        return "{\"அ\": " + operand(Kind::Whole, level) + ", \"ஆ\": " + operand(anyKind(), level) +
+               "}";
+    }
+
+    std::string element(int level) {
+        if (onceIn(3)) return operand(Kind::Dictionary, level) + "[\"அ\"]";
+        const std::string place =
+            onceIn(4) ? operand(Kind::Whole, level) : std::to_string(below(3));
+        return operand(Kind::List, level) + "[" + place + "]";
+    }
+
+    std::string chosen(Kind kind, int level) {
+        return "(" + operand(Kind::Truth, level) + " ? " + operand(kind, level) + " : " +
+               operand(kind, level) + ")";
+    }
+
+    /// A call of a function whose result is of that kind; a plain one if there is none.
+    std::string call(Kind result, int level) {
+        for (const Function& function : functions) {
+            if (function.result == result) return callOf(function, level);
+        }
+        return atom(result);
+    }
+
+    std::string callOf(const Function& function, int level) {
+        std::string arguments;
+        for (const Kind kind : function.parameters) {
+            if (!arguments.empty()) arguments += ", ";
+            arguments += operand(kind, level);
+        }
+        return function.name + "(" + arguments + ")";
+    }
+
+    // ---- Statements ----
+
+    void writeStatements(int count) {
+        for (int i = 0; i < count; i++) writeStatement();
+    }
+
+    void writeStatement() {
+        const int limit = depth < kDeepestBlock ? 14 : 9;
+        switch (below(limit)) {
+            case 0:
+            case 1: return writePrint();
+            case 2: return writeCompound();
+            case 3: return writeListChange();
+            case 4: return writeElementChange();
+            case 5:
+            case 6:
+            case 7:
+            case 8: return writeAssignment();
+            case 9: return writeIf();
+            case 10: return writeCountedLoop();
+            case 11: return writeWalk();
+            case 12: return writeWhile();
+            default: return writeChoiceOrTry();
+        }
+    }
+
+    void writePrint() {
+        std::string line = "அச்சிடு(" + operand(anyKind(), 0);
+        if (onceIn(2)) line += ", " + operand(anyKind(), 0);
+        writeLine(line + ")");
+    }
+
+    void writeAssignment() {
+        const std::string name = oneOf(kVariables);
+        const auto known = kinds.find(name);
+        const Kind kind = known == kinds.end() || onceIn(5) ? anyKind() : known->second;
+        writeLine(name + " = " + expression(kind, 0));
+        kinds[name] = kind;
+    }
+
+    void writeCompound() {
+        const std::string name = nameOf(Kind::Whole);
+        if (name.empty()) return writePrint();
+        writeLine(name + (onceIn(2) ? " கூட்டிசேர் " : " பெருக்குசேர் ") +
+                  (onceIn(6) ? expression(Kind::Whole, 1) : oneOf(kWholes)));
+    }
+
+    void writeListChange() {
+        const std::string name = nameOf(Kind::List);
+        if (name.empty()) return writePrint();
+        writeLine(name + ".சேர்(" + operand(anyKind(), 0) + ")");
+    }
+
+    void writeElementChange() {
+        const Kind kind = onceIn(2) ? Kind::List : Kind::Dictionary;
+        const std::string name = nameOf(kind);
+        if (name.empty()) return writePrint();
+        const std::string place = kind == Kind::List ? std::to_string(below(3)) : "\"இ\"";
+        writeLine(name + "[" + place + "] = " + operand(anyKind(), 0));
+    }
+
+    void writeIf() {
+        writeBlock("எனில் " + operand(Kind::Truth, 0) + ":", [&] { writeStatements(1 + below(2)); });
+        if (onceIn(2)) writeBlock("இல்லை:", [&] { writeStatements(1 + below(2)); });
+    }
+
+    void writeCountedLoop() {
+        const std::string limit = onceIn(4) ? operand(Kind::Whole, 2) : std::to_string(below(4));
+        writeLoop(limit, "வரம்பு(" + limit + ")", Kind::Whole);
+    }
+
+    void writeWalk() {
+        const std::string name = nameOf(onceIn(4) ? Kind::Dictionary : Kind::List);
+        if (name.empty() || onceIn(8)) return writeCountedLoop();
+        writeLoop(name, name, kinds[name] == Kind::Dictionary ? Kind::Text : Kind::Whole);
+    }
+
+    /// Only counted loops are safe to change what they go over.
+    void writeLoop(const std::string& source, const std::string& range, Kind element) {
+        const std::string variable = oneOf(kLoopVariables);
+        const auto outer = kinds;
+        kinds.erase(source);
+        kinds[variable] = element;
+        writeBlock("ஒவ்வொன்றாக " + variable + " இல் " + range + ":", [&] {
+            writeStatements(1 + below(2));
+            if (onceIn(6)) writeLine(onceIn(2) ? "நிறுத்து" : "தொடர்");
+        });
+        kinds.erase(variable);
+        if (outer.count(source) != 0) kinds[source] = outer.at(source);
+    }
+
+    /// The counter is a name of its own, so the loop ends.
+    void writeWhile() {
+        const std::string counter = "எண்ணி" + std::string(depth == 0 ? "அ" : "ஆ");
+        writeLine(counter + " = 0");
+        writeBlock("சுற்று " + counter + " சிறிது 3:", [&] {
+            writeLine(counter + " = " + counter + " கூட்டு 1");
+            writeStatements(1);
+        });
+    }
+
+    void writeChoiceOrTry() {
+        if (onceIn(2)) {
+            writeBlock("முயற்சி:", [&] { writeStatements(1); });
+            writeBlock("பிடி (தவறு):", [&] { writeLine("அச்சிடு(தவறு)"); });
+            return;
+        }
+        writeBlock("தேர்வு " + operand(Kind::Whole, 1) + ":", [&] {
+            writeBlock("நிலை " + oneOf(kWholes) + ":", [&] { writeStatements(1); });
+            writeBlock("மற்றவை:", [&] { writeStatements(1); });
+        });
+    }
+
+    /// It may read what is assigned outside, as far as it has been met by now: nothing.
+    void writeFunction(const char* name) {
+        Function function{name, {}, anyKind()};
+        const auto outer = std::exchange(kinds, {});
+        std::string parameters;
+        const int count = below(3);
+        for (int i = 0; i < count; i++) {
+            function.parameters.push_back(anyKind());
+            kinds[kParameters[i]] = function.parameters.back();
+            parameters += (i > 0 ? ", " : "") + std::string(kParameters[i]);
+        }
+        writeBlock("செயல் " + function.name + "(" + parameters + "):", [&] {
+            writeStatements(1 + below(2));
+            if (!onceIn(kOddOnesIn)) writeLine("திரும்பு " + expression(function.result, 1));
+        });
+        kinds = outer;
+        functions.push_back(function);
+    }
+
+    std::mt19937 engine;
+    std::string text;
+    int depth = 0;
+    std::map<std::string, Kind> kinds;
+    std::vector<Function> functions;
+};
+
+}  // namespace
+
+std::string makeRandomProgram(std::uint32_t seed) { return ProgramWriter(seed).write(); }
