@@ -9,6 +9,8 @@
 
 #include "mistakes/mistake.h"
 #include "mistakes/outcome.h"
+#include "programs_in_one.h"
+#include "support/case_files.h"
 
 namespace {
 
@@ -47,12 +49,14 @@ bool mustAskNativeCompiler(const Mistake& mistake) {
 class MistakesOf : public testing::TestWithParam<std::string> {};
 
 TEST_P(MistakesOf, AreWhatTheirTruthsSay) {
-    ProgramsInOne programs(GetParam());
+    ProgramsInOne programs("mistakes_" + GetParam());
     std::vector<std::pair<int, Mistake>> running;
     const auto mistakes = findMistakes(GetParam());
     EXPECT_FALSE(mistakes.empty());
     for (const Mistake& mistake : mistakes) {
-        const FrontEndOutcome compiled = compileMistake(mistake);
+        const CurrentDirectory here(mistake.folder);
+        const std::string source = readText(mistake.source);
+        const FrontEndOutcome compiled = compileSource(source);
         if (compiled.truth.kind != "taken") {
             holdAgainst(mistake, compiled.truth);
         } else if (mustAskNativeCompiler(mistake) &&
@@ -61,17 +65,18 @@ TEST_P(MistakesOf, AreWhatTheirTruthsSay) {
         } else if (mistake.isApplication()) {
             holdAgainst(mistake, {"runs"});
         } else {
-            running.emplace_back(programs.add(mistake, compiled.text), mistake);
+            running.emplace_back(programs.add(source, compiled.text), mistake);
         }
     }
     ASSERT_EQ(programs.build(), "");
     for (const auto& [number, mistake] : running) {
         const double seconds =
             mistake.truth.kind == "endless" ? kSecondsOfEndless : kSecondsOfOthers;
-        holdAgainst(mistake, programs.run(number, mistake.input, kRewritesTruths ? 2 : seconds));
+        const ProcessResult ran =
+            programs.run(number, mistake.input, kRewritesTruths ? 2 : seconds);
+        holdAgainst(mistake, outcomeOf(ran));
         if (kRewritesTruths) {
-            std::cout << "-- " << mistake.name << "\n"
-                      << programs.lastOutput().substr(0, 600) << "\n";
+            std::cout << "-- " << mistake.name << "\n" << ran.out.substr(0, 600) << "\n";
         }
     }
 }

@@ -1,0 +1,42 @@
+// Programs of the language, as many as one likes, as one executable: each stands in a namespace
+// behind the text that all of them carry. One run of g++ for all takes a fraction of one for each.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "support/subprocess.h"
+
+/// The name under which the sources must be compiled, so that all texts begin alike.
+extern const char* const kProgramName;
+
+/// g++ with the options of every program, and messages in English with Tamil names as they are.
+ProcessResult runNativeCompiler(const std::vector<std::string>& arguments);
+
+class ProgramsInOne {
+public:
+    /// `name` is that of its folder below the build directory, which is emptied.
+    explicit ProgramsInOne(const std::string& name);
+
+    /// Adds the program of `source` with the text that was generated of it; its number is how it is
+    /// asked for.
+    int add(const std::string& source, const std::string& text);
+
+    /// Those that g++ refuses, each with what it says first. They are left out from then on.
+    std::map<int, std::string> leaveOutRefused();
+
+    /// What g++ says when it builds what is not left out; empty if it takes all.
+    std::string build() const;
+
+    /// A program in a folder of its own that holds its source.
+    ProcessResult run(int number, const std::string& input, double seconds) const;
+
+private:
+    std::string wholeText() const;
+
+    std::string folder;
+    std::string common;
+    std::map<int, std::string> programs;
+    int count = 0;
+};
