@@ -15,5 +15,6 @@ const RuleTable& nativeRules();  ///< துணை-3..: what only g++ refuses.
 const RuleTable& stopRules();    ///< துணை-4..: what ends the program.
 const RuleTable& habitRules();   ///< துணை-5..: what runs and is wrong.
 const RuleTable& kindRules();    ///< துணை-58.: the same, by the kinds of values.
+const RuleTable& hintRules();    ///< துணை-6..: a word that helps.
 
 }  // namespace companion

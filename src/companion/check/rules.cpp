@@ -11,7 +11,8 @@ const std::vector<Rule>& allRules() {
     static const std::vector<Rule> rules = [] {
         std::vector<Rule> all;
         for (const RuleTable& table :
-             {markRules(), nameRules(), nativeRules(), stopRules(), habitRules(), kindRules()}) {
+             {markRules(), nameRules(), nativeRules(), stopRules(), habitRules(), kindRules(),
+              hintRules()}) {
             all.insert(all.end(), table.begin(), table.end());
         }
         return all;
