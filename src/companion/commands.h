@@ -19,5 +19,6 @@ struct Command {
 };
 
 int runCheck(const Arguments& arguments);
+int runFormat(const Arguments& arguments);
 
 }  // namespace companion

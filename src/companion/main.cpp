@@ -12,6 +12,8 @@ using companion::Command;
 const Command kCommands[] = {
     {"சரிபார்", "check", "கோப்பு...", "நிரலைப் படித்து, பிழைகளையும் தீர்வுகளையும் சொல்லும்",
      companion::runCheck},
+    {"வடிவமை", "format", "[--check] கோப்பு...", "நிரலின் இடைவெளிகளையும் வரிகளையும் சீராக்கும்",
+     companion::runFormat},
 };
 
 void printUsage(std::ostream& out) {

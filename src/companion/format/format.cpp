@@ -1,0 +1,47 @@
+#include "companion/format/format.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "companion/format/cleaned.h"
+#include "companion/format/layout.h"
+#include "companion/refusal.h"
+#include "lexer/lexer.h"
+
+namespace companion {
+
+namespace {
+
+std::optional<std::vector<Token>> tokensOf(const std::string& text) {
+    try {
+        return Lexer(text, "").tokenize();
+    } catch (const CompilerRefusal&) {
+        return std::nullopt;
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
+
+/// How wide a block is indented says nothing; that one begins or ends does.
+bool meansTheSame(const Token& a, const Token& b) {
+    const bool isIndentation = a.type == TokenType::INDENT || a.type == TokenType::DEDENT;
+    return a.type == b.type && (isIndentation || a.text == b.text);
+}
+
+}  // namespace
+
+std::optional<std::string> formatted(const std::string& text) {
+    if (text.find('\0') != std::string::npos) return std::nullopt;  // the scanner stops there
+    const std::string clean = cleaned(text);
+    const auto before = tokensOf(clean);
+    if (!before) return std::nullopt;
+    std::string result = laidOut(clean);
+    const auto after = tokensOf(result);
+    if (!after ||
+        !std::equal(before->begin(), before->end(), after->begin(), after->end(), meansTheSame)) {
+        return std::nullopt;
+    }
+    return result;
+}
+
+}  // namespace companion
