@@ -26,6 +26,7 @@ bool isOperator(const Neighbour& piece) {
 
 /// A condition stands before it: எனில் behind it chooses between values.
 bool endsValue(const Neighbour& piece) {
+    if (piece.kind == PieceKind::Word) return isName(piece);
     return piece.kind != PieceKind::Mark || isOneOf(piece, ")]}");
 }
 
