@@ -1,6 +1,7 @@
 #include "companion/check/findings.h"
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 
 #include "companion/check/rules.h"
@@ -11,6 +12,19 @@ namespace {
 
 constexpr std::string_view kCommentMark = "ஃ";
 constexpr std::string_view kOwnCodes = "துணை-";
+constexpr std::string_view kMarkCodes = "துணை-1";
+
+/// Rules that see one slip from two sides: by its words, and by what must come of it.
+struct SameSlip {
+    std::string_view told;
+    std::string_view left;  ///< Left out where `told` stands at the same place.
+};
+constexpr SameSlip kSameSlips[] = {
+    {"துணை-511", "துணை-592"}, {"துணை-525", "துணை-406"}, {"துணை-517", "துணை-516"},
+    {"துணை-521", "துணை-582"}, {"துணை-521", "துணை-581"}, {"துணை-522", "துணை-581"},
+    {"துணை-522", "துணை-583"}, {"துணை-535", "துணை-583"}, {"துணை-523", "துணை-583"},
+    {"துணை-523", "துணை-582"}, {"துணை-524", "துணை-583"},
+};
 
 }  // namespace
 
@@ -55,13 +69,43 @@ std::vector<Finding> Findings::inOrder() const {
                  sorted.end());
 
     std::vector<Finding> findings;
-    for (const Entry* entry : sorted) {
+    for (std::size_t at = 0; at < sorted.size(); at++) {
+        const Entry* entry = sorted[at];
+        if (isToldNearby(sorted, at)) continue;
         const Place begin = source.placeOf(entry->range.begin);
         const Place end = source.placeOf(std::max(entry->range.begin, entry->range.end));
         findings.push_back({begin.line, begin.column, end.line, end.column, entry->severity,
                             entry->code, entry->message});
     }
     return findings;
+}
+
+/// What overlaps a finding stands beside it in the order of the places.
+bool Findings::isToldNearby(const std::vector<const Entry*>& sorted, std::size_t at) {
+    constexpr std::size_t kReach = 12;
+    const std::size_t first = at < kReach ? 0 : at - kReach;
+    const std::size_t last = std::min(sorted.size(), at + kReach);
+    for (std::size_t other = first; other < last; other++) {
+        if (other != at && isLeftOutFor(*sorted[at], *sorted[other])) return true;
+    }
+    return false;
+}
+
+/// One slip is told once: a warning gives way to an error at its very place.
+bool Findings::isLeftOutFor(const Entry& entry, const Entry& other) {
+    const auto isSlip = [](const Entry& told, const Entry& left) {
+        return std::any_of(std::begin(kSameSlips), std::end(kSameSlips), [&](const SameSlip& slip) {
+            return told.code == slip.told && left.code == slip.left;
+        });
+    };
+    const bool overlaps =
+        entry.range.begin < other.range.end && other.range.begin < entry.range.end;
+    if (overlaps && isSlip(other, entry)) return true;
+    const bool isSamePlace =
+        entry.range.begin == other.range.begin && entry.range.end == other.range.end;
+    const bool isMark = entry.code.rfind(kMarkCodes, 0) == 0;  // it is why the other stands there
+    return isSamePlace && !isMark && entry.severity == Severity::Warning &&
+           other.severity == Severity::Error && !isSlip(entry, other);
 }
 
 /// A comment behind the finding, in its line, that names its code. The compiler's own refusals

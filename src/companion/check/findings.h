@@ -36,6 +36,8 @@ private:
         std::string message;
     };
     bool isSilenced(const Entry& entry) const;
+    static bool isToldNearby(const std::vector<const Entry*>& sorted, std::size_t at);
+    static bool isLeftOutFor(const Entry& entry, const Entry& other);
 
     const SourceText& source;
     std::vector<Entry> entries;

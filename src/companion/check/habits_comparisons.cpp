@@ -100,7 +100,7 @@ void checkComparison(const HabitCheck& check, const BinaryExpression& node) {
 void checkLogicalSide(const HabitCheck& check, const LogicalExpression& node,
                       const Expression& side) {
     if (!isNumberOrText(constantOf(side))) return;
-    check.addUnlessGraver("துணை-525", check.compiled.rangeOf(side), {node.op.text});
+    check.add("துணை-525", check.compiled.rangeOf(side), {node.op.text});
 }
 
 }  // namespace

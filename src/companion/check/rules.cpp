@@ -10,9 +10,8 @@ namespace companion {
 const std::vector<Rule>& allRules() {
     static const std::vector<Rule> rules = [] {
         std::vector<Rule> all;
-        for (const RuleTable& table :
-             {markRules(), nameRules(), nativeRules(), stopRules(), habitRules(), kindRules(),
-              hintRules()}) {
+        for (const RuleTable& table : {markRules(), nameRules(), nativeRules(), stopRules(),
+                                       habitRules(), kindRules(), hintRules()}) {
             all.insert(all.end(), table.begin(), table.end());
         }
         return all;

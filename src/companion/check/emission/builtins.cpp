@@ -60,11 +60,6 @@ const BuiltinFacts* factsOfBuiltin(std::string_view name) {
     return nullptr;
 }
 
-bool isEmptyText(const Expression& node) {
-    const auto* text = nodeAs<StringLiteral>(&node);
-    return text != nullptr && text->value.empty();
-}
-
 }  // namespace
 
 bool readsWhole(const Expression& node, long long& number) {
@@ -84,10 +79,7 @@ bool EmissionWalk::isBuiltin(const std::string& name) const {
 
 Value EmissionWalk::walkBuiltin(const CallExpression& call, const std::string& name) {
     const std::vector<Value> values = walkArguments(call);
-    if (name == "வரம்பு") {
-        tell("துணை-597", call, {textOf(call)});
-        return valueOf(Cpp::Null);
-    }
+    if (name == "வரம்பு") return valueOf(Cpp::Null);
     const BuiltinFacts& row = *factsOfBuiltin(name);
     if (values.size() == row.arguments.size()) {
         for (std::size_t i = 0; i < values.size(); i++) {
@@ -158,9 +150,6 @@ void EmissionWalk::checkBuiltinCall(const CallExpression& call, const std::strin
         tell("துணை-317", call, {textOf(*arguments[0]), textOf(*arguments[1])});
     } else if (name == "செல்க" && !knowledge.isApplication) {
         tell("துணை-318", call);
-    } else if ((name == "பிளவு" || name == "பதில்") && arguments.size() >= 2 &&
-               isEmptyText(*arguments[1])) {
-        tell("துணை-429", *arguments[1], {name});
     } else if (name == "சீரற்ற_எண்" && arguments.size() == 2) {
         long long least = 0;
         long long most = 0;

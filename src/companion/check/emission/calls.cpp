@@ -115,7 +115,6 @@ Value EmissionWalk::walkMemberCall(const CallExpression& call, const GetExpressi
     const bool isInputCall = member == "பிழைசெய்தி" || member == "பிழை_அழி" ||
                              member == "கொண்டுள்ளது" || member == "தொடக்கம்" || member == "முடிவு";
     if (object != nullptr && isInputCall) {
-        checkInputMember(call, object->name, member);
         walkArguments(call);
         return Value{};
     }

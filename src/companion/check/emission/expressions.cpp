@@ -153,9 +153,7 @@ Value EmissionWalk::walkNumber(const NumberLiteral& literal) {
 }
 
 Value EmissionWalk::walkText(const Expression& node, const std::string& text) {
-    if (text.find('\n') != std::string::npos) {
-        tell("துணை-320", node);
-    } else if (text.find('"') != std::string::npos) {
+    if (text.find('"') != std::string::npos) {
         tell("துணை-321", node, {textOf(node)});
     } else if (const std::string escape = firstRefusedEscape(text); !escape.empty()) {
         tell("துணை-319", node, {escape});
@@ -282,31 +280,10 @@ void EmissionWalk::checkGivesSomething(const Expression& node, const Value& valu
     if (isWithin(value.facts.kinds, kEmpty)) tell("துணை-592", node, {textOf(node)});
 }
 
-/// These words belong to the inputs of an application: no variable is read.
-void EmissionWalk::checkInputMember(const Expression& node, const std::string& object,
-                                    const std::string& member) {
-    struct Cure {
-        std::string_view member;
-        std::string_view function;
-    };
-    static constexpr Cure kCures[] = {
-        {"நீளம்", "நீளம்"}, {"பெரியஎழுத்து", "பெரியஎ"}, {"சிறியஎழுத்து", "சிறியஎ"}};
-    if (knowledge.isApplication) return;
-    const std::string read = object + "." + member;
-    for (const Cure& cure : kCures) {
-        if (cure.member != member) continue;
-        std::string called(cure.function);
-        called += "(" + object + ")";
-        return tell("துணை-595", node, {read, called});
-    }
-    tell("துணை-589", node, {read});
-}
-
 Value EmissionWalk::walkMember(const GetExpression& access) {
     const auto* variable = nodeAs<VariableAccess>(access.object.get());
     const std::string& member = access.name.text;
     if (variable != nullptr && holds(kInputWords, member)) {
-        checkInputMember(access, variable->name, member);
         if (member == "வெறுமை" || member == "வெறுமைஇல்லை") return valueOf(Cpp::Bool);
         return anyOf(member == "நீளம்" ? kWhole : kText);
     }

@@ -135,24 +135,12 @@ Value EmissionWalk::divide(const BinaryExpression& binary, const Sides& sides, V
     return anyOf(quotientKinds(left, right), kind);
 }
 
-/// என்னவகை gives four of its names with a blank behind them.
-void EmissionWalk::checkKindName(const Expression& asked, const Expression& name) {
-    static constexpr std::string_view kNames[] = {"எண்", "நிலை", "நேரம்", "பொருள்"};
-    const auto* call = nodeAs<CallExpression>(&asked);
-    const auto* callee = call == nullptr ? nullptr : nodeAs<VariableAccess>(call->callee.get());
-    const auto* text = nodeAs<StringLiteral>(&name);
-    if (callee == nullptr || text == nullptr || callee->name != "என்னவகை") return;
-    if (holds(kNames, text->value)) tell("துணை-596", name, {text->value});
-}
-
 /// What can't be compared is simply false, and texts have no order.
 Value EmissionWalk::compare(const BinaryExpression& binary, const Sides& sides, VarType kind) {
     const Value& left = sides.left;
     const Value& right = sides.right;
     const std::vector<std::string> parts = {textOf(*binary.left), textOf(*binary.right)};
     const bool isKnown = left.cpp != Cpp::Unknown && right.cpp != Cpp::Unknown;
-    checkKindName(*binary.left, *binary.right);
-    checkKindName(*binary.right, *binary.left);
     if (isKnown && !canBeEqual(left.facts.kinds, right.facts.kinds)) {
         const bool hasText =
             isWithin(left.facts.kinds, kTexts) || isWithin(right.facts.kinds, kTexts);

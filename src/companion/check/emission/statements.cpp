@@ -127,13 +127,6 @@ void EmissionWalk::walkCountedLoop(const ForStatement& loop, const CallExpressio
             }
         }
     }
-    long long first = 0;
-    long long end = 0;
-    const auto& bounds = range.arguments;
-    if (bounds.size() == 2 && readsWhole(*bounds[0], first) && readsWhole(*bounds[1], end) &&
-        first > end) {
-        tell("துணை-588", range, {textOf(*bounds[0]), textOf(*bounds[1])});
-    }
     walkLoopBody(loop, variable);
 }
 

@@ -118,7 +118,6 @@ private:
     Value operateNative(const BinaryExpression& binary, const Sides& sides, VarType kind);
     Cpp castSide(const Expression& side, const Value& value, Cpp type);
     void checkSum(const BinaryExpression& binary, const Sides& sides);
-    void checkKindName(const Expression& asked, const Expression& name);
     Value divide(const BinaryExpression& binary, const Sides& sides, VarType kind);
     Value compare(const BinaryExpression& binary, const Sides& sides, VarType kind);
     void walkTruth(const Expression& side);
@@ -147,8 +146,6 @@ private:
     void checkBuiltinCall(const CallExpression& call, const std::string& name);
     void checkResultIsKept(const Expression& expression);
     void checkGivesSomething(const Expression& node, const Value& value);
-    void checkInputMember(const Expression& node, const std::string& object,
-                          const std::string& member);
     Value walkIndexStore(const CallExpression& call);
     Value walkIndexTarget(const Expression& expression);
     void addElement(const Expression& container, const Value& value);
