@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# lint.sh [FILE...]: clang-tidy over the compiler's sources, or over the files named. The emitted
-# text is left out: its rules are those of the generated programs.
+# lint.sh [FILE...]: clang-tidy over the compiler's sources, or over the files named. All of them are
+# read in units of several files, as the build compiles them: most of the time goes into headers that
+# they share. The emitted text is left out: its rules are those of the generated programs.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
 set -euo pipefail
 CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -10,14 +11,34 @@ CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/build_directory.sh
 . scripts/build_directory.sh
 
-# There each file is compiled by itself.
-database=build/debug
-configure debug
-# The embedded texts are headers that the build makes.
-cmake --build "$database" --target generated/emitted_text.h \
-    generated/widget_templates.h >/dev/null
-
 tool=$(command -v clang-tidy-14 || command -v clang-tidy)
-files=("$@")
-[ ${#files[@]} -gt 0 ] || mapfile -t files < <(find src -name '*.cpp' -not -path 'src/emitted/*')
-printf '%s\0' "${files[@]}" | xargs -0 -P 2 -n 1 "$tool" --quiet -p "$database" 2>/dev/null
+
+# prepare PRESET: its commands, and the embedded texts, which are headers that the build makes.
+prepare() {
+    configure "$1"
+    cmake --build "build/$1" --target generated/emitted_text.h generated/widget_templates.h >/dev/null
+}
+
+# tidy PRESET FILE...: the commands are those of g++, some of whose warnings clang doesn't know.
+tidy() {
+    local database=build/$1
+    shift
+    [ $# -gt 0 ] || return 0
+    printf '%s\0' "$@" | xargs -0 -P "$(nproc)" -n 1 "$tool" --quiet -p "$database" \
+        --extra-arg=-Wno-unknown-warning-option 2>/dev/null
+}
+
+sources() { find "$PWD/src" -name '*.cpp' -not -path '*/src/emitted/*' | sort; }
+units() { sed -n 's/.*"file": "\(.*\/Unity\/.*\)".*/\1/p' build/lint/compile_commands.json; }
+# The sources that the units are made of.
+united() { units | xargs -r -d '\n' sed -n 's/^#include "\(.*\)"$/\1/p' | sort; }
+
+if [ $# -gt 0 ]; then
+    prepare debug
+    tidy debug "$@"
+    exit
+fi
+prepare lint
+mapfile -t together < <(units)
+mapfile -t apart < <(comm -23 <(sources) <(united))
+tidy lint "${together[@]}" "${apart[@]}"
