@@ -1,0 +1,94 @@
+# Steps that are counted and timed, one behind the other or aside: to be sourced behind messages.sh.
+# shellcheck shell=bash
+
+passed=0 failed=0 skipped=0
+failures=()
+durations=() # of steps, one a line: seconds and name
+
+begin() { say "▶ $1 (${SECONDS} s)"; }
+
+# end NAME START: the step that began at that second is over.
+end() { durations+=("$(printf '%6d s  %s' $((SECONDS - $2)) "$1")"); }
+
+# check NAME COMMAND...: a step that counts as one check.
+check() {
+    local name=$1 start=$SECONDS
+    shift
+    begin "$name"
+    if "$@"; then
+        passed=$((passed + 1))
+    else
+        failed=$((failed + 1))
+        failures+=("$name")
+    fi
+    end "$name" "$start"
+}
+
+# ---- What runs aside: the steps of one function, one behind the other, at low priority ----
+
+aside=0 # its process group, while it runs
+aside_folder=
+trap 'end_aside' EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+end_aside() {
+    if [ "$aside" -ne 0 ]; then
+        kill -- "-$aside" 2>/dev/null || true
+        wait "$aside" 2>/dev/null || true
+    fi
+    [ -z "$aside_folder" ] || rm -rf "$aside_folder"
+}
+
+# The steps of a function, from counts that begin at nothing; the file `counted` holds them at the end.
+run_aside() {
+    passed=0 failed=0 skipped=0 failures=() durations=()
+    renice -n 19 "$BASHPID" >/dev/null 2>&1 || true
+    "$1"
+    declare -p passed failed skipped failures durations >"$aside_folder/counted"
+}
+
+# start_aside FUNCTION: what it prints is kept until it is joined. In a process group of its own, so
+# that all of it can be ended.
+start_aside() {
+    aside_folder=$(mktemp -d)
+    set -m
+    run_aside "$1" >"$aside_folder/printed" 2>&1 </dev/null &
+    aside=$!
+    set +m
+}
+
+# join_aside NAME: waits for it, and adds what it printed and counted. One that broke off has failed.
+join_aside() {
+    local start=$SECONDS status=0
+    wait "$aside" || status=$?
+    aside=0
+    cat "$aside_folder/printed" >&2
+    if [ "$status" -eq 0 ] && [ -f "$aside_folder/counted" ]; then
+        add_counted
+    else
+        failed=$((failed + 1))
+        failures+=("$1: $status")
+    fi
+    end "$1: காத்திருப்பு" "$start"
+}
+
+add_counted() {
+    local p=$passed f=$failed s=$skipped duration
+    local all_failures=("${failures[@]}") all_durations=("${durations[@]}")
+    # shellcheck source=/dev/null
+    . <(sed 's/^declare /declare -g /' "$aside_folder/counted")
+    passed=$((passed + p)) failed=$((failed + f)) skipped=$((skipped + s))
+    failures=("${all_failures[@]}" "${failures[@]}")
+    for duration in "${durations[@]}"; do all_durations+=("$duration (பக்கத்தில்)"); done
+    durations=("${all_durations[@]}")
+}
+
+# summary: the durations, what failed, and the counts. Holds if something passed and nothing failed.
+summary() {
+    printf '⏱ %d வினாடிகள்:\n' "$SECONDS"
+    printf '%s\n' "${durations[@]}"
+    [ ${#failures[@]} -eq 0 ] || printf '✗ %s\n' "${failures[@]}"
+    echo "$passed passed, $failed failed$([ "$skipped" -eq 0 ] || echo ", $skipped skipped")"
+    [ "$failed" -eq 0 ] && [ "$passed" -gt 0 ]
+}

@@ -1,0 +1,99 @@
+// The steps of the tests' script: what they count and tell, also of those that run aside.
+#include <sys/wait.h>
+
+#include "driver/live_process.h"
+#include "driver/workplace.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class StepsScript : public Workplace {
+protected:
+    /// A script of these steps.
+    std::vector<std::string> script(const std::string& steps) const {
+        writeFileText(root / "steps", "set -euo pipefail\n. '" + scripts + "messages.sh'\n. '" +
+                                          scripts + "steps.sh'\n" + steps + "\n");
+        return {"/bin/bash", (root / "steps").u8string()};
+    }
+
+    ProcessResult run(const std::string& steps) const {
+        return runCommand(script(steps), {work.u8string(), environment(), "", 60});
+    }
+
+    const std::string scripts = POZHIL_ROOT "/scripts/";
+};
+
+bool shows(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
+TEST_F(StepsScript, CountStepsAsideAndTellHowLongEachTook) {
+    const ProcessResult result =
+        run("beside() { check a true; check b false; skipped=$((skipped + 3)); }\n"
+            "check first sleep 1.1\n"
+            "start_aside beside\n"
+            "check c true\n"
+            "check d false\n"
+            "join_aside others\n"
+            "check last true\n"
+            "summary");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_TRUE(shows(result.out, "✗ d\n✗ b\n4 passed, 2 failed, 3 skipped\n")) << result.out;
+    EXPECT_FALSE(shows(result.out, "     0 s  first\n")) << result.out;
+    for (const char* row :
+         {" s  first\n", " s  c\n", " s  d\n", " s  a (", " s  b (", " s  last\n"}) {
+        EXPECT_TRUE(shows(result.out, row)) << row << result.out;
+    }
+}
+
+TEST_F(StepsScript, AllThatPassedIsASuccess) {
+    const ProcessResult result =
+        run("beside() { check a true; }\n"
+            "start_aside beside\n"
+            "join_aside others\n"
+            "summary");
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_TRUE(shows(result.out, "\n1 passed, 0 failed\n")) << result.out;
+}
+
+TEST_F(StepsScript, AsideBehindTheOthersPrintsWholeWhenItIsJoined) {
+    const ProcessResult result =
+        run("beside() { check a sh -c 'nice >&2; touch done'; }\n"
+            "start_aside beside\n"
+            "until [ -e done ]; do sleep 0.05; done\n"
+            "echo before >&2\n"
+            "join_aside others");
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_TRUE(shows(result.err, "before\n")) << result.err;
+    EXPECT_TRUE(shows(result.err.substr(result.err.find("before")), "\n19\n")) << result.err;
+}
+
+TEST_F(StepsScript, WhatBreaksOffAsideHasFailed) {
+    const ProcessResult result =
+        run("beside() { check a true; exit 7; }\n"
+            "start_aside beside\n"
+            "join_aside others\n"
+            "check b true\n"
+            "summary");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_TRUE(shows(result.out, "✗ others: 7\n1 passed, 1 failed\n")) << result.out;
+}
+
+TEST_F(StepsScript, CtrlCEndsWhatRunsAside) {
+    LiveProcess live(
+        script("beside() { check a sh -c 'echo $$ >id.new; mv id.new id; exec sleep 600'; }\n"
+               "start_aside beside\n"
+               "check b sleep 600"),
+        work, environment(), root);
+    ASSERT_TRUE(within(20, [&] { return fs::exists(work / "id"); })) << live.err();
+    const std::string id = readFileText(work / "id");
+    const fs::path process = fs::path("/proc") / id.substr(0, id.find('\n'));
+    ASSERT_TRUE(fs::exists(process));
+    live.pressCtrlC();
+    ASSERT_TRUE(live.waitForEnd());
+    EXPECT_TRUE(WIFEXITED(live.status) && WEXITSTATUS(live.status) == 130) << live.status;
+    EXPECT_TRUE(within(20, [&] { return !fs::exists(process); }));
+}
+
+}  // namespace
