@@ -22,7 +22,10 @@ export function launch(extraFlags = []) {
     });
 }
 
-/** Without a GPU a frame takes the processor: a pause between frames leaves it to the other tests. */
+/**
+ * Without a GPU a frame takes a tenth of a second of processor time: a pause between frames leaves it to the
+ * other tests, or two open pages would take all of it while nobody looks at them.
+ */
 function slowFrames(milliseconds) {
     const request = window.requestAnimationFrame;
     window.requestAnimationFrame = callback =>
@@ -43,7 +46,7 @@ function noteLoss(words) {
  * `page.printed` what programs print; warnings are the driver's. Nothing outside this machine is reached.
  * Between frames lie `pause` milliseconds.
  */
-export async function openPage(browser, options = desk, prepare = async () => {}, pause = 40) {
+export async function openPage(browser, options = desk, prepare = async () => {}, pause = 150) {
     const context = await browser.newContext(options);
     await context.route(url => url.hostname !== 'localhost', route => route.abort());
     const page = await context.newPage();
@@ -91,7 +94,7 @@ export async function press(page, x, y) {
 }
 
 /** Waits until `holds` answers something true, and returns it. */
-export async function until(holds, what, seconds = 60) {
+export async function until(holds, what, seconds = 180) {
     const deadline = Date.now() + seconds * 1000;
     for (;;) {
         const answer = await holds();
