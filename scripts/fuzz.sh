@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# fuzz.sh [SECONDS]: feeds scanner, parser and generator with made-up sources under the address and
-# undefined-behaviour sanitizers, starting from the test programs. Tells how many inputs were tried;
-# fails at the first crash, hang or leak and keeps the input that caused it in build/fuzz/findings.
+# fuzz.sh [SECONDS]: feeds scanner, parser and generator, and then the companion, with made-up sources
+# under the address and undefined-behaviour sanitizers, starting from the test programs; each gets half
+# of the time. Tells how many inputs were tried; fails at the first crash, hang, leak or broken promise
+# and keeps the input that caused it in build/fuzz/findings.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -15,7 +16,7 @@ seconds=${1:-60}
 
 scripts/install_packages.sh g++ cmake ninja-build clang libclang-rt-dev
 configure fuzz
-run_quietly "சோதனை நிரலைக் கட்ட முடியவில்லை." cmake --build --preset fuzz --target front_end_fuzzer
+run_quietly "சோதனை நிரலைக் கட்ட முடியவில்லை." cmake --build --preset fuzz --target fuzzers
 
 corpus="$root/build/fuzz/corpus"
 seeds="$root/build/fuzz/seeds"
@@ -23,24 +24,32 @@ findings="$root/build/fuzz/findings"
 mkdir -p "$corpus" "$findings"
 rm -rf "$seeds"
 mkdir "$seeds"
-find tests examples தொகுப்புகள் -name '*.பொழில்' -size -16k -print0 |
-    while IFS= read -r -d '' file; do cp "$file" "$seeds/$(sha1sum <"$file" | cut -c 1-40)"; done
+find tests examples தொகுப்புகள் -name '*.பொழில்' -size -16k -print0 | xargs -0 sha1sum |
+    sort -u -k 1,1 | while read -r sum file; do cp "$file" "$seeds/$sum"; done
 
 # An empty directory: an import that a made-up source names finds nothing there.
 empty=$(mktemp -d)
 log=$(mktemp)
 trap 'rm -rf "$empty" "$log"' EXIT
-fuzzer=$(find "$root/build/fuzz" -name front_end_fuzzer -type f | head -n 1)
-status=0
-(cd "$empty" && "$fuzzer" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=4096 \
-    -max_len=4096 -dict="$root/tests/fuzz/words.dict" -print_final_stats=1 \
-    -artifact_prefix="$findings/" "$corpus" "$seeds") >"$log" 2>&1 || status=$?
 
-tried=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
-if [ "$status" -ne 0 ]; then
-    tail -n 60 "$log" >&2
-    refuse "ஒரு குறை கண்டறியப்பட்டது; உள்ளீடு build/fuzz/findings-இல் உள்ளது."
-fi
-grep -E 'DONE' "$log" | tail -n 1
-echo "fuzz: ${tried:-0} inputs in $seconds s, nothing found"
-[ "${tried:-0}" -gt 0 ] || refuse "எந்த உள்ளீடும் சோதிக்கப்படவில்லை."
+# run_fuzzer NAME SECONDS
+run_fuzzer() {
+    local fuzzer status=0 tried
+    fuzzer=$(find "$root/build/fuzz" -name "$1" -type f | head -n 1)
+    (cd "$empty" && "$fuzzer" -max_total_time="$2" -timeout=20 -rss_limit_mb=4096 \
+        -max_len=4096 -dict="$root/tests/fuzz/words.dict" -print_final_stats=1 \
+        -artifact_prefix="$findings/" "$corpus" "$seeds") >"$log" 2>&1 || status=$?
+
+    tried=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
+    if [ "$status" -ne 0 ]; then
+        tail -n 60 "$log" >&2
+        refuse "ஒரு குறை கண்டறியப்பட்டது; உள்ளீடு build/fuzz/findings-இல் உள்ளது."
+    fi
+    grep -E 'DONE' "$log" | tail -n 1
+    echo "fuzz: $1: ${tried:-0} inputs in $2 s, nothing found"
+    [ "${tried:-0}" -gt 0 ] || refuse "எந்த உள்ளீடும் சோதிக்கப்படவில்லை."
+}
+
+half=$(((seconds + 1) / 2))
+run_fuzzer front_end_fuzzer "$half"
+run_fuzzer companion_fuzzer "$half"
