@@ -86,6 +86,12 @@ TEST(Format, LeavesAloneWhatANulByteCutsOff) {
     EXPECT_EQ(companion::formatted("அ = 1 ஃ \0 ஆ\n"s), std::nullopt);
 }
 
+/// A letter that lacks its last byte takes the line end with it.
+TEST(Format, LeavesAloneBrokenLetters) {
+    EXPECT_EQ(companion::formatted("அ = \xE0\xAE\nஆ = 1\n"), std::nullopt);
+    EXPECT_EQ(companion::formatted("அ = 1 ஃ \xFF\n"), std::nullopt);
+}
+
 TEST(Format, MakesNothingOfNothing) {
     EXPECT_EQ(companion::formatted(""), "");
     EXPECT_EQ(companion::formatted("\n\n  \n"), "");

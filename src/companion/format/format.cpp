@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "companion/check/marks_signs.h"
 #include "companion/format/cleaned.h"
 #include "companion/format/layout.h"
 #include "companion/refusal.h"
@@ -22,6 +23,17 @@ std::optional<std::vector<Token>> tokensOf(const std::string& text) {
     }
 }
 
+/// The scanner stops at a NUL byte, and broken characters make it jump over what stands behind.
+bool isReadAlike(const std::string& text) {
+    if (text.find('\0') != std::string::npos) return false;
+    for (std::size_t at = 0; at < text.size();) {
+        const CodePoint point = codePointAt(text, at);
+        if (point.width == 1 && point.value >= 0x80) return false;
+        at += point.width;
+    }
+    return true;
+}
+
 /// How wide a block is indented says nothing; that one begins or ends does.
 bool meansTheSame(const Token& a, const Token& b) {
     const bool isIndentation = a.type == TokenType::INDENT || a.type == TokenType::DEDENT;
@@ -31,7 +43,7 @@ bool meansTheSame(const Token& a, const Token& b) {
 }  // namespace
 
 std::optional<std::string> formatted(const std::string& text) {
-    if (text.find('\0') != std::string::npos) return std::nullopt;  // the scanner stops there
+    if (!isReadAlike(text)) return std::nullopt;
     const std::string clean = cleaned(text);
     const auto before = tokensOf(clean);
     if (!before) return std::nullopt;
