@@ -30,12 +30,18 @@ bool endsValue(const Neighbour& piece) {
     return piece.kind != PieceKind::Mark || isOneOf(piece, ")]}");
 }
 
+/// A name at a quote was meant to stand inside the text: it stays there, for the check to tell.
+bool isGluedName(const Neighbour& name, const Neighbour& quoted) {
+    return isName(name) && quoted.kind == PieceKind::Text;
+}
+
 }  // namespace
 
 std::size_t Spacing::before(const Neighbour& right, std::size_t written) {
     if (!left) return 0;
     if (right.kind == PieceKind::Mark) return beforeMark(right, written);
     if (left->kind == PieceKind::Mark) return behindMark(right, written);
+    if (isGluedName(*left, right) || isGluedName(right, *left)) return atMostOne(written);
     return 1;
 }
 
