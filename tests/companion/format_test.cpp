@@ -96,6 +96,7 @@ TEST(Format, MakesNothingOfNothing) {
     EXPECT_EQ(companion::formatted(""), "");
     EXPECT_EQ(companion::formatted("\n\n  \n"), "");
     EXPECT_EQ(companion::formatted("\xEF\xBB\xBF"), "");
+    EXPECT_EQ(companion::formatted("\n\xEF\xBB\xBFஅ = 1\n"), std::nullopt);
 }
 
 /// Twenty times what it takes: a step that is taken anew for each line shows all the same.

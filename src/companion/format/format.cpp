@@ -6,6 +6,7 @@
 #include "companion/check/marks_signs.h"
 #include "companion/format/cleaned.h"
 #include "companion/format/layout.h"
+#include "companion/pieces.h"
 #include "companion/refusal.h"
 #include "lexer/lexer.h"
 
@@ -48,6 +49,8 @@ std::optional<std::string> formatted(const std::string& text) {
     const auto before = tokensOf(clean);
     if (!before) return std::nullopt;
     std::string result = laidOut(clean);
+    // What was the letter of a name would be a mark of byte order to whoever reads it next.
+    if (result.compare(0, kByteOrderMark.size(), kByteOrderMark) == 0) return std::nullopt;
     const auto after = tokensOf(result);
     if (!after ||
         !std::equal(before->begin(), before->end(), after->begin(), after->end(), meansTheSame)) {
