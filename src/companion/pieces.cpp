@@ -62,13 +62,18 @@ Piece PieceReader::readComment() {
 
 Piece PieceReader::readText() {
     const std::size_t closing = text.find('"', position + 1);
-    const std::size_t lineEnd = endOfLine(position);
-    if (closing < lineEnd) return cut(PieceKind::Text, closing + 1);
+    if (!hasLineEnd(position, closing)) return cut(PieceKind::Text, closing + 1);
     if (openTexts == OpenTexts::AsMeant && opensAnother(closing)) {
-        return cut(PieceKind::Text, lineEnd, false);
+        return cut(PieceKind::Text, endOfLine(position), false);
     }
     if (closing == std::string_view::npos) return cut(PieceKind::Text, text.size(), false);
     return cut(PieceKind::Text, closing + 1);
+}
+
+/// Looks no further than `to`: a line may hold thousands of texts.
+bool PieceReader::hasLineEnd(std::size_t from, std::size_t to) const {
+    return to == std::string_view::npos ||
+           text.substr(from, to - from).find('\n') != std::string_view::npos;
 }
 
 /// True if `quote`, which ends a text of several lines, was meant to begin one: quotes pair up line
@@ -82,9 +87,8 @@ bool PieceReader::opensAnother(std::size_t quote) const {
 
 Piece PieceReader::readCharacter() {
     const std::size_t closing = text.find('\'', position + 1);
-    const std::size_t lineEnd = endOfLine(position);
-    if (closing < lineEnd) return cut(PieceKind::Character, closing + 1);
-    return cut(PieceKind::Character, lineEnd, false);
+    if (!hasLineEnd(position, closing)) return cut(PieceKind::Character, closing + 1);
+    return cut(PieceKind::Character, endOfLine(position), false);
 }
 
 Piece PieceReader::readNumber() {

@@ -41,6 +41,7 @@ private:
     Piece readNumber();
     std::size_t endOfWord() const;
     std::size_t endOfLine(std::size_t from) const;
+    bool hasLineEnd(std::size_t from, std::size_t to) const;
     bool opensAnother(std::size_t quote) const;
     bool startsWith(std::string_view mark) const;
     bool atTamilDigit(std::size_t at) const;

@@ -102,6 +102,18 @@ bool isHexDigit(char byte) {
 
 bool isWordOfLanguage(std::string_view word) { return lookUpWord(word) != TokenType::IDENTIFIER; }
 
+/// True if the quote at the end of `written` was meant to stand in the text: a backslash was to
+/// guard it, or a name stands at it. `behind` is what follows up to the next quote.
+bool isEndedTooSoon(std::string_view written, std::string_view behind) {
+    const std::string_view inside = written.substr(1, written.size() - 2);
+    const std::size_t backslashes = inside.size() - (inside.find_last_not_of('\\') + 1);
+    if (backslashes % 2 != 0) return true;
+    std::size_t end = 0;
+    while (end < behind.size() && !isAsciiMark(static_cast<unsigned char>(behind[end]))) end++;
+    return end > 0 && lookUpWord(behind.substr(0, end)) == TokenType::IDENTIFIER &&
+           behind.substr(0, kCommentSign.size()) != kCommentSign;
+}
+
 class MarkCheck {
 public:
     MarkCheck(const SourceText& source, Findings& findings)
@@ -336,23 +348,19 @@ void MarkCheck::lookForGluedComment(const Piece& word) {
 // ---- Texts, comments, marks ----
 
 void MarkCheck::lookAtText(const Piece& piece) {
-    const std::size_t lineEnd = lineEndBehind(piece.begin);
-    if (!piece.isClosed || piece.end > lineEnd) {
-        findings.add("துணை-114",
-                     {piece.begin, source.rangeOfWordsOn(source.placeOf(piece.begin).line).end});
+    const std::string_view written = source.slice({piece.begin, piece.end});
+    if (!piece.isClosed || written.find('\n') != std::string_view::npos) {
+        const int line = source.placeOf(piece.begin).line;
+        findings.add("துணை-114", {piece.begin, source.rangeOfWordsOn(line).end});
         return;
     }
-    const std::string_view rest = text.substr(piece.end, lineEnd - piece.end);
-    if (rest.find('"') == std::string_view::npos) return;
-    std::size_t end = 0;
-    while (end < rest.size() && !isAsciiMark(static_cast<unsigned char>(rest[end]))) end++;
-    std::size_t backslashes = 0;
-    while (text[piece.end - 2 - backslashes] == '\\') backslashes++;
-    const bool isGlued = end > 0 && lookUpWord(rest.substr(0, end)) == TokenType::IDENTIFIER &&
-                         rest.substr(0, kCommentSign.size()) != kCommentSign;
-    if (!isGlued && backslashes % 2 == 0) return;
+    const std::string_view behind = text.substr(piece.end);
+    const std::string_view between = behind.substr(0, behind.find('"'));
+    const bool hasQuoteBehind =
+        between.size() < behind.size() && between.find('\n') == std::string_view::npos;
+    if (!hasQuoteBehind || !isEndedTooSoon(written, between)) return;
     findings.add("துணை-113", {piece.end - 1, piece.end});
-    reader.continueAt(lineEnd);
+    reader.continueAt(lineEndBehind(piece.end));
 }
 
 /// ஃப is also how a loan word begins: a name so written is a comment. Told where the rest of the
