@@ -1,10 +1,12 @@
 // Holds the check against g++ and the running program, over programs made up at random:
 //   companion_compare [COUNT [FIRST_SEED]]   what they disagree about, each with its seed
 //   companion_compare show SEED              that program
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "companion/check/check.h"
@@ -33,6 +35,21 @@ struct Compared {
     }
 };
 
+/// The text without what it quotes, for counting those that are alike.
+std::string withoutQuotes(const std::string& text) {
+    std::string shape;
+    std::size_t at = 0;
+    while (at < text.size()) {
+        const std::size_t open = std::min(text.find("‘", at), text.size());
+        shape += text.substr(at, open - at);
+        const std::size_t close = text.find("’", open);
+        if (close == std::string::npos) break;
+        shape += "‘…’";
+        at = close + std::string_view("’").size();
+    }
+    return shape.substr(0, shape.find('\n'));
+}
+
 std::string describe(const Finding& finding) {
     return std::to_string(finding.line) + ": " + finding.code + " " + finding.message;
 }
@@ -49,6 +66,8 @@ public:
     void print() const {
         std::cout << "\n";
         for (const auto& [what, number] : numbers) std::cout << what << ": " << number << "\n";
+        std::cout << "\n";
+        for (const auto& [what, number] : shapes) std::cout << number << " times " << what << "\n";
     }
 
     bool hasDisagreements() const { return numbers.count(kMiss) + numbers.count(kFalseAlarm) > 0; }
@@ -108,10 +127,12 @@ private:
 
     void tell(const char* what, std::uint32_t seed, const std::string& detail) {
         numbers[what]++;
+        shapes[std::string(what) + ": " + withoutQuotes(detail)]++;
         std::cout << what << ", seed " << seed << "\n    " << detail << "\n";
     }
 
     std::map<std::string, int> numbers;
+    std::map<std::string, int> shapes;
 };
 
 }  // namespace

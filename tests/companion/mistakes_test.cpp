@@ -4,9 +4,11 @@
 // reasons of what stays are kept.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iomanip>
+#include <iostream>
 #include <map>
 #include <sstream>
 
@@ -65,16 +67,16 @@ std::vector<int> blamedLines(const Truth& truth) {
     return lines;
 }
 
-struct Count {
+struct ToldCount {
     int told = 0;
     int all = 0;
 };
 
 /// What was told, by kind.
-class Numbers {
+class ToldNumbers {
 public:
     void add(const Truth& truth, bool isTold) {
-        Count& count = counts[truth.kind];
+        ToldCount& count = counts[truth.kind];
         count.told += isTold ? 1 : 0;
         count.all++;
     }
@@ -91,12 +93,12 @@ public:
     }
 
 private:
-    std::map<std::string, Count> counts;
+    std::map<std::string, ToldCount> counts;
     int elsewhere = 0;
 };
 
 /// The mistakes that the check doesn't tell, each with a first reason.
-Misses findMisses(Numbers& numbers) {
+Misses findMisses(ToldNumbers& numbers) {
     Misses misses;
     for (const Mistake& mistake : findMistakes()) {
         if (mistake.truth.kind == "right") continue;
@@ -119,7 +121,7 @@ Misses findMisses(Numbers& numbers) {
 }
 
 TEST(Mistakes, AreToldAtTheirLine) {
-    Numbers numbers;
+    ToldNumbers numbers;
     Misses misses = findMisses(numbers);
     std::cout << numbers.asTable();
     const Misses known = readKnownMisses();

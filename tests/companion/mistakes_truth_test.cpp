@@ -5,7 +5,7 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <map>
+#include <iostream>
 
 #include "mistakes/mistake.h"
 #include "mistakes/outcome.h"

@@ -29,6 +29,20 @@ int numberOf(const std::string& line) {
     return std::stoi(line.substr(digits, colon - digits));
 }
 
+/// g++ writes the bytes of Tamil texts as numbers: "\37777777740" is E0.
+std::string withBytes(const std::string& message) {
+    static const std::string mark = "\\37777777";
+    std::string text;
+    std::size_t at = 0;
+    for (std::size_t next = 0; (next = message.find(mark, at)) != std::string::npos;) {
+        const std::size_t digits = next + mark.size();
+        text += message.substr(at, next - at);
+        text += static_cast<char>(std::stoi(message.substr(digits, 3), nullptr, 8));
+        at = digits + 3;
+    }
+    return text + message.substr(at);
+}
+
 /// An error inside the library's text is that of the program which asked for it: the line before
 /// tells.
 std::map<int, std::string> errorsByProgram(const std::string& messages) {
@@ -41,7 +55,7 @@ std::map<int, std::string> errorsByProgram(const std::string& messages) {
         const std::size_t error = line.find("error: ");
         if (error == std::string::npos) continue;
         const int number = own >= 0 ? own : asking;
-        if (number >= 0) errors.emplace(number, line.substr(error));
+        if (number >= 0) errors.emplace(number, withBytes(line.substr(error)));
     }
     return errors;
 }

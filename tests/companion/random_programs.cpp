@@ -8,7 +8,7 @@
 
 namespace {
 
-enum class Kind { Whole, Decimal, Text, Truth, List, Dictionary };
+enum class ValueKind { Whole, Decimal, Text, Truth, List, Dictionary };
 constexpr int kKinds = 6;
 
 const char* const kVariables[] = {"அகம்", "புறம்", "கூடை", "வானம்", "நதி", "மலை", "கடல்"};
@@ -26,10 +26,10 @@ constexpr int kDeepestExpression = 3;
 constexpr int kDeepestBlock = 2;
 constexpr int kOddOnesIn = 40;  ///< One in so many operands is of any kind.
 
-struct Function {
+struct MadeFunction {
     std::string name;
-    std::vector<Kind> parameters;
-    Kind result;
+    std::vector<ValueKind> parameters;
+    ValueKind result;
 };
 
 /// Writes one program. What it knows of a name's kind is what was assigned to it last.
@@ -51,7 +51,7 @@ private:
     std::string oneOf(const char* const (&words)[size]) {
         return words[below(static_cast<int>(size))];
     }
-    Kind anyKind() { return static_cast<Kind>(below(kKinds)); }
+    ValueKind anyKind() { return static_cast<ValueKind>(below(kKinds)); }
 
     void writeLine(const std::string& line) {
         text += std::string(static_cast<std::size_t>(depth) * 4, ' ') + line + "\n";
@@ -68,41 +68,41 @@ private:
     // ---- Expressions ----
 
     /// An operand of `kind`, or once in a while of any other.
-    std::string operand(Kind kind, int level) {
+    std::string operand(ValueKind kind, int level) {
         return expression(onceIn(kOddOnesIn) ? anyKind() : kind, level + 1);
     }
 
-    std::string expression(Kind kind, int level) {
+    std::string expression(ValueKind kind, int level) {
         if (level >= kDeepestExpression || onceIn(3)) return atom(kind);
         if (onceIn(12)) return "(" + operand(kind, level) + ")";
         switch (kind) {
-            case Kind::Whole: return whole(level);
-            case Kind::Decimal: return decimal(level);
-            case Kind::Text: return joined(level);
-            case Kind::Truth: return truth(level);
-            case Kind::List: return list(level);
-            case Kind::Dictionary: return dictionary(level);
+            case ValueKind::Whole: return whole(level);
+            case ValueKind::Decimal: return decimal(level);
+            case ValueKind::Text: return joined(level);
+            case ValueKind::Truth: return truth(level);
+            case ValueKind::List: return list(level);
+            case ValueKind::Dictionary: return dictionary(level);
         }
         return "";
     }
 
-    std::string atom(Kind kind) {
+    std::string atom(ValueKind kind) {
         const std::string name = nameOf(kind);
         if (!name.empty() && !onceIn(3)) return name;
         switch (kind) {
-            case Kind::Whole: return oneOf(kWholes);
-            case Kind::Decimal: return oneOf(kDecimals);
-            case Kind::Text: return oneOf(kTexts);
-            case Kind::Truth: return onceIn(2) ? "மெய்" : "பொய்";
-            case Kind::List: return "[1, 2, 3]";
-            case Kind::Dictionary: return "{\"அ\": 1}";
+            case ValueKind::Whole: return oneOf(kWholes);
+            case ValueKind::Decimal: return oneOf(kDecimals);
+            case ValueKind::Text: return oneOf(kTexts);
+            case ValueKind::Truth: return onceIn(2) ? "மெய்" : "பொய்";
+            case ValueKind::List: return "[1, 2, 3]";
+            case ValueKind::Dictionary: return "{\"அ\": 1}";
         }
         return "";
     }
 
     /// A name that holds `kind`; now and then one that nothing was assigned to; empty if there is
     /// none.
-    std::string nameOf(Kind kind) {
+    std::string nameOf(ValueKind kind) {
         if (onceIn(kOddOnesIn * 2)) return oneOf(kVariables);
         std::vector<std::string> names;
         for (const auto& [name, known] : kinds) {
@@ -113,93 +113,108 @@ private:
 
     std::string whole(int level) {
         switch (below(10)) {
-            case 0: return operand(Kind::Whole, level) + " மீதி " + operand(Kind::Whole, level);
-            case 1: return operand(Kind::Whole, level) + " வகு " + operand(Kind::Whole, level);
-            case 2: return "நீளம்(" + operand(onceIn(2) ? Kind::List : Kind::Text, level) + ")";
-            case 3: return "எண்(" + operand(onceIn(2) ? Kind::Whole : Kind::Decimal, level) + ")";
-            case 4: return "குறை " + atom(Kind::Whole);
+            case 0:
+                return operand(ValueKind::Whole, level) + " மீதி " +
+                       operand(ValueKind::Whole, level);
+            case 1:
+                return operand(ValueKind::Whole, level) + " வகு " +
+                       operand(ValueKind::Whole, level);
+            case 2:
+                return "நீளம்(" + operand(onceIn(2) ? ValueKind::List : ValueKind::Text, level) + ")";
+            case 3:
+                return "எண்(" + operand(onceIn(2) ? ValueKind::Whole : ValueKind::Decimal, level) +
+                       ")";
+            case 4: return "குறை " + atom(ValueKind::Whole);
             case 5: return element(level);
-            case 6: return call(Kind::Whole, level);
-            case 7: return chosen(Kind::Whole, level);
-            default: return arithmetic(Kind::Whole, level);
+            case 6: return call(ValueKind::Whole, level);
+            case 7: return chosen(ValueKind::Whole, level);
+            default: return arithmetic(ValueKind::Whole, level);
         }
     }
 
     std::string decimal(int level) {
         switch (below(6)) {
-            case 0: return "வர்க்கமூலம்(" + operand(Kind::Decimal, level) + ")";
-            case 1: return operand(Kind::Decimal, level) + " வகு " + operand(Kind::Decimal, level);
-            case 2: return call(Kind::Decimal, level);
-            case 3: return chosen(Kind::Decimal, level);
-            default: return arithmetic(Kind::Decimal, level);
+            case 0: return "வர்க்கமூலம்(" + operand(ValueKind::Decimal, level) + ")";
+            case 1:
+                return operand(ValueKind::Decimal, level) + " வகு " +
+                       operand(ValueKind::Decimal, level);
+            case 2: return call(ValueKind::Decimal, level);
+            case 3: return chosen(ValueKind::Decimal, level);
+            default: return arithmetic(ValueKind::Decimal, level);
         }
     }
 
-    std::string arithmetic(Kind kind, int level) {
+    std::string arithmetic(ValueKind kind, int level) {
         return operand(kind, level) + oneOf(kArithmetic) + operand(kind, level);
     }
 
     std::string joined(int level) {
         switch (below(6)) {
-            case 0: return "பெரியஎ(" + operand(Kind::Text, level) + ")";
-            case 1: return call(Kind::Text, level);
-            case 2: return chosen(Kind::Text, level);
-            case 3: return operand(Kind::Text, level) + " கூட்டு " + operand(Kind::Text, level);
-            default: return operand(Kind::Text, level) + " இணை " + operand(anyKind(), level);
+            case 0: return "பெரியஎ(" + operand(ValueKind::Text, level) + ")";
+            case 1: return call(ValueKind::Text, level);
+            case 2: return chosen(ValueKind::Text, level);
+            case 3:
+                return operand(ValueKind::Text, level) + " கூட்டு " +
+                       operand(ValueKind::Text, level);
+            default: return operand(ValueKind::Text, level) + " இணை " + operand(anyKind(), level);
         }
     }
 
     std::string truth(int level) {
         switch (below(6)) {
-            case 0: return operand(Kind::Truth, level) + " மற்றும் " + operand(Kind::Truth, level);
-            case 1: return operand(Kind::Truth, level) + " அல்லது " + operand(Kind::Truth, level);
-            case 2: return "இல்லை " + operand(Kind::Truth, level);
-            case 3: return call(Kind::Truth, level);
+            case 0:
+                return operand(ValueKind::Truth, level) + " மற்றும் " +
+                       operand(ValueKind::Truth, level);
+            case 1:
+                return operand(ValueKind::Truth, level) + " அல்லது " +
+                       operand(ValueKind::Truth, level);
+            case 2: return "இல்லை " + operand(ValueKind::Truth, level);
+            case 3: return call(ValueKind::Truth, level);
             default: return comparison(level);
         }
     }
 
     std::string comparison(int level) {
-        const Kind kind = onceIn(3) ? Kind::Decimal : Kind::Whole;
+        const ValueKind kind = onceIn(3) ? ValueKind::Decimal : ValueKind::Whole;
         return operand(kind, level) + oneOf(kComparisons) + operand(kind, level);
     }
 
     std::string list(int level) {
-        if (onceIn(4)) return "பிளவு(" + operand(Kind::Text, level) + ", \",\")";
-        if (onceIn(3)) return call(Kind::List, level);
-        const Kind kind = onceIn(4) ? anyKind() : Kind::Whole;
+        if (onceIn(4)) return "பிளவு(" + operand(ValueKind::Text, level) + ", \",\")";
+        if (onceIn(3)) return call(ValueKind::List, level);
+        const ValueKind kind = onceIn(4) ? anyKind() : ValueKind::Whole;
         return "[" + operand(kind, level) + ", " + operand(kind, level) + ", " +
                operand(kind, level) + "]";
     }
 
     std::string dictionary(int level) {
-        return "{\"அ\": " + operand(Kind::Whole, level) + ", \"ஆ\": " + operand(anyKind(), level) +
-               "}";
+        return "{\"அ\": " + operand(ValueKind::Whole, level) +
+               ", \"ஆ\": " + operand(anyKind(), level) + "}";
     }
 
     std::string element(int level) {
-        if (onceIn(3)) return operand(Kind::Dictionary, level) + "[\"அ\"]";
+        if (onceIn(3)) return operand(ValueKind::Dictionary, level) + "[\"அ\"]";
         const std::string place =
-            onceIn(4) ? operand(Kind::Whole, level) : std::to_string(below(3));
-        return operand(Kind::List, level) + "[" + place + "]";
+            onceIn(4) ? operand(ValueKind::Whole, level) : std::to_string(below(3));
+        return operand(ValueKind::List, level) + "[" + place + "]";
     }
 
-    std::string chosen(Kind kind, int level) {
-        return "(" + operand(Kind::Truth, level) + " ? " + operand(kind, level) + " : " +
+    std::string chosen(ValueKind kind, int level) {
+        return "(" + operand(ValueKind::Truth, level) + " ? " + operand(kind, level) + " : " +
                operand(kind, level) + ")";
     }
 
     /// A call of a function whose result is of that kind; a plain one if there is none.
-    std::string call(Kind result, int level) {
-        for (const Function& function : functions) {
+    std::string call(ValueKind result, int level) {
+        for (const MadeFunction& function : functions) {
             if (function.result == result) return callOf(function, level);
         }
         return atom(result);
     }
 
-    std::string callOf(const Function& function, int level) {
+    std::string callOf(const MadeFunction& function, int level) {
         std::string arguments;
-        for (const Kind kind : function.parameters) {
+        for (const ValueKind kind : function.parameters) {
             if (!arguments.empty()) arguments += ", ";
             arguments += operand(kind, level);
         }
@@ -241,50 +256,53 @@ private:
     void writeAssignment() {
         const std::string name = oneOf(kVariables);
         const auto known = kinds.find(name);
-        const Kind kind = known == kinds.end() || onceIn(5) ? anyKind() : known->second;
+        const ValueKind kind = known == kinds.end() || onceIn(5) ? anyKind() : known->second;
         writeLine(name + " = " + expression(kind, 0));
         kinds[name] = kind;
     }
 
     void writeCompound() {
-        const std::string name = nameOf(Kind::Whole);
+        const std::string name = nameOf(ValueKind::Whole);
         if (name.empty()) return writePrint();
         writeLine(name + (onceIn(2) ? " கூட்டிசேர் " : " பெருக்குசேர் ") +
-                  (onceIn(6) ? expression(Kind::Whole, 1) : oneOf(kWholes)));
+                  (onceIn(6) ? expression(ValueKind::Whole, 1) : oneOf(kWholes)));
     }
 
     void writeListChange() {
-        const std::string name = nameOf(Kind::List);
+        const std::string name = nameOf(ValueKind::List);
         if (name.empty()) return writePrint();
         writeLine(name + ".சேர்(" + operand(anyKind(), 0) + ")");
     }
 
     void writeElementChange() {
-        const Kind kind = onceIn(2) ? Kind::List : Kind::Dictionary;
+        const ValueKind kind = onceIn(2) ? ValueKind::List : ValueKind::Dictionary;
         const std::string name = nameOf(kind);
         if (name.empty()) return writePrint();
-        const std::string place = kind == Kind::List ? std::to_string(below(3)) : "\"இ\"";
+        const std::string place = kind == ValueKind::List ? std::to_string(below(3)) : "\"இ\"";
         writeLine(name + "[" + place + "] = " + operand(anyKind(), 0));
     }
 
     void writeIf() {
-        writeBlock("எனில் " + operand(Kind::Truth, 0) + ":", [&] { writeStatements(1 + below(2)); });
+        writeBlock("எனில் " + operand(ValueKind::Truth, 0) + ":",
+                   [&] { writeStatements(1 + below(2)); });
         if (onceIn(2)) writeBlock("இல்லை:", [&] { writeStatements(1 + below(2)); });
     }
 
     void writeCountedLoop() {
-        const std::string limit = onceIn(4) ? operand(Kind::Whole, 2) : std::to_string(below(4));
-        writeLoop(limit, "வரம்பு(" + limit + ")", Kind::Whole);
+        const std::string limit =
+            onceIn(4) ? operand(ValueKind::Whole, 2) : std::to_string(below(4));
+        writeLoop(limit, "வரம்பு(" + limit + ")", ValueKind::Whole);
     }
 
     void writeWalk() {
-        const std::string name = nameOf(onceIn(4) ? Kind::Dictionary : Kind::List);
+        const std::string name = nameOf(onceIn(4) ? ValueKind::Dictionary : ValueKind::List);
         if (name.empty() || onceIn(8)) return writeCountedLoop();
-        writeLoop(name, name, kinds[name] == Kind::Dictionary ? Kind::Text : Kind::Whole);
+        writeLoop(name, name,
+                  kinds[name] == ValueKind::Dictionary ? ValueKind::Text : ValueKind::Whole);
     }
 
     /// Only counted loops are safe to change what they go over.
-    void writeLoop(const std::string& source, const std::string& range, Kind element) {
+    void writeLoop(const std::string& source, const std::string& range, ValueKind element) {
         const std::string variable = oneOf(kLoopVariables);
         const auto outer = kinds;
         kinds.erase(source);
@@ -313,7 +331,7 @@ private:
             writeBlock("பிடி (தவறு):", [&] { writeLine("அச்சிடு(தவறு)"); });
             return;
         }
-        writeBlock("தேர்வு " + operand(Kind::Whole, 1) + ":", [&] {
+        writeBlock("தேர்வு " + operand(ValueKind::Whole, 1) + ":", [&] {
             writeBlock("நிலை " + oneOf(kWholes) + ":", [&] { writeStatements(1); });
             writeBlock("மற்றவை:", [&] { writeStatements(1); });
         });
@@ -321,7 +339,7 @@ private:
 
     /// It may read what is assigned outside, as far as it has been met by now: nothing.
     void writeFunction(const char* name) {
-        Function function{name, {}, anyKind()};
+        MadeFunction function{name, {}, anyKind()};
         const auto outer = std::exchange(kinds, {});
         std::string parameters;
         const int count = below(3);
@@ -341,8 +359,8 @@ private:
     std::mt19937 engine;
     std::string text;
     int depth = 0;
-    std::map<std::string, Kind> kinds;
-    std::vector<Function> functions;
+    std::map<std::string, ValueKind> kinds;
+    std::vector<MadeFunction> functions;
 };
 
 }  // namespace
