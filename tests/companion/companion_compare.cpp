@@ -121,7 +121,8 @@ private:
             if (error != nullptr) tell(kFalseAlarm, compared.seed, describe(*error));
         }
         if (outcome.kind == "stops" && compared.worst(Severity::Warning) == nullptr) {
-            tell(kMissedStop, compared.seed, ran.err);
+            const std::string signal = "signal " + std::to_string(ran.signal);
+            tell(kMissedStop, compared.seed, ran.err.empty() ? signal : ran.err);
         }
     }
 

@@ -54,17 +54,16 @@ std::vector<Finding> claimsOf(const Mistake& mistake) {
     return claims;
 }
 
-bool isTold(const std::vector<Finding>& claims, int line) {
-    for (const Finding& claim : claims) {
-        if (claim.line == line) return true;
-    }
-    return false;
+bool holdsLine(const std::vector<int>& lines, int line) {
+    return std::find(lines.begin(), lines.end(), line) != lines.end();
 }
 
-std::vector<int> blamedLines(const Truth& truth) {
-    std::vector<int> lines = {truth.line};
-    lines.insert(lines.end(), truth.furtherLines.begin(), truth.furtherLines.end());
-    return lines;
+/// For each mistake in a program the lines where it may be told, the blamed one first.
+std::vector<std::vector<int>> blamedLines(const Truth& truth) {
+    std::vector<std::vector<int>> blamed = {{truth.line}};
+    if (truth.otherLine != 0) blamed[0].push_back(truth.otherLine);
+    for (const int line : truth.furtherLines) blamed.push_back({line});
+    return blamed;
 }
 
 struct ToldCount {
@@ -102,20 +101,20 @@ Misses findMisses(ToldNumbers& numbers) {
     Misses misses;
     for (const Mistake& mistake : findMistakes()) {
         if (mistake.truth.kind == "right") continue;
-        auto elsewhere = claimsOf(mistake);
-        const auto claims = elsewhere;
+        auto claims = claimsOf(mistake);
         bool isWhole = true;
-        for (const int line : blamedLines(mistake.truth)) {
-            if (!isTold(claims, line)) {
-                misses[mistake.name + " " + std::to_string(line)] = "no rule looks for it yet";
+        for (const std::vector<int>& lines : blamedLines(mistake.truth)) {
+            const auto told = std::stable_partition(
+                claims.begin(), claims.end(),
+                [&](const Finding& claim) { return !holdsLine(lines, claim.line); });
+            if (told == claims.end()) {
+                misses[mistake.name + " " + std::to_string(lines[0])] = "no rule looks for it yet";
                 isWhole = false;
             }
-            elsewhere.erase(std::remove_if(elsewhere.begin(), elsewhere.end(),
-                                           [&](const Finding& it) { return it.line == line; }),
-                            elsewhere.end());
+            claims.erase(told, claims.end());
         }
         numbers.add(mistake.truth, isWhole);
-        numbers.addElsewhere(static_cast<int>(elsewhere.size()));
+        numbers.addElsewhere(static_cast<int>(claims.size()));
     }
     return misses;
 }

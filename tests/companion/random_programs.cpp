@@ -13,8 +13,11 @@ constexpr int kKinds = 6;
 
 const char* const kVariables[] = {"அகம்", "புறம்", "கூடை", "வானம்", "நதி", "மலை", "கடல்"};
 const char* const kFunctions[] = {"தேடல்", "கணிப்பு", "மாற்றம்"};
-const char* const kParameters[] = {"ஒன்று", "இரண்டு"};
+const char* const kParameters[] = {"வந்தது", "தந்தது"};
 const char* const kLoopVariables[] = {"சுழல்", "படி"};
+const char* const kStructure = "பெட்டகம்";
+const char* const kObject = "பொருளொன்று";
+const char* const kLambda = "வினைமாறி";
 const char* const kTexts[] = {"\"மா\"", "\"12\"", "\"\"", "\"tamil\""};
 const char* const kWholes[] = {"0", "1", "2", "3", "7", "10"};
 const char* const kDecimals[] = {"2.5", "0.5", "1.0", "10.25"};
@@ -40,6 +43,8 @@ public:
     std::string write() {
         const int functionCount = below(3);
         for (int i = 0; i < functionCount; i++) writeFunction(kFunctions[i]);
+        if (onceIn(3)) writeStructure();
+        if (onceIn(3)) writeLambda();
         writeStatements(4 + below(5));
         return text;
     }
@@ -89,6 +94,12 @@ private:
     std::string atom(ValueKind kind) {
         const std::string name = nameOf(kind);
         if (!name.empty() && !onceIn(3)) return name;
+        if (hasObject && kind == fieldKind && onceIn(2)) {
+            return std::string(kObject) + (onceIn(2) ? ".உள்ளே" : ".பெறு()");
+        }
+        if (hasLambda && kind == ValueKind::Whole && onceIn(4)) {
+            return std::string(kLambda) + "(" + oneOf(kWholes) + ")";
+        }
         switch (kind) {
             case ValueKind::Whole: return oneOf(kWholes);
             case ValueKind::Decimal: return oneOf(kDecimals);
@@ -200,8 +211,9 @@ private:
     }
 
     std::string chosen(ValueKind kind, int level) {
-        return "(" + operand(ValueKind::Truth, level) + " ? " + operand(kind, level) + " : " +
-               operand(kind, level) + ")";
+        const std::string condition =
+            onceIn(5) ? operand(ValueKind::Truth, level) : comparison(level);
+        return "(" + condition + " ? " + operand(kind, level) + " : " + operand(kind, level) + ")";
     }
 
     /// A call of a function whose result is of that kind; a plain one if there is none.
@@ -337,6 +349,28 @@ private:
         });
     }
 
+    void writeStructure() {
+        fieldKind = anyKind();
+        writeBlock("கட்டமைப்பு " + std::string(kStructure) + ":", [&] {
+            writeLine("உள்ளே = " + expression(fieldKind, 1));
+            writeBlock("செயல் பெறு(தான்):", [&] {
+                const bool isCounted = fieldKind == ValueKind::Whole && onceIn(2);
+                writeLine("திரும்பு தான்.உள்ளே" +
+                          (isCounted ? oneOf(kArithmetic) + oneOf(kWholes) : ""));
+            });
+        });
+        writeLine(std::string(kObject) + " = " + kStructure + "()");
+        hasObject = true;
+    }
+
+    void writeLambda() {
+        const auto outer = std::exchange(kinds, {{kParameters[0], ValueKind::Whole}});
+        writeLine(std::string(kLambda) + " = (" + kParameters[0] + ") => " +
+                  expression(ValueKind::Whole, 1));
+        kinds = outer;
+        hasLambda = true;
+    }
+
     /// It may read what is assigned outside, as far as it has been met by now: nothing.
     void writeFunction(const char* name) {
         MadeFunction function{name, {}, anyKind()};
@@ -361,6 +395,9 @@ private:
     int depth = 0;
     std::map<std::string, ValueKind> kinds;
     std::vector<MadeFunction> functions;
+    bool hasObject = false;
+    ValueKind fieldKind = ValueKind::Whole;
+    bool hasLambda = false;
 };
 
 }  // namespace

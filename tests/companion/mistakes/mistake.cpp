@@ -27,7 +27,13 @@ Truth readTruth(const std::string& path) {
     if (truth.kind == "refused" || truth.kind == "reported") words >> truth.code;
     words >> truth.line;
     int line = 0;
-    for (std::string also; words >> also >> line;) truth.furtherLines.push_back(line);
+    for (std::string word; words >> word >> line;) {
+        if (word == "or") {
+            truth.otherLine = line;
+        } else {
+            truth.furtherLines.push_back(line);
+        }
+    }
     return truth;
 }
 
@@ -78,6 +84,7 @@ std::string describe(const Truth& truth) {
     std::string text = truth.kind;
     if (!truth.code.empty()) text += " " + truth.code;
     if (truth.kind != "right") text += " " + std::to_string(truth.line);
+    if (truth.otherLine != 0) text += " or " + std::to_string(truth.otherLine);
     for (const int line : truth.furtherLines) text += "\nalso " + std::to_string(line);
     return text;
 }

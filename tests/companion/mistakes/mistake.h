@@ -19,6 +19,7 @@ struct Truth {
     std::string kind;
     std::string code = "";  ///< Of what is refused or reported.
     int line = 0;           ///< What is to blame; the report's own line for what is refused.
+    int otherLine = 0;  ///< As much to blame, "or LINE": the call beside the function. 0 for none.
     std::vector<int> furtherLines = {};  ///< To blame for what will show when that is put right.
 };
 

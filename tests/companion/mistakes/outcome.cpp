@@ -30,7 +30,7 @@ FrontEndOutcome compileSource(const std::string& source) {
         return {{"taken"}, generate(source, kProgramName)};
     } catch (const companion::CompilerRefusal& refusal) {
         // Without a file's name it is a module's line.
-        return {{"refused", refusal.code, refusal.file.empty() ? 0 : refusal.line, {}}, ""};
+        return {{"refused", refusal.code, refusal.file.empty() ? 0 : refusal.line}, ""};
     } catch (const std::exception&) {
         return {{"hidden"}, ""};
     }
@@ -53,8 +53,6 @@ Truth outcomeOf(const ProcessResult& ran) {
     if (begin == std::string::npos) return {"runs"};
     const std::string report = ran.out.substr(begin);
     const std::string line = between(report, ": வரி ", "\n");
-    return {"reported",
-            "பொழில்-" + between(report, "பொழில்-", "\033"),
-            line.empty() ? 0 : std::stoi(line),
-            {}};
+    return {"reported", "பொழில்-" + between(report, "பொழில்-", "\033"),
+            line.empty() ? 0 : std::stoi(line)};
 }
