@@ -11,6 +11,7 @@ bool contains(const std::string& text, const std::string& part) {
 }  // namespace
 
 void Generator::visitFunctionDefinitionStatement(const FunctionDefinitionStatement* definition) {
+    visited = {nullptr, definition};
     if (currentFunction.empty()) {
         writeTopLevelFunction(*definition);
     } else {

@@ -6,6 +6,7 @@
 #include "static_error.h"
 
 void Generator::visitStructDefinitionStatement(const StructDefinitionStatement* definition) {
+    visited = {nullptr, definition};
     const std::string& name = definition->name.text;
     structNames[name] = true;
     std::string base = "_StructBase";
@@ -96,6 +97,8 @@ void Generator::writeMethodBinding(const std::string& structName, const std::str
                                    const FunctionDefinitionStatement& method) {
     const auto& parameters = method.parameters;
     const std::string& name = method.name.text;
+    const Visited around = visited;
+    visited = {nullptr, &method};
     indent();
     out << objectName << "->properties[\"" << name << "\"] = std::any("
         << functionType(static_cast<int>(parameters.size()) - 1) << "([=](";
@@ -106,6 +109,7 @@ void Generator::writeMethodBinding(const std::string& structName, const std::str
         << "(std::static_pointer_cast<_StructBase>(" << objectName << ")";
     for (std::size_t i = 1; i < parameters.size(); i++) out << ", " << parameters[i].name.text;
     out << "); }));\n";
+    visited = around;
 }
 
 /// S(1)  ->  an immediately invoked lambda that makes, fills and starts the instance.
