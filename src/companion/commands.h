@@ -20,5 +20,6 @@ struct Command {
 
 int runCheck(const Arguments& arguments);
 int runFormat(const Arguments& arguments);
+int runRun(const Arguments& arguments);
 
 }  // namespace companion

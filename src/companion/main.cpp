@@ -14,6 +14,8 @@ const Command kCommands[] = {
      companion::runCheck},
     {"வடிவமை", "format", "[--check] கோப்பு...", "நிரலின் இடைவெளிகளையும் வரிகளையும் சீராக்கும்",
      companion::runFormat},
+    {"இயக்கு", "run", "[--quiet] கோப்பு",
+     "நிரலைச் சரிபார்த்து, தொகுத்து இயக்கும்; --quiet: நிரலின் சொற்கள் மட்டும்", companion::runRun},
 };
 
 void printUsage(std::ostream& out) {
