@@ -18,7 +18,8 @@ const std::string kProject =
     "cmake_minimum_required(VERSION 3.22)\n"
     "project(pozhil NONE)\n"
     "file(APPEND configured \"${NOTE}\\n\")\n"
-    "add_custom_target(pozhil COMMAND echo ${CMAKE_SOURCE_DIR} > ${CMAKE_SOURCE_DIR}/built)\n";
+    "add_custom_target(pozhil COMMAND echo ${CMAKE_SOURCE_DIR} > ${CMAKE_SOURCE_DIR}/built)\n"
+    "add_custom_target(companion COMMAND echo ${CMAKE_SOURCE_DIR} > ${CMAKE_SOURCE_DIR}/beside)\n";
 
 std::string presetsThatNote(const std::string& note) {
     return R"({"version": 3, "configurePresets": [{"name": "release", "generator": "Ninja",)"
@@ -54,6 +55,7 @@ protected:
         EXPECT_EQ(result.exitCode, 0) << result.err;
         EXPECT_EQ(result.out, "");
         EXPECT_EQ(readFileText(home / "built"), home.u8string() + "\n");
+        EXPECT_EQ(readFileText(home / "beside"), home.u8string() + "\n");
         EXPECT_TRUE(fs::remove(home / "prepared"));
     }
 

@@ -34,6 +34,14 @@ TEST_F(Installation, HoldsAllThatACompilerLooksForBesideItself) {
                                            (installed / "src/error_handler.cpp").u8string()});
     EXPECT_EQ(read.exitCode, 0) << read.err;
 
+    for (const char* name : {"பொழில்-துணை", "pozhil-thunai", "pozhil"}) {
+        EXPECT_TRUE(fs::exists(prefix / "bin" / name)) << name;
+    }
+    write("தவறு.பொழில்", "எனில் மெய்\n    அச்சிடு(1)\n");
+    const ProcessResult checked = runCommand(
+        {(prefix / "bin" / "pozhil-thunai").u8string(), "check", (work / "தவறு.பொழில்").u8string()});
+    EXPECT_EQ(checked.exitCode, 1) << checked.err;
+
     compiler = command;
     fakeCompiler("echo இயங்கியது");
     write("a.பொழில்", "");
@@ -61,7 +69,9 @@ protected:
                       "cmake_minimum_required(VERSION 3.22)\n"
                       "project(pozhil NONE)\n"
                       "add_custom_target(pozhil COMMAND echo ${POZHIL_LIBRARY_DIR} > folder)\n"
-                      "install(FILES ${CMAKE_BINARY_DIR}/folder DESTINATION .)\n");
+                      "add_custom_target(companion COMMAND echo > companion)\n"
+                      "install(FILES ${CMAKE_BINARY_DIR}/folder ${CMAKE_BINARY_DIR}/companion\n"
+                      "        DESTINATION .)\n");
     }
 
     ProcessResult install(const std::vector<std::string>& arguments) const {
