@@ -93,6 +93,17 @@ give_fonts() {
         say "▷ எழுத்துருக்கள் இல்லாமல் தொடர்கிறது: பொத்தான்களின் அகலம் பொருந்தாமல் போகலாம்"
 }
 
+# tell_findings: what the companion finds in the program, ahead of the compiler's own words. It never
+# stops the run; a companion that is missing or breaks down has found nothing.
+tell_findings() {
+    local companion="$root/பொழில்-துணை" file=$program
+    [ -x "$companion" ] || return 0
+    [[ "$file" != --* ]] || file=./$file
+    # Findings go to our standard error, by which it chooses colours. What the shell says of one that
+    # breaks down goes nowhere, as do its own complaints.
+    { "$companion" check "$file" 1>&3 2>/dev/null </dev/null || true; } 3>&2 2>/dev/null
+}
+
 unset CDPATH
 read_arguments "$@"
 [ "$shows_version" = yes ] || refuse_what_is_no_program
@@ -104,4 +115,5 @@ if [ "$shows_version" = no ] && takes_web_road; then
     choose_folder
     give_fonts
 fi
+[ "$shows_version" = yes ] || tell_findings
 exec "$root/பொழில்" "${options[@]}" ${program:+"$program"}

@@ -87,6 +87,31 @@ TEST_F(RunScript, ConsoleProgramNeedsNoWebTools) {
     EXPECT_EQ(startedIn(), work.u8string());
 }
 
+TEST_F(RunScript, TellsWhatTheCompanionFindsFirst) {
+    write("--a.பொழில்", "");
+    standIn(home / "பொழில்-துணை", "printf '<%s>' \"$@\"; echo oops >&2; cat; exit 1");
+    const ProcessResult result = run({"--கண்காணி", "--a.பொழில்"});
+    EXPECT_EQ(result.err, "<check><./--a.பொழில்>")
+        << "not the compiler's channel, not the complaint";
+    EXPECT_EQ(result.out, "build_release.sh\n[--கண்காணி][--a.பொழில்]");
+    EXPECT_EQ(result.exitCode, 5) << "a finding stops nothing";
+    EXPECT_EQ(run({"--பதிப்பு"}).err, "");
+
+    standIn(compiler, "echo தொகுப்பான் >&2");
+    EXPECT_EQ(run({"--a.பொழில்"}).err, "<check><./--a.பொழில்>தொகுப்பான்\n");
+}
+
+TEST_F(RunScript, PassesOverACompanionThatBreaksDown) {
+    write("a.பொழில்", "");
+    for (const char* script : {"kill -SEGV $$", "kill -ABRT $$", "exit 2"}) {
+        standIn(home / "பொழில்-துணை", script);
+        const ProcessResult result = run({"a.பொழில்"});
+        EXPECT_EQ(result.err, "") << script;
+        EXPECT_EQ(result.out, "build_release.sh\n[a.பொழில்]");
+        EXPECT_EQ(result.exitCode, 5);
+    }
+}
+
 TEST_F(RunScript, OptionsStandBeforeOrBehindTheFile) {
     write("-a.பொழில்", "");
     const std::string expected = "build_release.sh\n[--கண்காணி][-a.பொழில்]";
@@ -198,6 +223,11 @@ TEST_F(FolderOfAnApplication, IsOneThatCanBeWrittenTo) {
         command = {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "bash"};
     }
     EXPECT_EQ(started(command), here);
+}
+
+TEST_F(FolderOfAnApplication, IsWhereItIsChecked) {
+    standIn(home / "பொழில்-துணை", "pwd; printf '<%s>' \"$@\"");
+    EXPECT_EQ(run({"செயலி/a.பொழில்"}).err, beside + "\n<check><a.பொழில்>");
 }
 
 TEST_F(FolderOfAnApplication, NeedsNoFonts) {
