@@ -64,6 +64,12 @@ TEST(GeneratedText, KnowsConditionsBehindABlock) {
     EXPECT_EQ(sourceLineWith(generated, "88LL"), 4);
 }
 
+TEST(GeneratedText, TakesTheFirstLineOfAnExpressionOverSeveral) {
+    const GeneratedText generated =
+        generatedFrom("x = 0\nஅ = {\"க\": 77,\n    \"ச\": 88,\n    \"ட\": 99}\n");
+    EXPECT_EQ(sourceLineWith(generated, "99LL"), 2);
+}
+
 TEST(GeneratedText, KnowsTheHeadsOfFunctionsStructuresAndMethods) {
     const GeneratedText generated = generatedFrom(
         "அச்சிடு(1)\nசெயல் முதல்(அ):\n    திரும்பு அ\nசெயல் அடுத்தது(அ):\n    திரும்பு அ\n"

@@ -5,7 +5,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "companion/check/check.h"
 #include "companion/run_command/companion_place.h"
+#include "files.h"
+#include "support/case_files.h"
 
 namespace fs = std::filesystem;
 
@@ -53,6 +56,35 @@ TEST_F(Run, StopsAtAnErrorBeforeAnythingIsBuilt) {
     EXPECT_EQ(result.err.rfind("a.பொழில்:2:", 0), 0U) << result.err;
     EXPECT_TRUE(holds(result.err, "பொழில்-202")) << result.err;
     EXPECT_FALSE(fs::exists(root / "bin" / "calls"));
+}
+
+/// A program in which the check finds warnings and nothing worse; empty if no rule warns.
+std::string programWithWarning() {
+    for (const CaseFile& file : findCases("companion/rules", ".findings")) {
+        const companion::SourceText source("a.பொழில்", readText(file.source));
+        bool isWarned = false;
+        bool isWrong = false;
+        for (const companion::Finding& finding : companion::checkSource(source, readFile)) {
+            isWarned |= finding.severity == companion::Severity::Warning;
+            isWrong |= finding.severity == companion::Severity::Error;
+        }
+        if (isWarned && !isWrong) return source.text;
+    }
+    return "";
+}
+
+TEST_F(Run, TellsWarningsFirstAndRuns) {
+    const std::string program = programWithWarning();
+    if (program.empty()) GTEST_SKIP() << "no rule warns yet";
+    fakeCompiler("echo இயங்கியது; echo நிரல் >&2");
+    write("a.பொழில்", program);
+    const ProcessResult result = companion({"run", "a.பொழில்"});
+    EXPECT_EQ(result.out, title + "இயங்கியது\n");
+    EXPECT_EQ(result.err.rfind("a.பொழில்:", 0), 0U) << result.err;
+    EXPECT_TRUE(holds(result.err, ": எச்சரிக்கை ")) << result.err;
+    EXPECT_EQ(result.err.rfind("நிரல்\n"), result.err.size() - std::string("நிரல்\n").size());
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(companion({"run", "--quiet", "a.பொழில்"}).err, "நிரல்\n");
 }
 
 TEST_F(Run, RefusesWhatIsNoProgram) {
