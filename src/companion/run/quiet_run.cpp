@@ -2,7 +2,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <iostream>
 
 #include "companion/run/afterword.h"
@@ -16,12 +15,14 @@ namespace companion {
 
 namespace {
 
-/// Whoever finds the program gone that it was about to start builds it again, once.
+/// Whoever can't start the program that was kept, since it is gone or broken, builds it again.
 constexpr int kAttempts = 2;
 
-/// Puts `program` in the place of this process. Returns only if that can't be.
+/// Puts `program` in the place of this process. Returns only if that can't be, and forgets it then:
+/// a power failure may have left a file without its content.
 void become(const std::string& program) {
     execve(program.c_str(), argumentsOf({program}).data(), environ);
+    unlink(program.c_str());
 }
 
 /// The same for an open program, which needn't have a name any more.
@@ -81,7 +82,6 @@ int buildAndStart(const SourceText& source, ProjectFolder& folder) {
     const ProgramStore store(folder.path(), getAppDirectory(), source.path);
     for (int attempt = 0; attempt < kAttempts; attempt++) {
         if (!tryToStart(source, reader, store, folder)) return 1;
-        if (errno != ENOENT) break;
     }
     std::cerr << "தொகுத்த நிரலை இயக்க முடியவில்லை: " << folder.path() << "\n";
     return 1;

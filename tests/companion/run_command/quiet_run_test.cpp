@@ -179,6 +179,20 @@ TEST_F(QuietRun, NothingOfAKilledBuildIsUsed) {
     kill(-live.id(), SIGKILL);  // the sleeper
 }
 
+TEST_F(QuietRun, BuildsAgainWhatCannotBeStarted) {
+    fakeCompiler("echo இயங்கியது");
+    EXPECT_EQ(run().exitCode, 0);
+    std::size_t count = 0;
+    for (const auto& entry : fs::directory_iterator(projectFolders().at(0))) {
+        if (entry.path().filename().u8string().rfind("நிரல்-", 0) != 0) continue;
+        writeFileText(entry.path(), "");
+        count++;
+    }
+    EXPECT_EQ(count, 1U);
+    EXPECT_EQ(run().out, "இயங்கியது\n");
+    EXPECT_EQ(compilerCalls().size(), 2U);
+}
+
 TEST_F(QuietRun, CtrlCWhileItBuildsEndsIt) {
     script("g++", "echo >'" + (root / "compiling").u8string() + "'; exec sleep 100");
     LiveProcess live = startCompanion({"run", "--quiet", "a.பொழில்"});

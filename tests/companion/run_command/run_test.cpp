@@ -180,6 +180,17 @@ TEST_F(Run, SaysNothingBehindCtrlC) {
     EXPECT_EQ(live.err(), "");
 }
 
+TEST_F(Run, CtrlCWhileItBuildsBlamesNobody) {
+    script("g++", "echo >'" + (root / "compiling").u8string() + "'; exec sleep 100");
+    LiveProcess live = startCompanion({"run", "a.பொழில்"});
+    ASSERT_TRUE(within(20, [&] { return fs::exists(root / "compiling"); })) << live.out();
+    live.pressCtrlC();
+    ASSERT_TRUE(live.waitForEnd());
+    EXPECT_TRUE(WIFSIGNALED(live.status)) << live.status;
+    EXPECT_EQ(live.out(), title);
+    EXPECT_EQ(live.err(), "");
+}
+
 TEST_F(Run, LetsAProgramFinishThatMindsCtrlC) {
     fakeCompiler("trap 'sleep 0.2; echo முடிந்தது; exit 0' INT; echo ஓடுகிறது; sleep 100 & wait");
     LiveProcess live = startCompanion({"run", "a.பொழில்"});
