@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 #include <vector>
 
 #include "companion/run/afterword_tables.h"
@@ -69,6 +70,37 @@ std::string_view ownNameIn(std::string_view declaration) {
     declaration = declaration.substr(0, declaration.find('('));
     const std::size_t blank = declaration.rfind(' ');
     return blank == std::string_view::npos ? declaration : declaration.substr(blank + 1);
+}
+
+void appendUtf8(std::string& text, unsigned mark) {
+    const auto append = [&](unsigned byte) { text += static_cast<char>(byte); };
+    if (mark < 0x800) {
+        append(0xC0U | (mark >> 6U));
+    } else if (mark < 0x10000) {
+        append(0xE0U | (mark >> 12U));
+        append(0x80U | ((mark >> 6U) & 0x3FU));
+    } else {
+        append(0xF0U | (mark >> 18U));
+        append(0x80U | ((mark >> 12U) & 0x3FU));
+        append(0x80U | ((mark >> 6U) & 0x3FU));
+    }
+    append(0x80U | (mark & 0x3FU));
+}
+
+/// Where the locale has no Tamil letters g++ writes their numbers: "\U00000b85" is "அ".
+std::string inLetters(std::string_view name) {
+    constexpr std::size_t width = 10;
+    std::string text;
+    for (std::size_t at = 0; at < name.size();) {
+        if (name.substr(at, 2) != "\\U" || name.size() < at + width) {
+            text += name[at++];
+            continue;
+        }
+        const std::string digits(name.substr(at + 2, width - 2));
+        appendUtf8(text, static_cast<unsigned>(std::strtoul(digits.c_str(), nullptr, 16)));
+        at += width;
+    }
+    return text;
 }
 
 const Pattern* findPattern(std::string_view words) {
@@ -170,8 +202,9 @@ std::string afterRefusal(const std::string& words, const GeneratedText& generate
     const FirstError error = findFirstError(plain, generated);
     const Range line = source.rangeOfWordsOn(error.sourceLine);
     const std::string message =
-        error.pattern == nullptr ? std::string(kUnknownRefusal)
-                                 : filled(error.pattern->message, ownNameIn(quotedIn(error.text)));
+        error.pattern == nullptr
+            ? std::string(kUnknownRefusal)
+            : filled(error.pattern->message, inLetters(ownNameIn(quotedIn(error.text))));
     return tell(error.sourceLine, source.slice(line), message);
 }
 

@@ -43,6 +43,12 @@ TEST(AfterRefusal, TakesTheNameOutOfADeclaration) {
     EXPECT_TRUE(isTold(withName("'std::any fn_கூடு(std::any)'"), "'கூடு' என்ற பெயர் இருமுறை"));
 }
 
+TEST(AfterRefusal, ReadsNamesThatGppWritesAsNumbers) {
+    const std::string text =
+        explain("generated.cpp:3:7: error: 'fn_\\U00000b95\\U00000bc2_a1' was not declared\n");
+    EXPECT_TRUE(isTold(text, "'கூ_a1' என்ற செயல்")) << text;
+}
+
 TEST(AfterRefusal, PrefersTheFirstErrorThatItKnows) {
     const std::string text = explain(
         "generated.cpp:2:1: error: something new\n"
