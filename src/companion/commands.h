@@ -21,5 +21,6 @@ struct Command {
 int runCheck(const Arguments& arguments);
 int runFormat(const Arguments& arguments);
 int runRun(const Arguments& arguments);
+int runNew(const Arguments& arguments);
 
 }  // namespace companion

@@ -16,6 +16,8 @@ const Command kCommands[] = {
      companion::runFormat},
     {"இயக்கு", "run", "[--quiet] கோப்பு",
      "நிரலைச் சரிபார்த்து, தொகுத்து இயக்கும்; --quiet: நிரலின் சொற்கள் மட்டும்", companion::runRun},
+    {"புதிது", "new", "[--web] பெயர்", "புதிய நிரலுக்கான கோப்புறையை உருவாக்கும்; --web: வலைதளம்",
+     companion::runNew},
 };
 
 void printUsage(std::ostream& out) {
