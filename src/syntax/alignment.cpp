@@ -18,6 +18,12 @@ const AlignmentRow kAlignments[] = {
 
 }  // namespace
 
+std::vector<std::string_view> alignmentWords() {
+    std::vector<std::string_view> words;
+    for (const AlignmentRow& row : kAlignments) words.emplace_back(row.word);
+    return words;
+}
+
 std::optional<சீரமைப்பு_வகை> alignmentNamed(const std::string& word) {
     for (const AlignmentRow& row : kAlignments) {
         if (word == row.word) return row.alignment;

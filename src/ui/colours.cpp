@@ -21,6 +21,13 @@ const std::map<std::string, PozhilColor> pozhil_colors = {
 
 }  // namespace
 
+std::vector<std::string_view> colourNames() {
+    std::vector<std::string_view> names;
+    names.reserve(pozhil_colors.size());
+    for (const auto& each : pozhil_colors) names.emplace_back(each.first);
+    return names;
+}
+
 /// A sign in a hexadecimal text reads as a channel beyond every int: it counts as full.
 int channelByte(float channel) {
     const float byte = channel * 255;

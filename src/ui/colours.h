@@ -3,6 +3,8 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "syntax/expressions.h"
 #include "syntax/widgets.h"
@@ -21,6 +23,9 @@ struct Rgb {
     int g;
     int b;
 };
+
+/// The names of all colours that have one.
+std::vector<std::string_view> colourNames();
 
 /// A colour by its hexadecimal text or by its name; black for what is neither.
 PozhilColor parsePozhilColor(std::string value, bool isHex);

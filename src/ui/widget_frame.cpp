@@ -1,4 +1,6 @@
 // What stands around every widget: where it lies, whether it shows, which kind it is.
+#include "ui/widget_frame.h"
+
 #include "ui/properties.h"
 #include "ui/widget_writer.h"
 #include "ui/widgets/kinds.h"
@@ -64,6 +66,12 @@ std::string visibilityTest(const std::string& kind, const std::string& name) {
 }
 
 }  // namespace
+
+std::vector<std::string_view> widgetWords() {
+    std::vector<std::string_view> words;
+    for (const WidgetRow& row : kWidgets) words.emplace_back(row.name);
+    return words;
+}
 
 void WidgetWriter::write(const WidgetNode& widget, const std::string& x, const std::string& y) {
     const Site site = {widget, x, y, identityOf(widget)};
