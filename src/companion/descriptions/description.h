@@ -7,7 +7,8 @@
 
 namespace companion {
 
-enum class WordKind { Keyword, Operator, BuiltIn, Member, Widget, Property };
+/// `Application`: a word of a web application that is no widget: a section, a style block.
+enum class WordKind { Keyword, Operator, BuiltIn, Member, Widget, Property, Application };
 
 /// One word. All texts but the examples are Tamil prose without markup.
 struct Description {
@@ -21,12 +22,47 @@ struct Description {
     std::string_view trap;     ///< What goes wrong with it most easily; empty if nothing does.
 };
 
+/// Which values of a property count. A value of another kind is passed over without a word.
+enum class ValueKind {
+    Any,          ///< Whatever the program can work out, anew in each frame.
+    Number,       ///< A whole number as it stands.
+    Decimal,      ///< A number as it stands, with a point or without.
+    Size,         ///< A whole number, a percentage, a variable or a choice of these.
+    Text,         ///< A text in quotes.
+    Colour,       ///< A text in quotes: hexadecimal behind # or a colour's name.
+    NamedColour,  ///< The same, or a colour's name without quotes.
+    PageColour,   ///< Hexadecimal behind #, in quotes.
+    Truth,        ///< மெய் or பொய் as it stands.
+    Flag,         ///< That it is written counts, whatever stands behind it.
+    Texts,        ///< A list of texts in quotes, as it stands.
+    Widget,       ///< A widget.
+    Alignment,    ///< A word for one of nine places.
+    Weight,       ///< A whole number, or one of two texts.
+    Word,         ///< A word with quotes or without.
+};
+
 /// One property, as one widget or several read it.
 struct PropertyDescription {
-    std::string_view word;
+    std::string_view word;     ///< As it is written.
     std::string_view widgets;  ///< Words of the widgets that read it, with commas.
     std::string_view value;  ///< What is written behind the colon: "எண்", "நிறம்", "செயல்".
-    std::string_view defaultValue;  ///< What counts where it isn't written.
+    /// What counts where it isn't written: a value as a source writes it, or prose.
+    std::string_view defaultValue;
+    std::string_view summary;
+    std::string_view english;
+    /// The block in which it is written, such as "பொ_பாணி"; empty for the widget's own parentheses,
+    /// "()" for parentheses of its own before the widget's.
+    std::string_view block;
+    ValueKind kind = ValueKind::Any;
+    std::string_view trap;  ///< What goes wrong with it most easily; empty if nothing does.
+};
+
+enum class ValueGroup { Colour, Alignment, Curve, Trigger };
+
+/// One word that properties take as their value.
+struct ValueDescription {
+    ValueGroup group;
+    std::string_view word;
     std::string_view summary;
     std::string_view english;
 };
@@ -34,5 +70,6 @@ struct PropertyDescription {
 const std::vector<Description>& wordDescriptions();  ///< Keywords, operators, built-ins, members.
 const std::vector<Description>& widgetDescriptions();
 const std::vector<PropertyDescription>& propertyDescriptions();
+const std::vector<ValueDescription>& valueDescriptions();
 
 }  // namespace companion

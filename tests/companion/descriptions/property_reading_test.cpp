@@ -1,0 +1,334 @@
+// Which properties a widget reads, and which values of them: found out by writing each into an
+// application and looking whether its text changes. What is described is read, what is read is
+// described.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <regex>
+#include <set>
+
+#include "companion/descriptions/description.h"
+#include "companion/descriptions/widget_probe.h"
+#include "lexer/word_tables.h"
+#include "support/case_files.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using companion::PropertyDescription;
+using companion::ValueKind;
+using Words = std::vector<std::string>;
+
+// ---- What is written behind a colon ----
+
+struct ValueForm {
+    const char* name;
+    const char* value;
+    const char* other;
+};
+const ValueForm kForms[] = {
+    {"number", "37", "41"},
+    {"decimal", "2.5", "3.5"},
+    {"percentage", "37%", "41%"},
+    {"text", "\"அம்மா\"", "\"அப்பா\""},
+    {"hexadecimal", "\"#123456\"", "\"#654321\""},
+    {"colour", "\"சிவப்பு\"", "\"பச்சை\""},
+    {"truth", "மெய்", "பொய்"},
+    {"name", "மையம்", "கீழ்_வலது"},
+    {"colour name", "சிவப்பு", "பச்சை"},
+    {"choice", "(திரை_அகலம் சிறிது 600 ? 1 : 2)", "(திரை_அகலம் சிறிது 600 ? 3 : 4)"},
+    {"list", "[\"அ\"]", "[\"ஆ\"]"},
+    {"action", "வினை(): செல்க(\"அ\")", "வினை(): செல்க(\"ஆ\")"},
+    {"widget", "உரை(\"கா\")", "உரை(\"கீ\")"},
+};
+
+/// The forms whose value counts, in the order of the table.
+const std::map<ValueKind, std::string> kCounts = {
+    {ValueKind::Any,
+     "number decimal text hexadecimal colour truth name colour name choice list action widget "},
+    {ValueKind::Number, "number "},
+    {ValueKind::Decimal, "number decimal "},
+    {ValueKind::Size, "number percentage name colour name choice "},
+    {ValueKind::Text, "text colour "},
+    {ValueKind::Colour, "hexadecimal colour "},
+    {ValueKind::NamedColour, "hexadecimal colour colour name "},
+    // The page around the frame takes whatever text there is: see Head.
+    {ValueKind::PageColour, "text hexadecimal colour "},
+    {ValueKind::Truth, "truth "},
+    {ValueKind::Flag, ""},
+    {ValueKind::Texts, "list "},
+    {ValueKind::Widget, "widget "},
+    {ValueKind::Alignment, "name "},
+    {ValueKind::Weight, "number "},
+    {ValueKind::Word, "text hexadecimal colour name colour name "},
+};
+
+std::string item(const std::string& word, const char* value) { return word + ": " + value; }
+
+// ---- What is read and isn't described, each with its reason ----
+
+struct Undescribed {
+    const char* widget;
+    const char* block;
+    const char* word;
+    const char* reason;
+};
+const Undescribed kUndescribed[] = {
+    {"உரை", "உரைபாணி", "அகலம்", "the first text among the properties is what is measured"},
+    {"உரை", "உரைபாணி", "உயரம்", "the first text among the properties is what is measured"},
+    {"உரை", "உரைபாணி", "வளைவு", "the first text among the properties is what is measured"},
+    {"உரை", "உரைபாணி", "பின்னணி", "the first text among the properties is what is measured"},
+    {"உரை", "உரைபாணி", "நிழல்", "the first text among the properties is what is measured"},
+    {"கட்டம்_காட்சி", "இவெ", "அளவு", "the same kind of word as உயரம்"},
+    {"வெற்றிடம்", "", "உயரம்", "it takes its share whatever its height"},
+    {"வெற்றிடம்", "", "அளவு", "the same kind of word as உயரம்"},
+    {"வெற்றிடம்", "", "அடையாளம்", "nothing of it is written in a column or row, where it belongs"},
+    {"வெற்றிடம்", "", "காட்சி_பெயர்", "nothing of it is written in a column or row"},
+    {"வெற்றிடம்", "", "நகர்வு_X", "it has no look to be moved"},
+    {"வெற்றிடம்", "", "நகர்வு_Y", "it has no look to be moved"},
+    {"இவெ", "", "அடையாளம்", "nothing of it is written in a column or row, where it belongs"},
+    {"இவெ", "", "காட்சி_பெயர்", "nothing of it is written in a column or row"},
+    {"இவெ", "", "நகர்வு_X", "it has no look to be moved"},
+    {"இவெ", "", "நகர்வு_Y", "it has no look to be moved"},
+    {"எச்சரிக்கை", "", "நகர்வு_X", "it is drawn in the middle of the window"},
+    {"எச்சரிக்கை", "", "நகர்வு_Y", "it is drawn in the middle of the window"},
+    {"அடிப்பகுதி", "", "நகர்வு_X", "it is drawn at the foot of the window"},
+    {"அடிப்பகுதி", "", "நகர்வு_Y", "it is drawn at the foot of the window"},
+};
+
+// ---- Which words there are ----
+
+/// What stands in quotes in the sources of `folder` and may be a key.
+void addQuotedWords(const std::string& folder, std::set<std::string>& words) {
+    static const std::regex quoted("\"((style_)?[a-z_]*[^\\x01-\\x7f]*(_[A-Z])?)\"");
+    for (const auto& entry : fs::directory_iterator(std::string(POZHIL_ROOT) + folder)) {
+        if (entry.path().extension() != ".cpp") continue;
+        const std::string text = readText(entry.path().string());
+        for (std::sregex_iterator match(text.begin(), text.end(), quoted), end; match != end;
+             ++match) {
+            if (!(*match)[1].str().empty()) words.insert((*match)[1]);
+        }
+    }
+}
+
+/// Every word that could be a property: those that the scanner and the web form know.
+const Words& allWords() {
+    static const Words all = [] {
+        std::set<std::string> words;
+        for (const auto* table : {&WEB_KEYWORDS, &ANIMATION_KEYWORDS}) {
+            for (const auto& row : *table) words.insert(row.first);
+        }
+        for (const char* folder : {"/src/ui", "/src/ui/widgets", "/src/parser", "/src/driver"}) {
+            addQuotedWords(folder, words);
+        }
+        words.insert({"style_அகலம்", "style_உயரம்"});
+        return Words(words.begin(), words.end());
+    }();
+    return all;
+}
+
+/// A word with the style's prefix stands for the same word in any block of the widget, and
+/// `style_பின்னணி` for the button's own word too.
+bool isDescribed(const Shape& shape, const std::string& word) {
+    const std::string plain = word.rfind("style_", 0) == 0 ? word.substr(6) : "";
+    const auto& rows = companion::propertyDescriptions();
+    return std::any_of(rows.begin(), rows.end(), [&](const PropertyDescription& row) {
+        const Words widgets = widgetsOf(row);
+        if (std::count(widgets.begin(), widgets.end(), shape.widget) == 0) return false;
+        if (!plain.empty() && row.word == plain) return true;
+        if (plain == "பின்னணி" && row.word == "பொபின்னணி") return true;
+        return row.word == word && row.block == shape.block;
+    });
+}
+
+bool isUndescribed(const Shape& shape, const std::string& word) {
+    return std::any_of(std::begin(kUndescribed), std::end(kUndescribed), [&](const auto& row) {
+        return shape.widget == row.widget && shape.block == row.block && word == row.word;
+    });
+}
+
+const Shape* shapeOf(const std::string& widget, std::string_view block) {
+    for (const Shape& shape : allShapes()) {
+        if (shape.widget == widget && shape.block == block) return &shape;
+    }
+    return nullptr;
+}
+
+// ---- Nothing else is read ----
+
+/// Looks for words that change what a shape becomes. All are written at once, and only where that
+/// shows something they are taken apart.
+class Suspects {
+public:
+    Suspects(const Shape& shape, std::string plain) : shape(shape), plain(std::move(plain)) {}
+
+    void lookFor(const Words& words, const char* value) {
+        if (words.empty()) return;
+        std::string items;
+        for (const std::string& word : words) items += item(word, value) + ", ";
+        const auto text = becomes(shape, items);
+        if (text == plain) return;
+        if (words.size() == 1) {
+            if (!text) refused.insert(words.front());
+            if (text && !isNoProperty(words.front(), value, *text)) read.insert(words.front());
+            return;
+        }
+        const auto middle = words.begin() + static_cast<std::ptrdiff_t>(words.size() / 2);
+        lookFor(Words(words.begin(), middle), value);
+        lookFor(Words(middle, words.end()), value);
+    }
+
+    std::set<std::string> refused;
+    std::set<std::string> read;
+
+private:
+    /// A word that is passed over, or that is a widget itself, changes what its value does, or it
+    /// alone.
+    bool isNoProperty(const std::string& word, const char* value, const std::string& text) const {
+        return text == becomes(shape, value) || text == becomes(shape, word) ||
+               text == becomes(shape, word + " " + value);
+    }
+
+    const Shape& shape;
+    std::string plain;
+};
+
+Words wordsWithout(const Words& words, const std::set<std::string>& others) {
+    Words rest;
+    std::copy_if(words.begin(), words.end(), std::back_inserter(rest),
+                 [&](const std::string& word) { return others.count(word) == 0; });
+    return rest;
+}
+
+TEST(Properties, HoldWhateverAWidgetReads) {
+    std::set<std::string>
+        refusedBefore;  // Most shapes refuse the same: tried apart, it costs least.
+    for (const Shape& shape : allShapes()) {
+        const auto plain = becomes(shape, "");
+        if (!plain) {
+            EXPECT_EQ(shape.block, "()") << shape.source;  // Nothing but one property goes there.
+            continue;
+        }
+        Words open;
+        for (const std::string& word : allWords()) {
+            if (!isDescribed(shape, word) && !isUndescribed(shape, word)) open.push_back(word);
+        }
+        Suspects suspects(shape, *plain);
+        const Words together = wordsWithout(open, refusedBefore);
+        for (const std::string& word : wordsWithout(open, {together.begin(), together.end()})) {
+            suspects.lookFor({word}, "37");
+        }
+        for (const char* value : {"37", "\"அம்மா\"", "மெய்", "மையம்", "[\"அ\"]", "உரை(\"கா\")"}) {
+            suspects.lookFor(wordsWithout(together, suspects.refused), value);
+        }
+        for (const std::string& word : suspects.read) {
+            ADD_FAILURE() << shape.widget << " " << shape.block << ": " << word;
+        }
+        refusedBefore.insert(suspects.refused.begin(), suspects.refused.end());
+    }
+}
+
+TEST(Properties, AreMissingOnlyWhereTheyAreRead) {
+    for (const Undescribed& row : kUndescribed) {
+        const Shape* shape = shapeOf(row.widget, row.block);
+        ASSERT_NE(shape, nullptr) << row.widget;
+        EXPECT_FALSE(isDescribed(*shape, row.word)) << row.widget << " " << row.word;
+        const auto plain = becomes(*shape, "");
+        const bool isRead =
+            std::any_of(std::begin(kForms), std::end(kForms), [&](const ValueForm& form) {
+                const auto text = becomes(*shape, item(row.word, form.value));
+                return text && text != plain;
+            });
+        EXPECT_TRUE(isRead) << row.widget << " " << row.word << ": " << row.reason;
+    }
+}
+
+// ---- What is described is read ----
+
+struct Probe {
+    const PropertyDescription* row;
+    const Shape* shape;
+};
+
+constexpr const char* kVideo = "பின்னணிகாணொளி";  ///< Read only of a file that is there: see Head.
+
+/// Every property in every place.
+std::vector<Probe> allProbes() {
+    std::vector<Probe> probes;
+    for (const PropertyDescription& row : companion::propertyDescriptions()) {
+        for (const std::string& widget : widgetsOf(row)) {
+            const Shape* shape = shapeOf(widget, row.block);
+            if (shape == nullptr) {
+                ADD_FAILURE() << "no application of " << widget << " " << row.block;
+                continue;
+            }
+            probes.push_back({&row, shape});
+        }
+    }
+    return probes;
+}
+
+/// The names of the forms whose value counts, as in kCounts.
+std::string countingForms(const Shape& shape, const std::string& word) {
+    std::string names;
+    for (const ValueForm& form : kForms) {
+        const auto text = becomes(shape, item(word, form.value));
+        if (text && text != becomes(shape, item(word, form.other)) &&
+            text != becomes(shape, form.value)) {
+            names += std::string(form.name) + " ";
+        }
+    }
+    return names;
+}
+
+TEST(Properties, AreReadWithTheValuesOfTheirKind) {
+    std::set<std::string> common;
+    for (const auto& [row, shape] : allProbes()) {
+        const std::string word(row->word);
+        if (word == kVideo) continue;
+        // What all widgets share is read by one function: its values are looked at once.
+        const bool isCommon = widgetsOf(*row).size() > 20;
+        if (isCommon && !common.insert(word).second) {
+            EXPECT_NE(becomes(*shape, item(word, "37")), becomes(*shape, item(word, "\"அ\"")))
+                << shape->widget << " " << word;
+            continue;
+        }
+        EXPECT_EQ(countingForms(*shape, word), kCounts.at(row->kind))
+            << shape->widget << " " << shape->block << ": " << word;
+        if (row->kind == ValueKind::Flag) {
+            const auto one = becomes(*shape, item(word, "1"));
+            EXPECT_TRUE(one && one != becomes(*shape, "")) << shape->widget << " " << word;
+        }
+    }
+}
+
+TEST(Properties, OfAWeightReadTwoTexts) {
+    const Shape* shape = shapeOf("உரை", "உரைபாணி");
+    ASSERT_NE(shape, nullptr);
+    const auto heavy = becomes(*shape, "தடிமன்: 700");
+    EXPECT_EQ(becomes(*shape, "தடிமன்: \"தடிமனான\""), heavy);
+    EXPECT_EQ(becomes(*shape, "தடிமன்: \"bold\""), heavy);
+    EXPECT_EQ(becomes(*shape, "தடிமன்: \"வேறு\""), becomes(*shape, "தடிமன்: 400"));
+}
+
+/// Without its last line, the colour of the page around the frame.
+std::string drawn(const std::string& items) {
+    const auto text = becomes(*shapeOf("தலைமை", ""), items);
+    if (!text) return "refused";
+    return text->substr(0, text->rfind('\n'));
+}
+
+TEST(Head, DrawsABackgroundByItsNumberAlone) {
+    EXPECT_EQ(drawn("பின்னணி: \"சிவப்பு\""), drawn(""));
+    EXPECT_NE(drawn("பின்னணி: \"#FF0000\""), drawn(""));
+}
+
+TEST(Head, ReadsAVideoThatIsThere) {
+    const std::string path = std::string(POZHIL_ROOT) + "/README.md";
+    EXPECT_NE(drawn(std::string(kVideo) + ": \"" + path + "\"").find(path), std::string::npos);
+    EXPECT_EQ(drawn(std::string(kVideo) + ": \"இல்லாத.mp4\""), "refused");
+}
+
+}  // namespace
