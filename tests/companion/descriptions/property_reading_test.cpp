@@ -14,6 +14,7 @@
 #include "companion/descriptions/widget_probe.h"
 #include "lexer/word_tables.h"
 #include "support/case_files.h"
+#include "ui/widget_frame.h"
 
 namespace {
 
@@ -226,13 +227,22 @@ std::set<std::string> readWords(const Shape& shape, const std::string& plain, co
 
     std::set<std::string> read = withNumber.read;
     const Words writable = wordsWithout(words, withNumber.refused);
-    for (const char* value : {"\"அம்மா\"", "மெய்", "மையம்", "[\"அ\"]", "உரை(\"கா\")"}) {
+    for (const char* value : {"\"அம்மா\"", "\"#123456\"", "மெய்", "மையம்", "[\"அ\"]", "உரை(\"கா\")"}) {
         if (!becomes(shape, item("வேறுசொல்", value))) continue;  // nothing takes such a value
         Suspects suspects(shape, plain);
         suspects.lookFor(writable, value);
         read.insert(suspects.read.begin(), suspects.read.end());
     }
     return read;
+}
+
+TEST(Properties, AreLookedForInEveryWidget) {
+    for (const std::string_view word : widgetWords()) {
+        EXPECT_NE(shapeOf(std::string(word), ""), nullptr) << word;
+    }
+    for (const Shape& shape : allShapes()) {
+        EXPECT_NE(shape.source.find(shape.widget), std::string::npos) << shape.widget;
+    }
 }
 
 TEST(Properties, HoldWhateverAWidgetReads) {
@@ -335,6 +345,17 @@ TEST(Properties, OfAWeightReadTwoTexts) {
     EXPECT_EQ(becomes(*shape, "தடிமன்: \"தடிமனான\""), heavy);
     EXPECT_EQ(becomes(*shape, "தடிமன்: \"bold\""), heavy);
     EXPECT_EQ(becomes(*shape, "தடிமன்: \"வேறு\""), becomes(*shape, "தடிமன்: 400"));
+}
+
+TEST(Properties, OfAStyleAreReadUnderItsShortNameToo) {
+    for (const char* block : {"உரைபாணி", "உரைபொ_பாணி"}) {
+        const Shape* shape = shapeOf(block == std::string("உரைபாணி") ? "உரை" : "உரைபொத்தான்", block);
+        ASSERT_NE(shape, nullptr) << block;
+        Shape renamed = *shape;
+        renamed.source.replace(renamed.source.find(block), std::string(block).size(), "பாணி");
+        EXPECT_EQ(becomes(renamed, "அளவு: 37"), becomes(*shape, "அளவு: 37")) << block;
+        EXPECT_NE(becomes(renamed, "அளவு: 37"), becomes(*shape, "")) << block;
+    }
 }
 
 /// Without its last line, the colour of the page around the frame.
