@@ -1,5 +1,6 @@
 // Names, members and elements: reading and assigning them.
 #include "generator/generator.h"
+#include "generator/known_words.h"
 #include "writing/marks.h"
 
 namespace {
@@ -47,6 +48,13 @@ const char* compoundSign(const std::string& word) {
     return nullptr;
 }
 
+template <std::size_t count>
+std::vector<std::string_view> wordsOf(const TextRow (&rows)[count]) {
+    std::vector<std::string_view> words;
+    for (const TextRow& row : rows) words.emplace_back(row.word);
+    return words;
+}
+
 bool isReceiver(const std::string& name) { return name == "தான்" || name == "self"; }
 
 /// A constant is a name of this form: it may be assigned once.
@@ -55,6 +63,10 @@ bool isConstantName(const std::string& name) {
 }
 
 }  // namespace
+
+std::vector<std::string_view> inputPropertyNames() { return wordsOf(kInputProperties); }
+
+std::vector<std::string_view> timeFieldNames() { return wordsOf(kTimeFields); }
 
 /// அ  ->  global_vars["அ"], or அ for a real C++ variable.
 /// A name that was never assigned isn't refused: it reads as an empty value when the program runs.

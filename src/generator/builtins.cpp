@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "generator/generator.h"
+#include "generator/known_words.h"
 #include "static_error.h"
 #include "writing/marks.h"
 
@@ -124,6 +125,12 @@ bool isStorable(const Expression* target) {
 }
 
 }  // namespace
+
+std::vector<std::string_view> builtinNames() {
+    std::vector<std::string_view> names;
+    for (const BuiltinRow& row : kBuiltins) names.push_back(row.name);
+    return names;
+}
 
 /// The text of a built-in call; false if `name` is none. Raises 331 for a wrong number of
 /// arguments.

@@ -1,6 +1,7 @@
 // Calls: which of the many things that can be called this one is, in the order of the tests, and
 // the text of each. The table of built-ins stands in builtins.cpp.
 #include "generator/generator.h"
+#include "generator/known_words.h"
 #include "static_error.h"
 
 namespace {
@@ -24,6 +25,12 @@ const InputCallRow kInputCalls[] = {
 };
 
 }  // namespace
+
+std::vector<std::string_view> inputCallNames() {
+    std::vector<std::string_view> names;
+    for (const InputCallRow& row : kInputCalls) names.emplace_back(row.member);
+    return names;
+}
 
 void Generator::visitCallExpression(const CallExpression* call) {
     refuseEndlessText();

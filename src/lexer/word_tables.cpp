@@ -177,9 +177,6 @@ const std::unordered_map<std::string, TokenType> INC_DEC_KEYWORDS = {
     {"ஒன்றுகழி", TokenType::DECREMENT},
 };
 
-namespace {
-
-/// Words whose kind is decided before any table is asked.
 const std::unordered_map<std::string, TokenType> kFirstWords = {
     {"அச்சிடு", TokenType::KEYWORD},
     {"சுற்று", TokenType::KEYWORD},
@@ -221,6 +218,8 @@ const std::unordered_map<std::string, TokenType> kFirstWords = {
     {"மிகை", TokenType::UNARY_PLUS},
     {"குறை", TokenType::UNARY_MINUS},
 };
+
+namespace {
 
 using Words = std::unordered_map<std::string_view, TokenType>;
 

@@ -7,6 +7,8 @@
 
 #include "lexer/token.h"
 
+/// Words whose kind is decided before any other table is asked.
+extern const std::unordered_map<std::string, TokenType> kFirstWords;
 extern const std::unordered_map<std::string, TokenType> IF_KEYWORDS;
 extern const std::unordered_map<std::string, TokenType> WEB_KEYWORDS;
 extern const std::unordered_map<std::string, TokenType> ANIMATION_KEYWORDS;

@@ -4,25 +4,11 @@
 #include <algorithm>
 #include <string_view>
 
+#include "parser/operator_levels.h"
 #include "parser/parser.h"
 #include "parser/token_predicates.h"
 
 namespace {
-
-/// The levels of the operators with two sides, from the loosest on. Those before BitwiseOr are the
-/// logical ones.
-enum OperatorLevel {
-    kLogicalOr = 1,
-    kLogicalAnd,
-    kBitwiseOr,
-    kBitwiseXor,
-    kBitwiseAnd,
-    kEquality,
-    kComparison,
-    kShift,
-    kTerm,
-    kFactor,
-};
 
 struct OperatorRow {
     std::string_view word;
@@ -139,14 +125,16 @@ std::unique_ptr<Expression> Parser::parseTernary() {
     return noted<Expression>(first, std::move(node));
 }
 
-/// The level of the operator at the cursor; 0 if none stands there.
-int Parser::operatorLevel() {
-    if (!check(TokenType::OPERATOR)) return 0;
-    const std::string_view word = peek().text;
+int levelOfOperator(std::string_view word) {
     for (const OperatorRow& row : kOperators) {
         if (word == row.word) return row.level;
     }
     return 0;
+}
+
+/// The level of the operator at the cursor; 0 if none stands there.
+int Parser::operatorLevel() {
+    return check(TokenType::OPERATOR) ? levelOfOperator(peek().text) : 0;
 }
 
 /// level = tighter { word tighter }, for the levels from `loosest` on. All associate to the left.
