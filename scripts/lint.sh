@@ -16,7 +16,8 @@ tool=$(command -v clang-tidy-14 || command -v clang-tidy)
 # prepare PRESET: its commands, and the embedded texts, which are headers that the build makes.
 prepare() {
     configure "$1"
-    cmake --build "build/$1" --target generated/emitted_text.h generated/widget_templates.h >/dev/null
+    cmake --build "build/$1" --target generated/emitted_text.h generated/widget_templates.h \
+        generated/shown_programs.h >/dev/null
 }
 
 # tidy PRESET FILE...: the commands are those of g++, some of whose warnings clang doesn't know.

@@ -1,0 +1,35 @@
+# Writes a header that holds the programs which descriptions show:
+#   cmake -DOUTPUT=header -DFOLDER=src/companion/descriptions -P embed_programs.cmake
+# programs/NAME.பொழில் becomes `shown_programs::NAME`, with NAME.out, what it prints; so does one of
+# unprinted/, an application or one that asks, without. codes/NNN/wrong.பொழில் and right.பொழில் become one row of `kCodePrograms`.
+function(read_optional file variable)
+    set(content "")
+    if(EXISTS "${file}")
+        file(READ "${file}" content)
+    endif()
+    set(${variable} "R\"SHOWN(${content})SHOWN\"" PARENT_SCOPE)
+endfunction()
+
+set(text "// Made from ${FOLDER} by the build. Never edited.\n#pragma once\n\n")
+string(APPEND text "#include \"companion/descriptions/shown_program.h\"\n\n")
+string(APPEND text "namespace companion::shown_programs {\n")
+file(GLOB programs "${FOLDER}/programs/*.பொழில்" "${FOLDER}/unprinted/*.பொழில்")
+foreach(program IN LISTS programs)
+    get_filename_component(name "${program}" NAME_WE)
+    read_optional("${program}" source)
+    read_optional("${FOLDER}/programs/${name}.out" prints)
+    string(APPEND text "\ninline constexpr ShownProgram ${name} = {${source},\n${prints}};\n")
+endforeach()
+
+string(APPEND text "\ninline constexpr CodePrograms kCodePrograms[] = {\n")
+file(GLOB codes LIST_DIRECTORIES ON "${FOLDER}/codes/*")
+foreach(folder IN LISTS codes)
+    get_filename_component(code "${folder}" NAME)
+    read_optional("${folder}/wrong.பொழில்" wrong)
+    read_optional("${folder}/right.பொழில்" right)
+    string(APPEND text "    {\"${code}\", ${wrong},\n${right}},\n")
+endforeach()
+string(APPEND text "};\n\n}  // namespace companion::shown_programs\n")
+file(WRITE "${OUTPUT}.new" "${text}")
+file(COPY_FILE "${OUTPUT}.new" "${OUTPUT}" ONLY_IF_DIFFERENT)
+file(REMOVE "${OUTPUT}.new")
