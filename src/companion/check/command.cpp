@@ -1,23 +1,16 @@
 // check FILE...: reads sources and tells what is wrong in them.
-#include <unistd.h>
-
-#include <cstdlib>
 #include <iostream>
 #include <memory>
 
 #include "companion/check/check.h"
 #include "companion/check/finding_texts.h"
 #include "companion/commands.h"
+#include "companion/terminal.h"
 #include "files.h"
 
 namespace companion {
 
 namespace {
-
-bool wantsColour() {
-    const char* refused = std::getenv("NO_COLOR");
-    return isatty(STDOUT_FILENO) != 0 && (refused == nullptr || *refused == '\0');
-}
 
 bool isWrong(const Finding& finding) { return finding.severity != Severity::Hint; }
 
