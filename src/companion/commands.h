@@ -22,5 +22,6 @@ int runCheck(const Arguments& arguments);
 int runFormat(const Arguments& arguments);
 int runRun(const Arguments& arguments);
 int runNew(const Arguments& arguments);
+int runExplain(const Arguments& arguments);
 
 }  // namespace companion

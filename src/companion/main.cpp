@@ -18,6 +18,8 @@ const Command kCommands[] = {
      "நிரலைச் சரிபார்த்து, தொகுத்து இயக்கும்; --quiet: நிரலின் சொற்கள் மட்டும்", companion::runRun},
     {"புதிது", "new", "[--web] பெயர்", "புதிய நிரலுக்கான கோப்புறையை உருவாக்கும்; --web: வலைதளம்",
      companion::runNew},
+    {"விளக்கு", "explain", "[சொல் அல்லது பிழை எண்]", "ஒரு சொல்லையோ பிழையையோ எடுத்துக்காட்டோடு விளக்கும்",
+     companion::runExplain},
 };
 
 void printUsage(std::ostream& out) {
