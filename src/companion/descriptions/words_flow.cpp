@@ -20,12 +20,12 @@ const Words& flowWords() {
                   shown_programs::conditions, "எனில் நின்ற அதே அளவு உள்தள்ளி எழுது."),
         described(WordKind::Keyword, "சுற்று", "சுற்று நிபந்தனை:",
                   "நிபந்தனை மெய்யாக இருக்கும்வரை உள்தள்ளிய வரிகளைத் திரும்பத் திரும்பச் செய்யும்.",
-                  "while, loop, repeat", shown_programs::loop_while,
+                  "while, while loop, loop, repeat", shown_programs::loop_while,
                   "உள்ளே எதுவும் நிபந்தனையை மாற்றாவிட்டால் சுற்று முடியவே முடியாது."),
         described(
             WordKind::Keyword, "ஒவ்வொன்றாக", "ஒவ்வொன்றாக பெயர் இல் பட்டியல்:",
             "பட்டியலின் மதிப்புகளையோ அகராதியின் சாவிகளையோ ஒவ்வொன்றாக எடுத்து, வரிகளைச் செய்யும்.",
-            "for, foreach, for each, loop, iterate", shown_programs::loop_over_list,
+            "for, for loop, foreach, for each, loop, iterate", shown_programs::loop_over_list,
             "பட்டியல் ஒரு பெயரில் இருக்க வேண்டும்; [1, 2] என்றோ செயலின் விடையையோ நேரே எழுதினால் நிரல் உருவாகாது. "
             "உரையின் எழுத்துகளை இப்படி எடுக்க முடியாது."),
         described(WordKind::Keyword, "இல்",

@@ -16,7 +16,7 @@ constexpr std::size_t kMostNear = 5;
 constexpr int kMostChanges = 2;
 constexpr std::size_t kCodeDigits = 3;
 
-bool isLatin(std::string_view text) {
+bool isAllLatin(std::string_view text) {
     return std::all_of(text.begin(), text.end(),
                        [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
@@ -110,7 +110,7 @@ std::vector<Page> pagesFor(std::string_view asked) {
         pages = pagesWhere([&](const auto& described) { return described.word == word; });
         if (!pages.empty()) return pages;
     }
-    if (!isLatin(asked)) return {};
+    if (!isAllLatin(asked)) return {};
     const std::string lower = inLowerCase(bareWord(asked));
     pages =
         pagesWhere([&](const auto& described) { return namesInclude(described.english, lower); });
@@ -122,7 +122,7 @@ std::vector<Page> pagesFor(std::string_view asked) {
 
 std::vector<std::string> nearestTo(std::string_view asked) {
     const std::string word(bareWord(asked));
-    const bool bySound = isLatin(word);
+    const bool bySound = isAllLatin(word);
     const std::string wanted = bySound ? soundOf(inLowerCase(word)) : word;
     const auto length = static_cast<int>(splitCodePoints(wanted).size());
     std::vector<std::pair<int, std::string>> near;

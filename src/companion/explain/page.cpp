@@ -20,7 +20,7 @@ void writeMarked(std::ostream& out, std::string_view text, const char* mark, boo
     if (inColour) out << kPlainText;
 }
 
-std::string blanks(int count) { return std::string(static_cast<std::size_t>(count), ' '); }
+std::string blankColumns(int count) { return std::string(static_cast<std::size_t>(count), ' '); }
 
 /// Calls `write` with each line of `text`.
 template <typename Write>
@@ -51,10 +51,10 @@ void writeWrapped(std::ostream& out, std::string_view text, int width, int inden
         if (word.empty()) continue;
         const int wordWidth = displayWidth(word);
         if (used == 0) {
-            out << blanks(indent);
+            out << blankColumns(indent);
             used = indent;
         } else if (used + 1 + wordWidth > width) {
-            out << "\n" << blanks(indent);
+            out << "\n" << blankColumns(indent);
             used = indent;
         } else {
             out << ' ';
@@ -77,7 +77,7 @@ void writePage(std::ostream& out, const Page& page, const PageStyle& style) {
         }
         eachLine(section.text, [&](std::string_view line) {
             if (section.isProgram) {
-                out << blanks(kProgramIndent) << line << "\n";
+                out << blankColumns(kProgramIndent) << line << "\n";
             } else {
                 writeWrapped(out, line, style.width, kIndent);
             }

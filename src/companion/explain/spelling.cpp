@@ -38,7 +38,7 @@ constexpr SoundRow kLatin[] = {
 };
 
 template <std::size_t count>
-const SoundRow* find(const SoundRow (&rows)[count], std::string_view letter) {
+const SoundRow* soundRow(const SoundRow (&rows)[count], std::string_view letter) {
     for (const SoundRow& row : rows) {
         if (row.letter == letter) return &row;
     }
@@ -54,16 +54,16 @@ std::string soundOfTamil(std::string_view word) {
         isOpen = false;
     };
     for (const std::string_view letter : splitCodePoints(word)) {
-        if (const SoundRow* sign = find(kSigns, letter)) {
+        if (const SoundRow* sign = soundRow(kSigns, letter)) {
             isOpen = false;
             sound += sign->sound;
             continue;
         }
         close();
-        if (const SoundRow* consonant = find(kConsonants, letter)) {
+        if (const SoundRow* consonant = soundRow(kConsonants, letter)) {
             sound += consonant->sound;
             isOpen = true;
-        } else if (const SoundRow* vowel = find(kVowels, letter)) {
+        } else if (const SoundRow* vowel = soundRow(kVowels, letter)) {
             sound += vowel->sound;
         } else if (letter.size() == 1) {
             sound += letter;
@@ -73,7 +73,7 @@ std::string soundOfTamil(std::string_view word) {
     return sound;
 }
 
-void replaceAll(std::string& text, std::string_view from, std::string_view to) {
+void replaceSounds(std::string& text, std::string_view from, std::string_view to) {
     for (std::size_t at = text.find(from); at != std::string::npos;
          at = text.find(from, at + to.size())) {
         text.replace(at, from.size(), to);
@@ -84,7 +84,7 @@ void replaceAll(std::string& text, std::string_view from, std::string_view to) {
 
 std::string soundOf(std::string_view word) {
     std::string sound = soundOfTamil(word);
-    for (const SoundRow& row : kLatin) replaceAll(sound, row.letter, row.sound);
+    for (const SoundRow& row : kLatin) replaceSounds(sound, row.letter, row.sound);
     sound.erase(std::unique(sound.begin(), sound.end()), sound.end());
     return sound;
 }

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <filesystem>
 #include <map>
@@ -64,7 +65,7 @@ std::set<std::string> wordsOfTables() {
     return words;
 }
 
-std::set<std::string> textsOf(const std::vector<std::string_view>& names) {
+std::set<std::string> namesOf(const std::vector<std::string_view>& names) {
     return {names.begin(), names.end()};
 }
 
@@ -102,7 +103,7 @@ TEST(Words, AreThoseOfTheScanner) {
 }
 
 TEST(Words, OfBuiltInsAreThoseOfTheGenerator) {
-    auto expected = textsOf(builtinNames());
+    auto expected = namesOf(builtinNames());
     EXPECT_EQ(expected.erase("வரம்பு"), 1U) << "a keyword";
     EXPECT_EQ(describedAs({WordKind::BuiltIn}), expected);
     EXPECT_GT(expected.size(), 25U);
@@ -186,7 +187,7 @@ TEST(Words, StandInTheirExamples) {
 }
 
 /// The examples, each once, with the words that they show.
-std::map<std::string_view, const Description*> examples() {
+std::map<std::string_view, const Description*> wordExamples() {
     std::map<std::string_view, const Description*> all;
     for (const Description& description : wordDescriptions()) {
         if (!description.example.empty()) all.insert({description.example, &description});
@@ -195,16 +196,16 @@ std::map<std::string_view, const Description*> examples() {
 }
 
 TEST(Words, HaveExamplesWithoutErrors) {
-    for (const auto& [example, description] : examples()) {
+    for (const auto& [example, description] : wordExamples()) {
         EXPECT_EQ(errorsOfCheck(example), "") << description->word << "\n" << example;
     }
-    EXPECT_GT(examples().size(), 40U);
-    EXPECT_LT(examples().size(), 60U);
+    EXPECT_GT(wordExamples().size(), 40U);
+    EXPECT_LT(wordExamples().size(), 60U);
 }
 
 TEST(Words, ShowAllProgramsThatStandAsFiles) {
     const fs::path folder = fs::u8path(POZHIL_ROOT "/src/companion/descriptions");
-    const auto all = examples();
+    const auto all = wordExamples();
     for (const char* room : {"programs", "unprinted"}) {
         int files = 0;
         for (const auto& entry : fs::directory_iterator(folder / room)) {

