@@ -7,8 +7,8 @@
 
 namespace companion {
 
-/// `Application`: a word of a web application that is no widget: a section, a style block. Marks are
-/// those of the language's writing: the comment, the list's bracket.
+/// `Application`: a word of a web application that is no widget: a section, a style block.
+/// `Mark`: one of the language's writing: the comment, the list's bracket.
 enum class WordKind { Keyword, Operator, BuiltIn, Member, Widget, Property, Application, Mark };
 
 /// One word. All texts but the examples are Tamil prose without markup.

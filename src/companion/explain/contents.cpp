@@ -35,6 +35,7 @@ void writeContents(std::ostream& out, const PageStyle& style) {
     for (const WordTopic& topic : wordTopics()) write(topicPage(topic.title, topic.words));
     write(topicPage("வலைதளத்தின் உறுப்புகள்", widgetDescriptions()));
     write(topicPage("உறுப்புகளின் பண்புகள்", propertyDescriptions()));
+    write(topicPage("பண்புகளின் மதிப்புகள்", valueDescriptions()));
     out << "ஒன்றைப் பற்றி அறிய: பொழில்-துணை விளக்கு எனில்\n"
            "பிழை எண்ணைப் பற்றி அறிய: பொழில்-துணை விளக்கு 203\n";
 }

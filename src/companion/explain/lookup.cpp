@@ -36,22 +36,51 @@ std::string_view bareWord(std::string_view asked) {
     return end == 0 ? asked : asked.substr(0, end);
 }
 
-/// Calls `look` with every word and every property, in their order.
+/// Calls `look` with every word, every property and every value, in their order.
 template <typename Look>
 void eachDescription(Look look) {
     for (const auto* words : {&wordDescriptions(), &widgetDescriptions()}) {
         for (const Description& word : *words) look(word);
     }
     for (const PropertyDescription& property : propertyDescriptions()) look(property);
+    for (const ValueDescription& value : valueDescriptions()) look(value);
 }
+
+/// Gathers the pages of what fits. What is told of one property is one page.
+template <typename Fits>
+class FittingPages {
+public:
+    explicit FittingPages(Fits fits) : fits(fits) {}
+    template <typename Described>
+    void operator()(const Described& described) {
+        if (fits(described)) pages.push_back(pageOf(described));
+    }
+    void operator()(const PropertyDescription& property) {
+        if (!fits(property)) return;
+        const auto same = [&](const auto& known) { return known.at(0).word == property.word; };
+        const auto known = std::find_if(properties.begin(), properties.end(), same);
+        if (known == properties.end()) {
+            properties.push_back({property});
+        } else {
+            known->push_back(property);
+        }
+    }
+    std::vector<Page> all() {
+        for (const auto& meanings : properties) pages.push_back(pageOf(meanings));
+        return std::move(pages);
+    }
+
+private:
+    Fits fits;
+    std::vector<Page> pages;
+    std::vector<std::vector<PropertyDescription>> properties;
+};
 
 template <typename Fits>
 std::vector<Page> pagesWhere(Fits fits) {
-    std::vector<Page> pages;
-    eachDescription([&](const auto& described) {
-        if (fits(described)) pages.push_back(pageOf(described));
-    });
-    return pages;
+    FittingPages<Fits> found(fits);
+    eachDescription([&](const auto& described) { found(described); });
+    return found.all();
 }
 
 /// True if one of the names, which commas separate, is `asked`.

@@ -17,9 +17,27 @@ const char* nameOf(WordKind kind) {
         case WordKind::Member: return "புள்ளியின் பின்னே வரும் சொல்";
         case WordKind::Widget: return "உறுப்பு";
         case WordKind::Property: return "பண்பு";
+        case WordKind::Application: return "வலைதளத்தின் சொல்";
         case WordKind::Mark: return "குறி";
     }
     return "";
+}
+
+const char* nameOf(ValueGroup group) {
+    switch (group) {
+        case ValueGroup::Colour: return "நிறம்";
+        case ValueGroup::Alignment: return "சீரமைப்பு";
+        case ValueGroup::Curve: return "அசைவூட்டத்தின் வகை";
+        case ValueGroup::Trigger: return "அசைவூட்டத்தின் நிலைமை";
+    }
+    return "";
+}
+
+/// Where a property stands, if not in the widget's own parentheses.
+std::string placeOf(const PropertyDescription& property) {
+    if (property.block.empty()) return "";
+    if (property.block == "()") return "உறுப்பின் முதல் அடைப்பு";
+    return std::string(property.block) + "(...)";
 }
 
 /// The words separated by commas, each once.
@@ -55,6 +73,20 @@ std::string relatedTo(const Description& word) {
         }
     }
     return related.text();
+}
+
+/// True if `widget` is one of those that read the property.
+bool isReadBy(const PropertyDescription& property, std::string_view widget) {
+    const std::string all = ", " + std::string(property.widgets) + ", ";
+    return all.find(", " + std::string(widget) + ", ") != std::string::npos;
+}
+
+std::string propertiesOf(const Description& widget) {
+    WordList read;
+    for (const PropertyDescription& property : propertyDescriptions()) {
+        if (isReadBy(property, widget.word)) read.add(property.word);
+    }
+    return read.text();
 }
 
 bool isPrefix(const Description& word) {
@@ -138,16 +170,32 @@ Page pageOf(const Description& word) {
     page.addProgram("திரையில் வருவது", word.prints);
     page.addProse("கவனம்", word.trap);
     addOrder(page, word);
+    if (word.kind == WordKind::Widget || word.kind == WordKind::Application) {
+        page.addProse("பண்புகள்", propertiesOf(word));
+    }
     page.addProse("தொடர்புடையவை", relatedTo(word));
     return page;
 }
 
-Page pageOf(const PropertyDescription& property) {
-    Page page{std::string(property.word), nameOf(WordKind::Property), {}};
-    page.addProse("", property.summary);
-    page.addProgram("எழுதும் முறை", std::string(property.word) + ": " + std::string(property.value));
-    page.addProse("எழுதாவிட்டால்", property.defaultValue);
-    page.addProse("எந்த உறுப்புகளில்", property.widgets);
+Page pageOf(const std::vector<PropertyDescription>& meanings) {
+    Page page{std::string(meanings.at(0).word), nameOf(WordKind::Property), {}};
+    for (const PropertyDescription& meaning : meanings) {
+        std::string text(meaning.summary);
+        const auto tell = [&](const char* what, std::string_view told) {
+            if (!told.empty()) text += "\n" + std::string(what) + std::string(told);
+        };
+        tell("மதிப்பு: ", meaning.value);
+        tell("எழுதாவிட்டால்: ", meaning.defaultValue);
+        tell("எழுதும் இடம்: ", placeOf(meaning));
+        tell("கவனம்: ", meaning.trap);
+        page.addProse(meaning.widgets, text);
+    }
+    return page;
+}
+
+Page pageOf(const ValueDescription& value) {
+    Page page{std::string(value.word), nameOf(value.group), {}};
+    page.addProse("", value.summary);
     return page;
 }
 

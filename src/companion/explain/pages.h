@@ -9,7 +9,9 @@
 namespace companion {
 
 Page pageOf(const Description& word);
-Page pageOf(const PropertyDescription& property);
+/// All that is told of one property: a section for each family of widgets that reads it.
+Page pageOf(const std::vector<PropertyDescription>& meanings);
+Page pageOf(const ValueDescription& value);
 Page pageOf(const CodeDescription& code);
 Page pageOf(const Rule& rule);
 

@@ -13,6 +13,7 @@
 #include "companion/display_width.h"
 #include "companion/explain/contents.h"
 #include "companion/explain/lookup.h"
+#include "companion/explain/pages.h"
 #include "companion/explain/spelling.h"
 
 namespace {
@@ -120,6 +121,35 @@ TEST(Explain, TellsWhichOperatorGoesFirst) {
     EXPECT_NE(sectionOf(pagesFor("குறை").at(0), "எது முதலில்?"), "");
     EXPECT_EQ(sectionOf(pagesFor("கூட்டிசேர்").at(0), "எது முதலில்?"), "");
     EXPECT_EQ(sectionOf(pagesFor("சுற்று").at(0), "எது முதலில்?"), "");
+}
+
+TEST(Explain, GathersTheMeaningsOfOneProperty) {
+    const companion::PropertyDescription ofText = {
+        "அகலம்", "உரை, படம்", "எண்", "40", "எவ்வளவு அகலம்.", "width", "", companion::ValueKind::Size,
+        ""};
+    companion::PropertyDescription ofLine = ofText;
+    ofLine.widgets = "பிரிப்பான்";
+    ofLine.block = "பாணி";
+    ofLine.trap = "முழு எண்ணை எழுது.";
+    const Page page = companion::pageOf({ofText, ofLine});
+    EXPECT_EQ(page.title, "அகலம்");
+    EXPECT_EQ(sectionOf(page, "உரை, படம்"), "எவ்வளவு அகலம்.\nமதிப்பு: எண்\nஎழுதாவிட்டால்: 40");
+    EXPECT_EQ(
+        sectionOf(page, "பிரிப்பான்"),
+        "எவ்வளவு அகலம்.\nமதிப்பு: எண்\nஎழுதாவிட்டால்: 40\nஎழுதும் இடம்: பாணி(...)\nகவனம்: முழு எண்ணை எழுது.");
+}
+
+TEST(Explain, HasOnePageForEachProperty) {
+    for (const companion::PropertyDescription& property : companion::propertyDescriptions()) {
+        int pages = 0;
+        for (const Page& page : pagesFor(property.word)) {
+            pages += page.title == property.word && page.kind == "பண்பு" ? 1 : 0;
+        }
+        EXPECT_EQ(pages, 1) << property.word;
+    }
+    for (const companion::ValueDescription& value : companion::valueDescriptions()) {
+        EXPECT_FALSE(pagesFor(value.word).empty()) << value.word;
+    }
 }
 
 TEST(Explain, NamesWordsThatGoTogether) {
