@@ -26,23 +26,15 @@ bool isLoopHead(const CallCheck& check, const CallExpression& call) {
 }
 
 std::set<std::string> callableNames(const CallCheck& check) {
-    std::set<std::string> names;
+    std::set<std::string> names = check.uses.assigned;
     for (const BuiltinCall& row : builtinCalls()) names.insert(std::string(row.name));
     for (const auto& entry : check.compiled.parser->functionParameters) names.insert(entry.first);
     for (const auto& entry : check.compiled.parser->structDefinitions) names.insert(entry.first);
-    for (const NameWrite& write : check.uses.writes) names.insert(write.node->name);
-    names.erase(kElementStore);
     return names;
 }
 
-bool isAssigned(const CallCheck& check, const std::string& name) {
-    for (const NameWrite& write : check.uses.writes) {
-        if (write.node->name == name) return true;
-    }
-    return check.compiled.parser->structDefinitions.count(name) != 0;
-}
-
-void addUnknown(const CallCheck& check, const std::string& name, Range range) {
+void addUnknown(const CallCheck& check, const NearNames& near, const std::string& name,
+                Range range) {
     if (check.compiled.parser->abstractStructDefinitions.count(name) != 0) {
         return check.findings.add("துணை-219", range, {name});
     }
@@ -53,21 +45,22 @@ void addUnknown(const CallCheck& check, const std::string& name, Range range) {
     if (lookUpWord(name) == TokenType::KEYWORD) {
         return check.findings.add("துணை-205", range, {name});
     }
-    if (const auto near = nearestName(name, callableNames(check))) {
-        return check.findings.add("துணை-201", range, {name, *near});
+    if (const auto nearest = near.to(name)) {
+        return check.findings.add("துணை-201", range, {name, *nearest});
     }
     check.findings.add("துணை-203", range, {name});
 }
 
 /// A name that no table holds and that is given no value up to here.
-void checkUnknown(const CallCheck& check, const NameCall& call, Range range) {
+void checkUnknown(const CallCheck& check, const NearNames& near, const NameCall& call,
+                  Range range) {
     const std::string& name = call.callee->name;
     if (call.in.isLocal || call.in.isInField || name == kElementStore) return;
-    if (isAssigned(check, name)) {
+    if (check.uses.assigned.count(name) != 0) {
         if (check.isHiddenRefusal(range)) check.findings.add("துணை-204", range, {name});
         return;
     }
-    addUnknown(check, name, range);
+    addUnknown(check, near, name, range);
 }
 
 std::string takesText(int least, int most) {
@@ -101,6 +94,7 @@ void checkFunctionCount(const CallCheck& check, const CallExpression& call, cons
 
 void checkNamedCalls(const CallCheck& check) {
     const Parser& parser = *check.compiled.parser;
+    const NearNames near(callableNames(check));
     for (const NameCall& call : check.uses.calls) {
         const auto callee = check.compiled.rangeOf(*call.callee);
         const auto whole = check.compiled.rangeOf(*call.node);
@@ -114,7 +108,7 @@ void checkNamedCalls(const CallCheck& check) {
         } else if (const BuiltinCall* row = builtinCall(name)) {
             checkBuiltinCount(check, *call.node, *row, *whole);
         } else {
-            checkUnknown(check, call, *callee);
+            checkUnknown(check, near, call, *callee);
         }
     }
 }

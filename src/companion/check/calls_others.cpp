@@ -4,7 +4,6 @@
 #include "companion/check/calls_builtins.h"
 #include "companion/check/names_english.h"
 #include "companion/check/tree_walk.h"
-#include "syntax/definitions.h"
 #include "ui/properties.h"
 
 namespace companion {
@@ -20,24 +19,6 @@ bool isTimeText(const std::string& member) {
     return false;
 }
 
-/// True if no object can answer to that name: no structure has it, and nobody gives it to one.
-bool isNobodysMember(const CallCheck& check, const std::string& member) {
-    bool isSomebodys = false;
-    forEachNode(
-        check.compiled.program,
-        [&](const Statement& node) {
-            const auto* method = nodeAs<FunctionDefinitionStatement>(&node);
-            const auto* field = nodeAs<VarDeclaration>(&node);
-            isSomebodys |= (method != nullptr && method->name.text == member) ||
-                           (field != nullptr && field->name == member);
-        },
-        [&](const Expression& node) {
-            const auto* store = nodeAs<SetMemberExpression>(&node);
-            isSomebodys |= store != nullptr && store->name.text == member;
-        });
-    return !isSomebodys;
-}
-
 /// True for what is never taken for an object: an element, a result, a literal, a parameter.
 bool isNeverObject(const CallCheck& check, const Expression& object) {
     const auto* variable = nodeAs<VariableAccess>(&object);
@@ -47,10 +28,7 @@ bool isNeverObject(const CallCheck& check, const Expression& object) {
         return callee == nullptr ||
                check.compiled.parser->structDefinitions.count(callee->name) == 0;
     }
-    for (const NameRead& read : check.uses.reads) {
-        if (read.node == variable) return read.in.isLocal;
-    }
-    return false;
+    return check.uses.localReads.count(variable) != 0;
 }
 
 void addUnknownMember(const CallCheck& check, const GetExpression& callee, Range range) {
@@ -80,8 +58,8 @@ void checkMemberCall(const CallCheck& check, const CallExpression& call,
     }
     if (isTimeText(member) || member == "சேர்") return;
     const auto name = check.compiled.wordIn(callee, member).value_or(*range);
-    if (isNeverObject(check, object) || check.isHiddenRefusal(name) ||
-        isNobodysMember(check, member)) {
+    const bool isNobodys = check.uses.members.count(member) == 0;
+    if (isNeverObject(check, object) || check.isHiddenRefusal(name) || isNobodys) {
         addUnknownMember(check, callee, name);
     }
 }

@@ -26,7 +26,8 @@ std::string lambdaFor(const std::string& name, std::size_t parameters) {
     return "(" + list + ") => " + name + "(" + list + ")";
 }
 
-void addEmptyName(const HabitCheck& check, const std::string& name, std::optional<Range> range) {
+void addEmptyName(const HabitCheck& check, const NearNames& near, const std::string& name,
+                  std::optional<Range> range) {
     const auto& functions = check.compiled.parser->functionParameters;
     const auto function = functions.find(name);
     if (function != functions.end()) {
@@ -35,8 +36,8 @@ void addEmptyName(const HabitCheck& check, const std::string& name, std::optiona
         check.add("துணை-503", range, {name});
     } else if (check.uses.parameters.count(name) != 0) {
         check.add("துணை-504", range, {name});
-    } else if (const auto near = nearestName(name, check.uses.given)) {
-        check.add("துணை-501", range, {name, *near});
+    } else if (const auto nearest = near.to(name)) {
+        check.add("துணை-501", range, {name, *nearest});
     } else {
         check.add("துணை-502", range, {name});
     }
@@ -48,16 +49,17 @@ bool isLocalElsewhere(const HabitCheck& check, const std::string& name) {
 
 /// Names that never hold anything, wherever they are read.
 void checkEmptyNames(const HabitCheck& check) {
+    const NearNames near(check.uses.given);
     for (const NameRead& read : check.uses.reads) {
         const std::string& name = read.node->name;
         if (read.in.isLocal || check.uses.given.count(name) != 0) continue;
         if (read.in.isInField && isLocalElsewhere(check, name)) continue;
-        addEmptyName(check, name, check.compiled.rangeOf(*read.node));
+        addEmptyName(check, near, name, check.compiled.rangeOf(*read.node));
     }
     for (const NameWrite& write : check.uses.writes) {
         const std::string& name = write.node->name;
         if (write.in.isLocal || check.uses.given.count(name) != 0) continue;
-        addEmptyName(check, name, check.compiled.wordIn(*write.node, name));
+        addEmptyName(check, near, name, check.compiled.wordIn(*write.node, name));
     }
 }
 

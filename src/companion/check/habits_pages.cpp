@@ -34,16 +34,23 @@ std::string inputAdvice(const HabitCheck& check, const std::string& object,
         return "பண்பின் '" + member + "' என்ற பெயரை மாற்றுங்கள்.";
     }
     if (member == "நீளம்") return "நீளத்தைப் பார்க்க 'நீளம்(" + object + ")' என்று எழுதுங்கள்.";
-    if (const auto near = nearestName(object, check.uses.identifiers)) {
+    if (const auto near = nearestName(object, check.uses.inputs)) {
         return "'" + *near + "' என்று எழுத நினைத்தீர்களா?";
     }
     return "உரைபெட்டி(அடையாளம்: \"" + object + "\") என்று ஒரு பெட்டியைக் 'குமரி' பகுதியில் சேருங்கள்.";
 }
 
+/// Other widgets than text boxes show an error too.
+bool showsError(const std::string& member) { return member == "பிழைசெய்தி" || member == "பிழை_அழி"; }
+
 void checkInput(const HabitCheck& check, const GetExpression& access) {
     const auto* object = nodeAs<VariableAccess>(access.object.get());
     if (object == nullptr || !isInputMember(access.name.text)) return;
-    if (check.uses.hasOpenIdentifiers || check.uses.identifiers.count(object->name) != 0) return;
+    if (check.uses.hasOpenIdentifiers || check.uses.inputs.count(object->name) != 0) return;
+    if (check.uses.identifiers.count(object->name) != 0) {
+        if (showsError(access.name.text)) return;
+        return check.add("துணை-536", check.compiled.rangeOf(access), {object->name});
+    }
     check.add("துணை-533", check.compiled.rangeOf(access),
               {object->name, access.name.text, inputAdvice(check, object->name, access.name.text)});
 }

@@ -1,7 +1,7 @@
 #include "companion/check/names_letters.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <unordered_map>
 
 #include "lexer/utf8.h"
 
@@ -12,8 +12,11 @@ namespace {
 constexpr int kChange = 2;
 constexpr int kHalfChange = 1;
 
-/// Letters that are taken for each other, by ear or by eye.
-const char* const kAlike[] = {"நனண", "லளழ", "ரற", "சஸஷ", "அஆ", "இஈ", "உஊ", "எஏ", "ஒஓ"};
+/// Letters that are taken for each other, by ear or by eye, with the number of their group.
+const std::unordered_map<std::string_view, int> kAlike = {
+    {"ந", 1}, {"ன", 1}, {"ண", 1}, {"ல", 2}, {"ள", 2}, {"ழ", 2}, {"ர", 3}, {"ற", 3}, {"அ", 4},
+    {"ஆ", 4}, {"இ", 5}, {"ஈ", 5}, {"உ", 6}, {"ஊ", 6}, {"எ", 7}, {"ஏ", 7}, {"ஒ", 8}, {"ஓ", 8},
+};
 
 /// Vowel signs, the dot, and the mark of length: what sits on the letter before it.
 bool isSign(std::string_view codePoint) {
@@ -23,10 +26,10 @@ bool isSign(std::string_view codePoint) {
 }
 
 bool areAlike(std::string_view one, std::string_view other) {
-    return std::any_of(std::begin(kAlike), std::end(kAlike), [&](std::string_view group) {
-        return group.find(one) != std::string_view::npos &&
-               group.find(other) != std::string_view::npos;
-    });
+    const auto group = kAlike.find(one);
+    if (group == kAlike.end()) return false;
+    const auto same = kAlike.find(other);
+    return same != kAlike.end() && same->second == group->second;
 }
 
 int costOf(const Letter& one, const Letter& other) {
@@ -40,6 +43,15 @@ int allowedDistance(std::size_t letters) {
     if (letters < 2) return 0;
     if (letters < 3) return kHalfChange;
     return letters < 6 ? kChange : 2 * kChange;
+}
+
+/// True if the number of their bytes alone keeps two names `distance` halves apart: half of a
+/// change brings one sign, or half of a letter with its sign.
+bool differInLength(std::string_view one, std::string_view other, int distance) {
+    constexpr std::size_t kBytesOfHalf = 3;
+    const std::size_t longer = std::max(one.size(), other.size());
+    const std::size_t shorter = std::min(one.size(), other.size());
+    return longer - shorter > kBytesOfHalf * static_cast<std::size_t>(distance - 1);
 }
 
 }  // namespace
@@ -81,13 +93,20 @@ std::optional<std::string> nearestName(std::string_view name, const std::set<std
     std::optional<std::string> nearest;
     int smallest = allowedDistance(lettersOf(name).size()) + 1;
     for (const std::string& candidate : known) {
-        if (candidate == name) continue;
+        if (candidate == name || differInLength(name, candidate, smallest)) continue;
         const int distance = distanceBetween(name, candidate);
         if (distance >= smallest) continue;
         smallest = distance;
         nearest = candidate;
     }
     return nearest;
+}
+
+std::optional<std::string> NearNames::to(const std::string& name) const {
+    const auto found = asked.find(name);
+    if (found != asked.end()) return found->second;
+    if (asked.size() >= kMostAsked) return std::nullopt;
+    return asked[name] = nearestName(name, known);
 }
 
 }  // namespace companion

@@ -5,6 +5,7 @@
 #include "companion/check/tree_walk.h"
 #include "syntax/application.h"
 #include "syntax/database.h"
+#include "ui/properties.h"
 
 namespace companion {
 
@@ -36,6 +37,7 @@ private:
     void enterWidget(const PropertyMap& properties);
     void noteProperty(const std::string& key, const Expression& value);
     void enterCall(const CallExpression& call);
+    void noteRead(const VariableAccess& name);
     Surroundings surroundingsOf(const std::string& name) const;
     void addLocals(const std::vector<Token>& names);
 
@@ -57,10 +59,13 @@ bool UseFinder::enter(const Statement& node) {
         uses.loopVariables.insert(loop->variable.text);
     } else if (const auto* attempt = nodeAs<TryCatchStatement>(&node)) {
         uses.given.insert(attempt->errorName);
-    } else if (nodeAs<VarDeclaration>(&node) != nullptr) {
+    } else if (const auto* field = nodeAs<VarDeclaration>(&node)) {
         around.isInField = true;
+        uses.members.insert(field->name);
     } else if (const auto* widget = dynamic_cast<const WidgetNode*>(&node)) {
         enterWidget(widget->properties);
+        const std::string* name = stringProperty(*widget, "அடையாளம்");
+        if (name != nullptr && widget->name == "உரைபெட்டி") uses.inputs.insert(*name);
     } else if (const auto* app = nodeAs<WebAppNode>(&node)) {
         enterWidget(app->properties);
     } else if (const auto* config = nodeAs<FirebaseConfigNode>(&node)) {
@@ -80,6 +85,7 @@ void UseFinder::leave(const Statement& node) {
 }
 
 void UseFinder::enterFunction(const FunctionDefinitionStatement& function) {
+    uses.members.insert(function.name.text);
     outerLocals.push_back(locals);
     if (functionDepth++ == 0) {
         locals.clear();
@@ -131,18 +137,24 @@ bool UseFinder::enter(const Expression& node) {
         around.isInLambda = ++lambdaDepth > 0;
     } else if (const auto* write = nodeAs<AssignmentExpression>(&node)) {
         uses.writes.push_back({write, surroundingsOf(write->name)});
+        uses.assigned.insert(write->name);
         if (isPlainAssignment(*write)) uses.given.insert(write->name);
     } else if (const auto* member = nodeAs<GetExpression>(&node)) {
         if (isInputMember(member->name.text)) noReads.insert(member->object.get());
     } else if (const auto* store = nodeAs<SetMemberExpression>(&node)) {
         const auto* object = nodeAs<VariableAccess>(store->object.get());
+        uses.members.insert(store->name.text);
         if (object != nullptr && object->name == "காட்சி_நிலை") uses.given.insert(store->name.text);
     } else if (const auto* name = nodeAs<VariableAccess>(&node)) {
-        if (noReads.count(name) == 0 && !isReceiverName(name->name)) {
-            uses.reads.push_back({name, surroundingsOf(name->name)});
-        }
+        noteRead(*name);
     }
     return true;
+}
+
+void UseFinder::noteRead(const VariableAccess& name) {
+    if (noReads.count(&name) != 0 || isReceiverName(name.name)) return;
+    uses.reads.push_back({&name, surroundingsOf(name.name)});
+    if (uses.reads.back().in.isLocal) uses.localReads.insert(&name);
 }
 
 void UseFinder::leave(const Expression& node) {

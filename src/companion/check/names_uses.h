@@ -43,10 +43,15 @@ struct NameUses {
     std::vector<NameCall> calls;
     /// Names that have a value in the shared table at some time.
     std::set<std::string> given;
+    std::set<std::string> assigned;  ///< By `=` or a compound word.
     std::set<std::string> loopVariables;
     std::set<std::string> parameters;
+    /// Methods, fields, and whatever else is stored in an object.
+    std::set<std::string> members;
+    std::unordered_set<const Expression*> localReads;
     /// The literal names of widgets; `hasOpenIdentifiers` if one of them isn't written out.
     std::set<std::string> identifiers;
+    std::set<std::string> inputs;  ///< Those of text boxes, which can be read by their name.
     bool hasOpenIdentifiers = false;
 };
 
