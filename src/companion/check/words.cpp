@@ -1,4 +1,6 @@
 // Rules by the words alone, for sources that the scanner took and the parser may have refused.
+#include "companion/check/words.h"
+
 #include <string>
 
 #include "companion/check/check.h"
@@ -8,36 +10,6 @@
 namespace companion {
 
 namespace {
-
-bool isLineEnd(TokenType kind) {
-    return kind == TokenType::NEWLINE || kind == TokenType::END_OF_FILE;
-}
-
-/// The source's tokens with the look around that the rules need.
-struct WordCheck {
-    const CompiledSource& compiled;
-    Findings& findings;
-
-    int count() const { return static_cast<int>(compiled.tokens.size()); }
-    const Token& at(int index) const { return compiled.tokens[static_cast<std::size_t>(index)]; }
-    /// True for the first word of a line.
-    bool opensLine(int index) const {
-        if (index == 0) return true;
-        const TokenType before = at(index - 1).type;
-        return before == TokenType::NEWLINE || before == TokenType::INDENT ||
-               before == TokenType::DEDENT;
-    }
-    /// The index of the token that ends the line of `index`.
-    int endOfLine(int index) const {
-        while (index < count() - 1 && !isLineEnd(at(index).type)) index++;
-        return index;
-    }
-    /// The line of a refusal with a report; 0 without one.
-    int refusedLine() const {
-        if (!compiled.refused || compiled.refused->code.empty()) return 0;
-        return compiled.source.placeOf(compiled.refused->range.begin).line;
-    }
-};
 
 // ---- Digits ----
 
@@ -98,23 +70,6 @@ void checkStatementWords(const WordCheck& check) {
     }
 }
 
-/// x சமம் 5  as a line of its own.
-void checkEqualityStatements(const WordCheck& check) {
-    const int line = check.refusedLine();
-    if (line == 0 || check.compiled.refused->code != "பொழில்-201") return;
-    for (int i = 0; i < check.count() - 1; i++) {
-        if (check.at(i).line != line || !check.opensLine(i)) continue;
-        const Token& word = check.at(i + 1);
-        if (check.at(i).type != TokenType::IDENTIFIER || word.text != "சமம்") return;
-        for (int behind = i; behind < check.endOfLine(i); behind++) {
-            const TokenType kind = check.at(behind).type;
-            if (kind == TokenType::EQUALS || kind == TokenType::COLON) return;
-        }
-        check.findings.add("துணை-605", check.compiled.rangeOfToken(i + 1), {check.at(i).text});
-        return;
-    }
-}
-
 // ---- Enumerations ----
 
 /// The index behind the block that the line of `index` opens.
@@ -152,7 +107,7 @@ void checkWords(const CompiledSource& compiled, Findings& findings) {
     const WordCheck check{compiled, findings};
     checkDigits(check);
     checkStatementWords(check);
-    checkEqualityStatements(check);
+    checkRefusedLine(check);
     checkEnumerations(check);
 }
 
