@@ -1,6 +1,7 @@
 // new [--web] NAME: a folder with a program to begin with.
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <optional>
 
@@ -92,14 +93,16 @@ bool isLibraryFound() {
 }
 
 /// A compiler that was told of no library has it beside itself: then a link in the project leads
-/// there. True if the project's programs find it.
+/// there, which is nobody else's. True if the project's programs find the library.
 bool reachLibrary(const fs::path& folder) {
     if (isLibraryFound()) return true;
     const fs::path library = fs::u8path(getAppDirectory()) / fs::u8path(kLibrary);
     std::error_code problem;
     if (!fs::is_directory(library, problem)) return false;
     fs::create_directory_symlink(library, folder / fs::u8path(kLibrary), problem);
-    return !problem;
+    std::ofstream ignored(folder / ".gitignore", std::ios::app);
+    ignored << "/" << kLibrary << "\n";
+    return !problem && ignored.flush();
 }
 
 std::string withName(std::string_view text, const std::string& name) {

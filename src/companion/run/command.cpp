@@ -112,7 +112,8 @@ int runRun(const Arguments& arguments) {
     std::string text;
     if (!request || !readProgram(request->path, text)) return kMisused;
 
-    const fs::path whole = fs::absolute(fs::u8path(request->path));
+    std::error_code ignored;  // where we stand may be gone: then the path as it is serves
+    const fs::path whole = fs::absolute(fs::u8path(request->path), ignored);
     auto folder = ProjectFolder::of(whole.parent_path().u8string());
     if (!folder) {
         std::cerr
