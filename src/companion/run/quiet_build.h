@@ -31,7 +31,7 @@ struct QuietBuild {
 };
 
 /// Builds the program of `text` in `place`, with the companions in `appDirectory`, as the compiler
-/// does. A status that the user interrupted ends this process too.
+/// does. A Ctrl+C that ends g++ ends this process too.
 QuietBuild buildQuietly(const std::string& text, const std::string& place,
                         const std::string& appDirectory);
 
