@@ -52,7 +52,8 @@ const RuleTable& markRules() {
         {"துணை-114", Severity::Error,
          "இங்கே தொடங்கும் உரை இந்த வரியிலேயே முடியவில்லை. வரி முடியுமுன் \" இட்டு மூடுங்கள்; உரைக்குள் புது வரி "
          "வேண்டுமென்றால் \\n என எழுதுங்கள்."},
-        {"துணை-115", Severity::Error, "பொழிலில் '$0' என்ற குறி இல்லை. அதற்குப் பதில் '$1' என எழுதுங்கள்."},
+        {"துணை-115", Severity::Error,
+         "பொழிலில் '$0' என்ற குறி இல்லை. அதற்குப் பதில் '$1' எனத் தனிச் சொல்லாக எழுதுங்கள்."},
         {"துணை-116", Severity::Error, "'$0' பொழிலில் குறிப்பைத் தொடங்காது. குறிப்புக்கு 'ஃ' இடுங்கள்."},
         {"துணை-117", Severity::Warning,
          "'ஃ' குறிப்பைத் தொடங்குவதால் '$0' முதல் வரி முடியும்வரை பொழில் படிக்காது. பெயரை 'ஃ' இல்லாமல் எழுதுங்கள்."},
@@ -72,6 +73,8 @@ const RuleTable& markRules() {
          "'$0' என்ற சொல்லில் '$1' வேறு மொழியின் எழுத்து; பார்க்க ஒன்றுபோல் இருந்தாலும் இது வேறு சொல்லாகும். "
          "அந்த எழுத்தை மீண்டும் எழுதுங்கள்."},
         {"துணை-124", Severity::Error, "நிறத்தின் எண் மேற்கோளுக்குள் இருக்கவேண்டும். \"$0\" என எழுதுங்கள்."},
+        {"துணை-125", Severity::Error,
+         "பெயருக்குள் '$0' வராது. ஒரே பெயர் என்றால் '_' இடுங்கள்; கழித்தல் என்றால் 'கழி' எனத் தனிச் சொல்லாக எழுதுங்கள்."},
     };
     return rules;
 }
@@ -145,6 +148,7 @@ private:
     void lookAtText(const Piece& piece);
     void lookAtComment(const Piece& piece);
     void lookAtMark(const Piece& mark);
+    void tellOperator(Range sign, bool isAtWord, std::string_view word);
     bool passForeignComment(const Piece& mark);
     bool passColour(const Piece& mark);
 
@@ -234,12 +238,7 @@ bool MarkCheck::lookAtSign(const Piece& word, std::size_t at, CodePoint point) {
         case SignKind::Punctuation:
             findings.add("துணை-110", range, {shown, sign.meant});
             return false;
-        case SignKind::Operator: {
-            const bool isInFront = at == word.begin && !isBehindValue();
-            const std::string_view meant = isInFront ? wordInFrontOf(sign.meant) : sign.meant;
-            findings.add("துணை-115", range, {shown, std::string(meant)});
-            return false;
-        }
+        case SignKind::Operator: tellOperator(range, at > word.begin, sign.meant); return false;
         case SignKind::Quote:
             findings.add("துணை-112", range, {shown});
             passQuoted(at, point.width);
@@ -407,12 +406,23 @@ void MarkCheck::lookAtMark(const Piece& mark) {
     } else if (!passColour(mark) && !passForeignComment(mark)) {
         const AsciiOperator found = asciiOperatorAt(text.substr(mark.begin));
         if (found.sign.empty()) return;
-        reader.continueAt(mark.begin + found.sign.size());
-        if (found.word.empty()) return;
-        const std::string_view meant = isBehindValue() ? found.word : wordInFrontOf(found.word);
-        findings.add("துணை-115", {mark.begin, mark.begin + found.sign.size()},
-                     {std::string(found.sign), std::string(meant)});
+        const Range sign{mark.begin, mark.begin + found.sign.size()};
+        reader.continueAt(sign.end);
+        const bool isAtWord =
+            before && before->kind == PieceKind::Word && before->end == sign.begin;
+        if (!found.word.empty()) tellOperator(sign, isAtWord, found.word);
     }
+}
+
+/// A sign of other languages; `word` is its word here. A hyphen between two letters may be meant
+/// as one.
+void MarkCheck::tellOperator(Range sign, bool isAtWord, std::string_view word) {
+    const std::string shown(source.slice(sign));
+    const bool isBeforeWord = sign.end < text.size() && !isAsciiDigit(text[sign.end]) &&
+                              !isAsciiMark(static_cast<unsigned char>(text[sign.end]));
+    if (word == "கழி" && isAtWord && isBeforeWord) return findings.add("துணை-125", sign, {shown});
+    const std::string_view meant = isAtWord || isBehindValue() ? word : wordInFrontOf(word);
+    findings.add("துணை-115", sign, {shown, std::string(meant)});
 }
 
 bool MarkCheck::passForeignComment(const Piece& mark) {
