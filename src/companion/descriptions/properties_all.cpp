@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <stdexcept>
 
 #include "companion/descriptions/properties_families.h"
@@ -46,6 +47,29 @@ const std::vector<PropertyDescription>& propertyDescriptions() {
         return rows;
     }();
     return all;
+}
+
+std::vector<std::string_view> listedWords(std::string_view list) {
+    constexpr std::string_view kBetween = ", ";
+    std::vector<std::string_view> words;
+    for (std::size_t end = list.find(kBetween); end != std::string_view::npos;
+         end = list.find(kBetween)) {
+        words.push_back(list.substr(0, end));
+        list.remove_prefix(end + kBetween.size());
+    }
+    if (!list.empty()) words.push_back(list);
+    return words;
+}
+
+std::vector<const PropertyDescription*> propertiesOf(std::string_view widget) {
+    std::vector<const PropertyDescription*> properties;
+    for (const PropertyDescription& row : propertyDescriptions()) {
+        const auto widgets = listedWords(row.widgets);
+        if (std::find(widgets.begin(), widgets.end(), widget) != widgets.end()) {
+            properties.push_back(&row);
+        }
+    }
+    return properties;
 }
 
 }  // namespace companion

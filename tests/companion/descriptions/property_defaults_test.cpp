@@ -1,7 +1,6 @@
 // The defaults of properties: whoever writes one out gets the same widget.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <map>
 #include <regex>
 #include <sstream>
@@ -109,12 +108,6 @@ bool isOtherwise(const std::string& widget, const PropertyDescription& row) {
     return false;
 }
 
-bool isReadIn(const PropertyDescription& row, const Shape& shape) {
-    const auto widgets = widgetsOf(row);
-    return row.block == shape.block &&
-           std::count(widgets.begin(), widgets.end(), shape.widget) != 0;
-}
-
 TEST(Defaults, WrittenOutChangeNothing) {
     int count = 0;
     for (const Shape& each : allShapes()) {
@@ -122,13 +115,13 @@ TEST(Defaults, WrittenOutChangeNothing) {
         const auto plain = becomes(shape, "");
         if (!plain) continue;
         const std::string expected = withoutRepetitions(*plain);
-        for (const PropertyDescription& row : companion::propertyDescriptions()) {
-            if (!isReadIn(row, shape) || !isAsWritten(row.defaultValue)) continue;
-            const std::string item = std::string(row.word) + ": " + std::string(row.defaultValue);
+        for (const PropertyDescription* row : companion::propertiesOf(shape.widget)) {
+            if (row->block != shape.block || !isAsWritten(row->defaultValue)) continue;
+            const std::string item = std::string(row->word) + ": " + std::string(row->defaultValue);
             const auto text = becomes(shape, item);
             ASSERT_TRUE(text) << shape.widget << " " << item;
-            EXPECT_EQ(withoutRepetitions(*text) == expected, !isOtherwise(shape.widget, row))
-                << shape.widget << " " << row.block << " " << item;
+            EXPECT_EQ(withoutRepetitions(*text) == expected, !isOtherwise(shape.widget, *row))
+                << shape.widget << " " << row->block << " " << item;
             count++;
         }
     }

@@ -145,13 +145,11 @@ const Words& allWords() {
 /// `style_பின்னணி` for the button's own word too.
 bool isDescribed(const Shape& shape, const std::string& word) {
     const std::string plain = word.rfind("style_", 0) == 0 ? word.substr(6) : "";
-    const auto& rows = companion::propertyDescriptions();
-    return std::any_of(rows.begin(), rows.end(), [&](const PropertyDescription& row) {
-        const Words widgets = widgetsOf(row);
-        if (std::count(widgets.begin(), widgets.end(), shape.widget) == 0) return false;
-        if (!plain.empty() && row.word == plain) return true;
-        if (plain == "பின்னணி" && row.word == "பொபின்னணி") return true;
-        return row.word == word && row.block == shape.block;
+    const auto rows = companion::propertiesOf(shape.widget);
+    return std::any_of(rows.begin(), rows.end(), [&](const PropertyDescription* row) {
+        if (!plain.empty() && row->word == plain) return true;
+        if (plain == "பின்னணி" && row->word == "பொபின்னணி") return true;
+        return row->word == word && row->block == shape.block;
     });
 }
 
@@ -161,7 +159,7 @@ bool isUndescribed(const Shape& shape, const std::string& word) {
     });
 }
 
-const Shape* shapeOf(const std::string& widget, std::string_view block) {
+const Shape* shapeOf(std::string_view widget, std::string_view block) {
     for (const Shape& shape : allShapes()) {
         if (shape.widget == widget && shape.block == block) return &shape;
     }
@@ -238,7 +236,7 @@ std::set<std::string> readWords(const Shape& shape, const std::string& plain, co
 
 TEST(Properties, AreLookedForInEveryWidget) {
     for (const std::string_view word : widgetWords()) {
-        EXPECT_NE(shapeOf(std::string(word), ""), nullptr) << word;
+        EXPECT_NE(shapeOf(word, ""), nullptr) << word;
     }
     for (const Shape& shape : allShapes()) {
         EXPECT_NE(shape.source.find(shape.widget), std::string::npos) << shape.widget;
@@ -292,7 +290,7 @@ constexpr const char* kVideo = "பின்னணிகாணொளி";  ///< 
 std::vector<Probe> allProbes() {
     std::vector<Probe> probes;
     for (const PropertyDescription& row : companion::propertyDescriptions()) {
-        for (const std::string& widget : widgetsOf(row)) {
+        for (const std::string_view widget : companion::listedWords(row.widgets)) {
             const Shape* shape = shapeOf(widget, row.block);
             if (shape == nullptr) {
                 ADD_FAILURE() << "no application of " << widget << " " << row.block;
@@ -323,7 +321,7 @@ TEST(Properties, AreReadWithTheValuesOfTheirKind) {
         const std::string word(row->word);
         if (word == kVideo) continue;
         // What all widgets share is read by one function: its values are looked at once.
-        const bool isCommon = widgetsOf(*row).size() > 20;
+        const bool isCommon = companion::listedWords(row->widgets).size() > 20;
         if (isCommon && !common.insert(word).second) {
             EXPECT_NE(becomes(*shape, item(word, "37")), becomes(*shape, item(word, "\"அ\"")))
                 << shape->widget << " " << word;

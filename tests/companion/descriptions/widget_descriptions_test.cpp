@@ -8,7 +8,6 @@
 #include <string>
 
 #include "companion/descriptions/description.h"
-#include "companion/descriptions/widget_probe.h"
 #include "companion/refusal.h"
 #include "emitted_text.h"
 #include "lexer/lexer.h"
@@ -125,7 +124,7 @@ TEST(Widgets, PropertiesNameWordsThatAreDescribed) {
     for (const PropertyDescription& row : companion::propertyDescriptions()) {
         const bool isBlock = row.block.empty() || row.block == "()";
         EXPECT_TRUE(isBlock || words.count(row.block) != 0) << row.word << ": " << row.block;
-        for (const std::string& widget : widgetsOf(row)) {
+        for (const std::string_view widget : companion::listedWords(row.widgets)) {
             EXPECT_EQ(words.count(widget), 1U) << row.word << ": " << widget;
         }
     }
@@ -134,9 +133,9 @@ TEST(Widgets, PropertiesNameWordsThatAreDescribed) {
 TEST(Widgets, PropertiesAreDescribedOnceForEachPlace) {
     std::set<std::string> places;
     for (const PropertyDescription& row : companion::propertyDescriptions()) {
-        for (const std::string& widget : widgetsOf(row)) {
+        for (const std::string_view widget : companion::listedWords(row.widgets)) {
             const std::string place =
-                widget + " " + std::string(row.block) + " " + std::string(row.word);
+                std::string(widget) + " " + std::string(row.block) + " " + std::string(row.word);
             EXPECT_TRUE(places.insert(place).second) << place;
         }
         EXPECT_FALSE(row.value.empty()) << row.word;
@@ -145,6 +144,22 @@ TEST(Widgets, PropertiesAreDescribedOnceForEachPlace) {
         expectSentences(row.summary, row.word);
         if (!row.trap.empty()) expectSentences(row.trap, row.word);
     }
+}
+
+TEST(Widgets, PropertiesAreFoundByTheirWidget) {
+    EXPECT_EQ(companion::listedWords("if, when"), (std::vector<std::string_view>{"if", "when"}));
+    EXPECT_TRUE(companion::listedWords("").empty());
+    for (const Description& each : companion::widgetDescriptions()) {
+        for (const PropertyDescription* row : companion::propertiesOf(each.word)) {
+            EXPECT_NE(row->widgets.find(each.word), std::string_view::npos) << row->word;
+        }
+    }
+    std::set<std::string_view> words;
+    for (const PropertyDescription* row : companion::propertiesOf("சுழல்_காட்டி")) {
+        words.insert(row->word);
+    }
+    EXPECT_EQ(words, (std::set<std::string_view>{"அடையாளம்", "காட்சி_பெயர்", "நகர்வு_X", "நகர்வு_Y",
+                                                 "style_அளவு", "style_தடிமன்", "style_நிறம்"}));
 }
 
 // ---- Values ----

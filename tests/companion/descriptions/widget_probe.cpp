@@ -61,17 +61,6 @@ std::optional<std::string> becomes(const Shape& shape, const std::string& items)
     }
 }
 
-std::vector<std::string> widgetsOf(const companion::PropertyDescription& row) {
-    std::vector<std::string> widgets;
-    std::string rest(row.widgets);
-    for (std::size_t comma = rest.find(", "); comma != std::string::npos; comma = rest.find(", ")) {
-        widgets.push_back(rest.substr(0, comma));
-        rest.erase(0, comma + 2);
-    }
-    widgets.push_back(rest);
-    return widgets;
-}
-
 const std::vector<Shape>& allShapes() {
     static const std::vector<Shape> shapes = {
         {"தலைமை", "", R"(தலைமை(⋯))"},

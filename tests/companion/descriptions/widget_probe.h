@@ -7,8 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include "companion/descriptions/description.h"
-
 /// Where properties are written: between the parentheses of `widget`, or in its style block
 /// `block`.
 struct Shape {
@@ -23,6 +21,3 @@ const std::vector<Shape>& allShapes();
 /// The text that the application of `shape` with `items` in its place becomes: its page, its logic
 /// and its database. Nothing if the compiler refuses it.
 std::optional<std::string> becomes(const Shape& shape, const std::string& items);
-
-/// The words of the widgets that read a property.
-std::vector<std::string> widgetsOf(const companion::PropertyDescription& row);
