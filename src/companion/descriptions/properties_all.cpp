@@ -8,7 +8,7 @@ namespace companion {
 namespace {
 
 /// What is written for a value of `kind`.
-std::string_view valueText(ValueKind kind) {
+std::string_view valueTextOf(ValueKind kind) {
     switch (kind) {
         case ValueKind::Any: return "எந்த மதிப்பும்: உரை, எண், மாறி, கணக்கு";
         case ValueKind::Number: return "நேராக எழுதிய முழு எண்";
@@ -42,7 +42,7 @@ const std::vector<PropertyDescription>& propertyDescriptions() {
             rows.insert(rows.end(), table->begin(), table->end());
         }
         for (PropertyDescription& row : rows) {
-            if (row.value.empty()) row.value = valueText(row.kind);
+            if (row.value.empty()) row.value = valueTextOf(row.kind);
         }
         return rows;
     }();

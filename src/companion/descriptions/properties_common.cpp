@@ -5,38 +5,38 @@ namespace companion {
 
 namespace {
 
-constexpr std::string_view kDrawn =
+constexpr std::string_view kDrawnWidgets =
     "பக்கம், உரை, படம், வட்டபடம், பொத்தான், உரைபொத்தான், நெடுவரிசை, கிடைவரிசை, அடுக்கி, மடிப்பு, "
     "பட்டியல்_காட்சி, கட்டம்_காட்சி, பெட்டி, அட்டை, விரிவாக்கம், பிரிப்பான், தேர்வுபெட்டி, "
     "வட்டத்தேர்வு, மாற்றி, அளவி, கீழ்வரி, உரைபெட்டி, கடவுமறை, தேடல்_பட்டை, தேடுபொறி, சுழல்_காட்டி, "
     "முன்னேற்றவரி, தகவல்பட்டை, பட்டியல்_உருப்படி, எச்சரிக்கை, அடிப்பகுதி, தத்தல்";
 
-constexpr std::string_view kPlaced =
+constexpr std::string_view kPlacedWidgets =
     "பக்கம், உரை, படம், வட்டபடம், பொத்தான், உரைபொத்தான், நெடுவரிசை, கிடைவரிசை, அடுக்கி, மடிப்பு, "
     "பட்டியல்_காட்சி, கட்டம்_காட்சி, பெட்டி, அட்டை, விரிவாக்கம், பிரிப்பான், தேர்வுபெட்டி, "
     "வட்டத்தேர்வு, மாற்றி, அளவி, கீழ்வரி, உரைபெட்டி, கடவுமறை, தேடல்_பட்டை, தேடுபொறி, சுழல்_காட்டி, "
     "முன்னேற்றவரி, தகவல்பட்டை, பட்டியல்_உருப்படி, தத்தல்";
 
-constexpr std::string_view kConfiguration = "பயர்பேசு_அமைப்பு";
+constexpr std::string_view kConfigurationWord = "பயர்பேசு_அமைப்பு";
 
 }  // namespace
 
 const PropertyTable& commonProperties() {
     static const PropertyTable rows = {
-        {"அடையாளம்", kDrawn, "", "பெயரில்லை",
+        {"அடையாளம்", kDrawnWidgets, "", "பெயரில்லை",
          "உறுப்பின் பெயர். நகர்த்து(\"பெயர்\") என்று எழுதினால் உருளும் பகுதி அந்த உறுப்புக்கு நகரும்; "
          "உரைபெட்டியில் தட்டியதும் தேர்வுபெட்டியின் நிலையும் இந்தப் பெயரால் கிடைக்கும்.",
          "id, name, key", "", ValueKind::Any,
          "உரைபெட்டிக்கும் தேர்வுபெட்டிக்கும் மேற்கோளுக்குள் நேராக எழுதிய பெயர்தான் வேலைசெய்யும்."},
-        {"காட்சி_பெயர்", kDrawn, "", "எப்போதும் தெரியும்; எச்சரிக்கை மட்டும் மறைந்திருக்கும்",
+        {"காட்சி_பெயர்", kDrawnWidgets, "", "எப்போதும் தெரியும்; எச்சரிக்கை மட்டும் மறைந்திருக்கும்",
          "உறுப்பைக் காட்டவும் மறைக்கவும் உதவும் மாறியின் பெயர். அந்த மாறி பொய் ஆனால் உறுப்பு மறையும்.",
          "visible, visibility, show, hide", "", ValueKind::Text,
          "மாறி மெய் ஆக இருக்கும்வரை, எச்சரிக்கைக்குள் இருப்பவை தவிர எதையும் அழுத்த முடியாது. மாறியில் மெய், பொய் தவிர வேறு "
          "எதுவும் இருந்தால் உறுப்பு மறையும்."},
-        {"நகர்வு_X", kPlaced, "", "0", "அடுக்கியின் உறுப்பை வலப்புறம் நகர்த்தும், புள்ளிகளில்.",
+        {"நகர்வு_X", kPlacedWidgets, "", "0", "அடுக்கியின் உறுப்பை வலப்புறம் நகர்த்தும், புள்ளிகளில்.",
          "x, left, offset", "", ValueKind::Number, "அடுக்கிக்கு நேர் உள்ளே இருந்தால் மட்டும் நகரும்."},
-        {"நகர்வு_Y", kPlaced, "", "0", "அடுக்கியின் உறுப்பைக் கீழே நகர்த்தும், புள்ளிகளில்.", "y, top, offset",
-         "", ValueKind::Number, "அடுக்கிக்கு நேர் உள்ளே இருந்தால் மட்டும் நகரும்."},
+        {"நகர்வு_Y", kPlacedWidgets, "", "0", "அடுக்கியின் உறுப்பைக் கீழே நகர்த்தும், புள்ளிகளில்.",
+         "y, top, offset", "", ValueKind::Number, "அடுக்கிக்கு நேர் உள்ளே இருந்தால் மட்டும் நகரும்."},
     };
     return rows;
 }
@@ -66,19 +66,20 @@ const PropertyTable& sectionProperties() {
          "இந்தப் பக்கத்தின் பெயர்; செல்க(\"பெயர்\") இங்கே வரும். பெயருள்ள முதல் பக்கமே முதலில் தெரியும்.",
          "page name, route", "", ValueKind::Text, ""},
 
-        {"api_key", kConfiguration, "", "\"\"", "தரவுத்தளத்தின் திறவுகோல்.", "api key", "",
+        {"api_key", kConfigurationWord, "", "\"\"", "தரவுத்தளத்தின் திறவுகோல்.", "api key", "",
          ValueKind::Text, ""},
-        {"auth_domain", kConfiguration, "", "\"\"", "உள்நுழைவுக்கான முகவரி.", "auth domain", "",
+        {"auth_domain", kConfigurationWord, "", "\"\"", "உள்நுழைவுக்கான முகவரி.", "auth domain", "",
          ValueKind::Text, ""},
-        {"database_url", kConfiguration, "", "\"\"", "தரவுத்தளத்தின் முகவரி.", "database url", "",
+        {"database_url", kConfigurationWord, "", "\"\"", "தரவுத்தளத்தின் முகவரி.", "database url", "",
          ValueKind::Text, "இது கட்டாயம் வேண்டும்; இல்லையென்றால் இணைப்பு உருவாகாது."},
-        {"project_id", kConfiguration, "", "\"\"", "திட்டத்தின் பெயர்.", "project id", "",
+        {"project_id", kConfigurationWord, "", "\"\"", "திட்டத்தின் பெயர்.", "project id", "",
          ValueKind::Text, ""},
-        {"storage_bucket", kConfiguration, "", "\"\"", "கோப்புகளின் சேமிப்பிடம்.", "storage bucket", "",
-         ValueKind::Text, ""},
-        {"messaging_sender_id", kConfiguration, "", "\"\"", "செய்தி அனுப்புபவரின் எண்.",
+        {"storage_bucket", kConfigurationWord, "", "\"\"", "கோப்புகளின் சேமிப்பிடம்.", "storage bucket",
+         "", ValueKind::Text, ""},
+        {"messaging_sender_id", kConfigurationWord, "", "\"\"", "செய்தி அனுப்புபவரின் எண்.",
          "messaging sender id", "", ValueKind::Text, ""},
-        {"app_id", kConfiguration, "", "\"\"", "செயலியின் எண்.", "app id", "", ValueKind::Text, ""},
+        {"app_id", kConfigurationWord, "", "\"\"", "செயலியின் எண்.", "app id", "", ValueKind::Text,
+         ""},
     };
     return rows;
 }

@@ -6,7 +6,7 @@ namespace companion {
 namespace {
 
 constexpr std::string_view kSearchBars = "தேடல்_பட்டை, தேடுபொறி";
-constexpr std::string_view kImagePath = "படக் கோப்பின் பாதை: \"assets/தேடல்.png\"";
+constexpr std::string_view kImagePathText = "படக் கோப்பின் பாதை: \"assets/தேடல்.png\"";
 
 }  // namespace
 
@@ -24,9 +24,10 @@ const PropertyTable& inputProperties() {
         {"தேடல்_குறிப்பு", kSearchBars, "", "\"Search...\"",
          "குறிப்பு என்பதன் மறுபெயர்; இரண்டும் இருந்தால் இதுவே கணக்கு.", "search hint, placeholder", "",
          ValueKind::Any, ""},
-        {"தேடல்_படம்", kSearchBars, kImagePath, "படம் இல்லை", "கண்ணாடிக் குறிக்குப் பின்னால் தெரியும் படம்.",
-         "search icon", "", ValueKind::Any, "கண்ணாடிக் குறியும் அதன்மேல் வரையப்படும். svg தெரியாது."},
-        {"அழி_படம்", kSearchBars, kImagePath, "படம் இல்லை", "அழிக்கும் குறிக்குப் பின்னால் தெரியும் படம்.",
+        {"தேடல்_படம்", kSearchBars, kImagePathText, "படம் இல்லை",
+         "கண்ணாடிக் குறிக்குப் பின்னால் தெரியும் படம்.", "search icon", "", ValueKind::Any,
+         "கண்ணாடிக் குறியும் அதன்மேல் வரையப்படும். svg தெரியாது."},
+        {"அழி_படம்", kSearchBars, kImagePathText, "படம் இல்லை", "அழிக்கும் குறிக்குப் பின்னால் தெரியும் படம்.",
          "clear icon", "", ValueKind::Any, "அழிக்கும் குறியும் அதன்மேல் வரையப்படும். svg தெரியாது."},
         {"அகலம்", kSearchBars, "", "350", "பெட்டியின் அகலம்.", "width", "", ValueKind::Size, ""},
         {"உயரம்", kSearchBars, "", "50", "பெட்டியின் உயரம்.", "height", "", ValueKind::Size, ""},

@@ -5,10 +5,10 @@ namespace companion {
 const std::vector<Description>& widgetDescriptions() {
     static const std::vector<Description> all = [] {
         std::vector<Description> words;
-        for (const WordTable* table :
-             {&sectionWords(), &databaseWords(), &styleWords(), &contentWidgets(),
-              &containerWidgets(), &spaceWidgets(), &choiceWidgets(), &inputWidgets(),
-              &statusWidgets(), &overlayWidgets()}) {
+        for (const ApplicationWords* table :
+             {&applicationSections(), &applicationDatabase(), &applicationStyles(),
+              &contentWidgets(), &containerWidgets(), &spaceWidgets(), &choiceWidgets(),
+              &inputWidgets(), &statusWidgets(), &overlayWidgets()}) {
             words.insert(words.end(), table->begin(), table->end());
         }
         return words;

@@ -7,17 +7,18 @@
 
 namespace companion {
 
-using WordTable = std::vector<Description>;
+using ApplicationWords = std::vector<Description>;
 
-const WordTable& sectionWords();      ///< The application, its sections, what they are told.
-const WordTable& databaseWords();     ///< The database that other people's screens share.
-const WordTable& styleWords();        ///< Style blocks and the animation.
-const WordTable& contentWidgets();    ///< Texts, pictures, buttons.
-const WordTable& containerWidgets();  ///< What holds other widgets.
-const WordTable& spaceWidgets();      ///< What lies between widgets.
-const WordTable& choiceWidgets();     ///< What is chosen with.
-const WordTable& inputWidgets();      ///< What is typed into.
-const WordTable& statusWidgets();     ///< What shows a state, and lines of lists.
-const WordTable& overlayWidgets();    ///< What lies over a page and around it.
+const ApplicationWords&
+applicationSections();  ///< The application, its sections, what they are told.
+const ApplicationWords& applicationDatabase();  ///< The database that other people's screens share.
+const ApplicationWords& applicationStyles();    ///< Style blocks and the animation.
+const ApplicationWords& contentWidgets();       ///< Texts, pictures, buttons.
+const ApplicationWords& containerWidgets();     ///< What holds other widgets.
+const ApplicationWords& spaceWidgets();         ///< What lies between widgets.
+const ApplicationWords& choiceWidgets();        ///< What is chosen with.
+const ApplicationWords& inputWidgets();         ///< What is typed into.
+const ApplicationWords& statusWidgets();        ///< What shows a state, and lines of lists.
+const ApplicationWords& overlayWidgets();       ///< What lies over a page and around it.
 
 }  // namespace companion

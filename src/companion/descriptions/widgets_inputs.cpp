@@ -5,7 +5,7 @@ namespace companion {
 
 namespace {
 
-constexpr std::string_view kForm = R"(வலைதளம் பதிவேடு(
+constexpr std::string_view kFormApp = R"(வலைதளம் பதிவேடு(
     தலைமை(இணைய_தலைப்பு: "பதிவு")
     குமரி(
         நெடுவரிசை(சீரமைப்பு: மையம், இடைவெளி: 16)(
@@ -37,23 +37,23 @@ constexpr std::string_view kSearchTrap =
 
 }  // namespace
 
-const WordTable& inputWidgets() {
-    static const WordTable words = {
+const ApplicationWords& inputWidgets() {
+    static const ApplicationWords words = {
         {WordKind::Widget, "உரைபெட்டி", "உரைபெட்டி(அடையாளம்: \"பெயர்\", குறிப்பு: \"...\")",
          "எழுத்தைத் தட்டச்சு செய்யும் பெட்டி. அடையாளம் \"ஊர்ப்பெயர்\" என்றால், தட்டியதை "
          "ஊர்ப்பெயர்.உரைதரவு என்று படிக்கலாம்.",
-         "text field, input, textbox, textarea", kForm, "",
+         "text field, input, textbox, textarea", kFormApp, "",
          "அடையாளத்தை மேற்கோளுக்குள் எழுதுங்கள்; இல்லையென்றால் தட்டியதைப் படிக்க முடியாது. தட்டியதை நிரலால் "
          "மாற்ற முடியாது."},
         {WordKind::Widget, "கடவுமறை", "கடவுமறை(குறிப்பு: \"கடவுச்சொல்\")", "கடவுச்சொல்லுக்கான பெட்டி.",
-         "password field", kForm, "",
+         "password field", kFormApp, "",
          "தட்டியது மறையாது, எல்லோருக்கும் தெரியும்; நிரலில் படிக்கவும் முடியாது. இதை நெடுவரிசைக்குள் "
          "மட்டும் வையுங்கள்: பக்கத்தில் நேராக வைத்தால் நிரல் உருவாகாது."},
         {WordKind::Widget, "தேடல்_பட்டை", "தேடல்_பட்டை(தேடல்_குறிப்பு: \"தேடுங்கள்\")",
          "தேடலுக்கான பெட்டி: கண்ணாடிக் குறியும் அழிக்கும் குறியும் கொண்டது.", "search bar, search box",
-         kForm, "", kSearchTrap},
+         kFormApp, "", kSearchTrap},
         {WordKind::Widget, "தேடுபொறி", "தேடுபொறி(குறிப்பு: \"தேடுங்கள்\")", "தேடல்_பட்டை என்பதன் மறுபெயர்.",
-         "search bar, search field", kForm, "", kSearchTrap},
+         "search bar, search field", kFormApp, "", kSearchTrap},
     };
     return words;
 }

@@ -5,7 +5,7 @@ namespace companion {
 
 namespace {
 
-constexpr std::string_view kCounter = R"(வலைதளம் எண்ணி(
+constexpr std::string_view kCounterApp = R"(வலைதளம் எண்ணி(
     தலைமை(
         இணைய_தலைப்பு: "எண்ணி"
         பின்னணி: "#FFF8E7"
@@ -26,7 +26,7 @@ constexpr std::string_view kCounter = R"(வலைதளம் எண்ணி(
 )
 )";
 
-constexpr std::string_view kPages = R"(வலைதளம் முதற்பக்கம்(
+constexpr std::string_view kPagesApp = R"(வலைதளம் முதற்பக்கம்(
     தலைமை(
         இணைய_தலைப்பு: "முகப்பு"
         பக்கம்: "முகப்பு"
@@ -59,39 +59,39 @@ constexpr std::string_view kPages = R"(வலைதளம் முதற்ப�
 
 }  // namespace
 
-const WordTable& sectionWords() {
-    static const WordTable words = {
+const ApplicationWords& applicationSections() {
+    static const ApplicationWords words = {
         {WordKind::Application, "வலைதளம்", "வலைதளம் பெயர்( தலைமை(...) குமரி(...) வரையறை(...) )",
          "உலாவியில் ஓடும் ஒரு செயலி. கோப்பில் இது இருந்தால் நிரல் வலைச்செயலியாகும்; பல இருந்தால் "
          "ஒவ்வொன்றும் ஒரு பக்கம்.",
-         "app, web app, application, website", kCounter, "",
+         "app, web app, application, website", kCounterApp, "",
          "தலைமை, குமரி, வரையறை மூன்றும் வேண்டும், வெறுமையாகவேனும். வலைதளத்துக்கு வெளியே எழுதும் "
          "கூற்றுகள் ஓடா; அவற்றை வரையறைக்குள் எழுதுங்கள்."},
         {WordKind::Application, "தலைமை", "தலைமை( இணைய_தலைப்பு: \"...\", பின்னணி: \"#FFFFFF\" )",
-         "பக்கத்தைப் பற்றிய செய்திகள்: தலைப்பு, சின்னம், பின்னணி, பெயர்.", "head, header, metadata", kCounter,
-         "",
+         "பக்கத்தைப் பற்றிய செய்திகள்: தலைப்பு, சின்னம், பின்னணி, பெயர்.", "head, header, metadata",
+         kCounterApp, "",
          "தெரியாத பெயருடைய பண்பை எழுதினால் எதுவும் சொல்லாமல் விட்டுவிடும்; எழுத்துப்பிழையைக் "
          "கவனியுங்கள்."},
         {WordKind::Application, "குமரி", "குமரி( ஓர்_உறுப்பு(...) )",
          "திரையில் தெரிவது. உள்ளே ஒரே ஓர் உறுப்பு நிற்கும்; பலவற்றைக் காட்ட அவற்றை ஒரு "
          "நெடுவரிசைக்குள் வையுங்கள்.",
-         "body, ui, screen", kCounter, "",
+         "body, ui, screen", kCounterApp, "",
          "இரண்டாவது உறுப்பை நேராக எழுதினால் ')' இல்லை என்ற பிழை வரும்."},
         {WordKind::Application, "வரையறை", "வரையறை( கூற்றுகள் )",
          "செயலியின் மாறிகளும் செயல்களும். செயலி தொடங்கும்போது ஒருமுறை ஓடும்; எல்லாப் பக்கங்களின் "
          "வரையறைகளும் அப்போதே ஓடும்.",
-         "definitions, logic, state", kCounter, "",
+         "definitions, logic, state", kCounterApp, "",
          "பக்கம் மாறி வரும்போது மீண்டும் ஓடாது. உறுப்புகளில் பயன்படும் மாறிகளுக்கு முதல் மதிப்பை "
          "இங்கே கொடுங்கள்."},
         {WordKind::Application, "செல்க", "செல்க(\"பக்கத்தின் பெயர்\")",
          "வேறொரு பக்கத்துக்குப் போகும். பக்கத்தின் பெயர் அதன் தலைமையில் 'பக்கம்:' என்று எழுதியது.",
-         "go, navigate, goto, open page", kPages, "",
+         "go, navigate, goto, open page", kPagesApp, "",
          "அந்தப் பெயரில் பக்கம் இல்லையென்றால் வெறும் திரைதான் தெரியும். பெயரை எழுத்துக்கு "
          "எழுத்து அப்படியே எழுதுங்கள்."},
         {WordKind::Application, "புதுப்பி", "புதுப்பி()",
          "மாறியதைத் திரையில் காட்டச் சொல்லும். திரை ஒவ்வொரு நொடியும் பலமுறை தானாகவே வரையப்படும்; "
          "எனவே இதை எழுதாவிட்டாலும் மாற்றம் தெரியும்.",
-         "refresh, update, set state, redraw", kCounter, "", ""},
+         "refresh, update, set state, redraw", kCounterApp, "", ""},
     };
     return words;
 }

@@ -5,7 +5,7 @@ namespace companion {
 
 namespace {
 
-constexpr std::string_view kShares = R"(வலைதளம் இடப்பங்கு(
+constexpr std::string_view kSharesApp = R"(வலைதளம் இடப்பங்கு(
     தலைமை(இணைய_தலைப்பு: "இடப்பங்கு")
     குமரி(
         நெடுவரிசை(இடைவெளி: 0)(
@@ -26,7 +26,7 @@ constexpr std::string_view kShares = R"(வலைதளம் இடப்பங
 )
 )";
 
-constexpr std::string_view kPadding = R"(வலைதளம் ஓரம்(
+constexpr std::string_view kPaddingApp = R"(வலைதளம் ஓரம்(
     தலைமை(இணைய_தலைப்பு: "ஓரம்")
     குமரி(
         நெடுவரிசை(
@@ -52,38 +52,38 @@ constexpr std::string_view kPaddingTrap =
 
 }  // namespace
 
-const WordTable& spaceWidgets() {
-    static const WordTable words = {
+const ApplicationWords& spaceWidgets() {
+    static const ApplicationWords words = {
         {WordKind::Widget, "இவெ", "இவெ(உயரம்: 20)",
          "உறுப்புகளுக்கு இடையில் வெற்று இடம். நெடுவரிசையில் உயரமும் கிடைவரிசையில் அகலமும் கணக்கில் "
          "வரும்.",
-         "gap, space, sized box, margin", kShares, "",
+         "gap, space, sized box, margin", kSharesApp, "",
          "நெடுவரிசைக்குள் அகலம் எழுதினாலோ கிடைவரிசைக்குள் உயரம் எழுதினாலோ இடம் விடாது."},
         {WordKind::Widget, "வெற்றிடம்", "வெற்றிடம்()",
          "வரிசையில் மீதமிருக்கும் இடத்தை எடுத்துக்கொள்ளும். இரு உறுப்புகளுக்கு இடையில் வைத்தால் அவை "
          "இரு ஓரங்களுக்கும் போகும்.",
-         "spacer, fill, empty space", kShares, "",
+         "spacer, fill, empty space", kSharesApp, "",
          "இடம் மீதமிருக்க வரிசைக்கு ஓர் அளவு வேண்டும்; பக்கத்தின் முதல் வரிசைக்கு அது திரையளவு."},
         {WordKind::Widget, "விரிவாக்கம்", "விரிவாக்கம்( உறுப்பு )",
          "வரிசையில் மீதமிருக்கும் இடத்தில் ஒரு பங்கை உள்ளிருக்கும் உறுப்புக்குக் கொடுக்கும்.",
-         "expanded, grow, fill", kShares, "",
+         "expanded, grow, fill", kSharesApp, "",
          "கிடைவரிசையில் உறுப்பு அந்த அகலத்துக்கு விரியும்; நெடுவரிசையில் இடம் மட்டும் விடப்படும், உறுப்பு "
          "விரியாது. முதல் உறுப்பு மட்டுமே தெரியும்."},
         {WordKind::Widget, "நெகிழ்வு", "நெகிழ்வு(பங்கு: 2, உறுப்பு)",
-         "விரிவாக்கம் போன்றது; எத்தனை பங்கு என்றும் சொல்லலாம்.", "flexible, flex, weight", kShares, "",
+         "விரிவாக்கம் போன்றது; எத்தனை பங்கு என்றும் சொல்லலாம்.", "flexible, flex, weight", kSharesApp, "",
          "பங்கு தவிர வேறு எந்தப் பண்பையும் எடுத்துக்கொள்ளாது. முதல் உறுப்பு மட்டுமே தெரியும்."},
         {WordKind::Widget, "பங்கு", "பங்கு(பங்கு: 2, உறுப்பு)",
          "வரிசையின் உறுப்பாக எழுதினால் நெகிழ்வு என்பதே. நெகிழ்வுக்குள் பண்பாக எழுதினால் எத்தனை பங்கு "
          "என்பது.",
-         "share, flex factor", kShares, "", ""},
+         "share, flex factor", kSharesApp, "", ""},
         {WordKind::Widget, "பிரிப்பான்", "பிரிப்பான்(அகலம்: 300, நிறம்: \"#E36414\")",
-         "உறுப்புகளைப் பிரிக்கும் ஒரு கிடைக்கோடு.", "divider, separator, line, hr", kShares, "",
+         "உறுப்புகளைப் பிரிக்கும் ஒரு கிடைக்கோடு.", "divider, separator, line, hr", kSharesApp, "",
          "இதை நெடுவரிசை, பட்டியல்_காட்சி போன்ற வரிசைகளுக்குள் மட்டும் எழுதுங்கள்; பக்கத்துக்குள்ளோ "
          "பெட்டிக்குள்ளோ நேராக எழுதினால் உறுப்பாகாது."},
         {WordKind::Widget, "உள்_இவெ", "உள்_இவெ()( உறுப்பு )", kPaddingSummary, "padding, inset",
-         kPadding, "", kPaddingTrap},
+         kPaddingApp, "", kPaddingTrap},
         {WordKind::Widget, "உள்_இவே", "உள்_இவே()( உறுப்பு )", kPaddingSummary, "padding, inset",
-         kPadding, "", kPaddingTrap},
+         kPaddingApp, "", kPaddingTrap},
     };
     return words;
 }

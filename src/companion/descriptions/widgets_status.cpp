@@ -5,7 +5,7 @@ namespace companion {
 
 namespace {
 
-constexpr std::string_view kStates = R"(வலைதளம் நிலவரம்(
+constexpr std::string_view kStatesApp = R"(வலைதளம் நிலவரம்(
     தலைமை(இணைய_தலைப்பு: "நிலவரம்")
     குமரி(
         நெடுவரிசை(சீரமைப்பு: மையம், இடைவெளி: 20)(
@@ -21,7 +21,7 @@ constexpr std::string_view kStates = R"(வலைதளம் நிலவரம
 )
 )";
 
-constexpr std::string_view kTiles = R"(வலைதளம் தொடர்புகள்(
+constexpr std::string_view kTilesApp = R"(வலைதளம் தொடர்புகள்(
     தலைமை(இணைய_தலைப்பு: "தொடர்புகள்")
     குமரி(
         நெடுவரிசை(இடைவெளி: 8)(
@@ -39,25 +39,25 @@ constexpr std::string_view kTiles = R"(வலைதளம் தொடர்ப�
 
 }  // namespace
 
-const WordTable& statusWidgets() {
-    static const WordTable words = {
+const ApplicationWords& statusWidgets() {
+    static const ApplicationWords words = {
         {WordKind::Widget, "சுழல்_காட்டி", "சுழல்_காட்டி(style_அளவு: 56)",
-         "வேலை நடக்கிறது என்று சொல்லும் சுழலும் வளையம்.", "spinner, loading, circular progress", kStates,
-         "",
+         "வேலை நடக்கிறது என்று சொல்லும் சுழலும் வளையம்.", "spinner, loading, circular progress",
+         kStatesApp, "",
          "அளவு, தடிமன், நிறம் மூன்றையும் முன்னால் style_ சேர்த்து எழுதுங்கள்; இல்லையென்றால் "
          "எடுத்துக்கொள்ளப்படா. வரிசைகளுக்குள் மட்டும் எழுதுங்கள்."},
         {WordKind::Widget, "முன்னேற்றவரி", "முன்னேற்றவரி(மதிப்பு: 40)",
          "எவ்வளவு முடிந்தது என்று காட்டும் பட்டை; 100 என்றால் எல்லாம் முடிந்தது. மதிப்பு "
          "எழுதாவிட்டால் இங்கும் அங்கும் ஓடிக்கொண்டிருக்கும்.",
-         "progress bar, linear progress", kStates, "",
+         "progress bar, linear progress", kStatesApp, "",
          "நெடுவரிசை போன்ற வரிசைகளுக்குள் மட்டும் எழுதுங்கள்; பெட்டிக்குள் நேராக எழுதினால் தெரியாது."},
         {WordKind::Widget, "தகவல்பட்டை", "தகவல்பட்டை(செய்தி: \"...\")",
-         "ஒரு செய்தியைச் சொல்லும் பட்டை; பக்கத்திலேயே நிற்கும்.", "message bar, banner, info", kStates, "",
-         "தானாக மறையாது. சிறிது நேரம் காட்டி மறைய அறிவிப்பு_பட்டையைப் பயன்படுத்துங்கள்."},
+         "ஒரு செய்தியைச் சொல்லும் பட்டை; பக்கத்திலேயே நிற்கும்.", "message bar, banner, info", kStatesApp,
+         "", "தானாக மறையாது. சிறிது நேரம் காட்டி மறைய அறிவிப்பு_பட்டையைப் பயன்படுத்துங்கள்."},
         {WordKind::Widget, "பட்டியல்_உருப்படி",
          "பட்டியல்_உருப்படி(தலைப்பு: உரை(\"...\"), துணைத்_தலைப்பு: உரை(\"...\"))",
          "பட்டியலின் ஒரு வரி: இடதில் படம், நடுவில் தலைப்பு, அதன்கீழ் துணைத் தலைப்பு.",
-         "list tile, list item, row", kTiles, "",
+         "list tile, list item, row", kTilesApp, "",
          "தலைப்புக்கு உரை(...) என்ற உறுப்பைக் கொடுங்கள்; வெறும் மேற்கோள் தெரியாது."},
     };
     return words;

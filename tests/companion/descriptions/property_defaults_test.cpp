@@ -14,10 +14,10 @@ using companion::PropertyDescription;
 
 // ---- A default that is written out may be assigned once more ----
 
-using Values = std::map<std::string, std::string>;
+using KnownNumbers = std::map<std::string, std::string>;
 
 /// "  int r = 33, g = 150;"  ->  r: 33, g: 150. False for a line that does anything else.
-bool readNumbers(const std::string& line, Values& values) {
+bool readNumbers(const std::string& line, KnownNumbers& values) {
     static const std::regex whole(R"(\s*((float |int )?\w+ = -?[\d.]+f?[,;]\s*)+)");
     static const std::regex each(R"((\w+) = (-?[\d.]+f?)[,;])");
     if (line.find(" = ") == std::string::npos || line.find('(') != std::string::npos ||
@@ -34,9 +34,9 @@ bool readNumbers(const std::string& line, Values& values) {
 std::string withoutRepetitions(const std::string& text) {
     std::istringstream lines(text);
     std::string kept;
-    Values known;
+    KnownNumbers known;
     for (std::string line; std::getline(lines, line);) {
-        Values values;
+        KnownNumbers values;
         if (!readNumbers(line, values)) {
             kept += line + "\n";
             continue;

@@ -21,7 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 using companion::PropertyDescription;
 using companion::ValueKind;
-using Words = std::vector<std::string>;
+using PropertyWords = std::vector<std::string>;
 
 // ---- What is written behind a colon ----
 
@@ -67,7 +67,7 @@ const std::map<ValueKind, std::string> kCounts = {
     {ValueKind::Word, "text hexadecimal colour name colour name "},
 };
 
-std::string item(const std::string& word, const char* value) { return word + ": " + value; }
+std::string itemText(const std::string& word, const char* value) { return word + ": " + value; }
 
 // ---- What is read and isn't described, each with its reason ----
 
@@ -103,7 +103,7 @@ const Undescribed kUndescribed[] = {
 // ---- Which words there are ----
 
 /// Tamil, or as keys are in English: cols, h_gap, api_key.
-bool isKey(const std::string& word) {
+bool isPropertyKey(const std::string& word) {
     const bool isTamil = word.find('\xe0') != std::string::npos;
     return std::all_of(word.begin(), word.end(), [&](unsigned char byte) {
         return byte >= 0x80 || byte == '_' || (byte >= 'a' && byte <= 'z') ||
@@ -117,13 +117,13 @@ void addQuotedWords(const fs::path& file, std::set<std::string>& words) {
     const std::string text = readText(file.string());
     for (std::sregex_iterator match(text.begin(), text.end(), quoted), end; match != end; ++match) {
         const std::string word = (*match)[1];
-        if (isKey(word)) words.insert(word);
+        if (isPropertyKey(word)) words.insert(word);
     }
 }
 
 /// Every word that could be a property: those that the scanner and the web form know.
-const Words& allWords() {
-    static const Words all = [] {
+const PropertyWords& possibleWords() {
+    static const PropertyWords all = [] {
         std::set<std::string> words;
         for (const auto* table : {&WEB_KEYWORDS, &ANIMATION_KEYWORDS}) {
             for (const auto& row : *table) words.insert(row.first);
@@ -136,7 +136,7 @@ const Words& allWords() {
         }
         addQuotedWords(sources / "generator/database.cpp", words);
         words.insert({"style_அகலம்", "style_உயரம்"});
-        return Words(words.begin(), words.end());
+        return PropertyWords(words.begin(), words.end());
     }();
     return all;
 }
@@ -174,10 +174,10 @@ class Suspects {
 public:
     Suspects(const Shape& shape, std::string plain) : shape(shape), plain(std::move(plain)) {}
 
-    void lookFor(const Words& words, const char* value) {
+    void lookFor(const PropertyWords& words, const char* value) {
         if (words.empty()) return;
         std::string items;
-        for (const std::string& word : words) items += item(word, value) + ", ";
+        for (const std::string& word : words) items += itemText(word, value) + ", ";
         const auto text = becomes(shape, items);
         if (text == plain) return;
         if (words.size() == 1) {
@@ -186,8 +186,8 @@ public:
             return;
         }
         const auto middle = words.begin() + static_cast<std::ptrdiff_t>(words.size() / 2);
-        lookFor(Words(words.begin(), middle), value);
-        lookFor(Words(middle, words.end()), value);
+        lookFor(PropertyWords(words.begin(), middle), value);
+        lookFor(PropertyWords(middle, words.end()), value);
     }
 
     std::set<std::string> refused;
@@ -205,17 +205,17 @@ private:
     std::string plain;
 };
 
-Words wordsWithout(const Words& words, const std::set<std::string>& others) {
-    Words rest;
+PropertyWords wordsWithout(const PropertyWords& words, const std::set<std::string>& others) {
+    PropertyWords rest;
     std::copy_if(words.begin(), words.end(), std::back_inserter(rest),
                  [&](const std::string& word) { return others.count(word) == 0; });
     return rest;
 }
 
-/// Words that are read in `shape` with a number or another value. `refusedBefore` are words that
-/// other shapes refuse: tried apart, they cost least.
-std::set<std::string> readWords(const Shape& shape, const std::string& plain, const Words& words,
-                                std::set<std::string>& refusedBefore) {
+/// PropertyWords that are read in `shape` with a number or another value. `refusedBefore` are words
+/// that other shapes refuse: tried apart, they cost least.
+std::set<std::string> readWords(const Shape& shape, const std::string& plain,
+                                const PropertyWords& words, std::set<std::string>& refusedBefore) {
     Suspects withNumber(shape, plain);
     withNumber.lookFor(wordsWithout(words, refusedBefore), "37");
     for (const std::string& word : words) {
@@ -224,9 +224,9 @@ std::set<std::string> readWords(const Shape& shape, const std::string& plain, co
     refusedBefore.insert(withNumber.refused.begin(), withNumber.refused.end());
 
     std::set<std::string> read = withNumber.read;
-    const Words writable = wordsWithout(words, withNumber.refused);
+    const PropertyWords writable = wordsWithout(words, withNumber.refused);
     for (const char* value : {"\"அம்மா\"", "\"#123456\"", "மெய்", "மையம்", "[\"அ\"]", "உரை(\"கா\")"}) {
-        if (!becomes(shape, item("வேறுசொல்", value))) continue;  // nothing takes such a value
+        if (!becomes(shape, itemText("வேறுசொல்", value))) continue;  // nothing takes such a value
         Suspects suspects(shape, plain);
         suspects.lookFor(writable, value);
         read.insert(suspects.read.begin(), suspects.read.end());
@@ -245,15 +245,16 @@ TEST(Properties, AreLookedForInEveryWidget) {
 
 TEST(Properties, HoldWhateverAWidgetReads) {
     std::set<std::string> refusedBefore;
-    EXPECT_GT(allWords().size(), 120U);
+    EXPECT_GT(possibleWords().size(), 120U);
     for (const Shape& shape : allShapes()) {
         const auto plain = becomes(shape, "");
-        if (!becomes(shape, item("வேறுசொல்", "37"))) {  // Such a place takes one property, or none.
+        if (!becomes(shape,
+                     itemText("வேறுசொல்", "37"))) {  // Such a place takes one property, or none.
             EXPECT_TRUE(shape.block == "()" || shape.widget == "உள்_இவெ") << shape.source;
             continue;
         }
-        Words open;
-        for (const std::string& word : allWords()) {
+        PropertyWords open;
+        for (const std::string& word : possibleWords()) {
             if (!isDescribed(shape, word) && !isUndescribed(shape, word)) open.push_back(word);
         }
         for (const std::string& word : readWords(shape, *plain, open, refusedBefore)) {
@@ -270,7 +271,7 @@ TEST(Properties, AreMissingOnlyWhereTheyAreRead) {
         const auto plain = becomes(*shape, "");
         const bool isRead =
             std::any_of(std::begin(kForms), std::end(kForms), [&](const ValueForm& form) {
-                const auto text = becomes(*shape, item(row.word, form.value));
+                const auto text = becomes(*shape, itemText(row.word, form.value));
                 return text && text != plain;
             });
         EXPECT_TRUE(isRead) << row.widget << " " << row.word << ": " << row.reason;
@@ -279,7 +280,7 @@ TEST(Properties, AreMissingOnlyWhereTheyAreRead) {
 
 // ---- What is described is read ----
 
-struct Probe {
+struct PropertyPlace {
     const PropertyDescription* row;
     const Shape* shape;
 };
@@ -287,8 +288,8 @@ struct Probe {
 constexpr const char* kVideo = "பின்னணிகாணொளி";  ///< Read only of a file that is there: see Head.
 
 /// Every property in every place.
-std::vector<Probe> allProbes() {
-    std::vector<Probe> probes;
+std::vector<PropertyPlace> allPlaces() {
+    std::vector<PropertyPlace> probes;
     for (const PropertyDescription& row : companion::propertyDescriptions()) {
         for (const std::string_view widget : companion::listedWords(row.widgets)) {
             const Shape* shape = shapeOf(widget, row.block);
@@ -306,8 +307,8 @@ std::vector<Probe> allProbes() {
 std::string countingForms(const Shape& shape, const std::string& word) {
     std::string names;
     for (const ValueForm& form : kForms) {
-        const auto text = becomes(shape, item(word, form.value));
-        if (text && text != becomes(shape, item(word, form.other)) &&
+        const auto text = becomes(shape, itemText(word, form.value));
+        if (text && text != becomes(shape, itemText(word, form.other)) &&
             text != becomes(shape, form.value)) {
             names += std::string(form.name) + " ";
         }
@@ -317,20 +318,21 @@ std::string countingForms(const Shape& shape, const std::string& word) {
 
 TEST(Properties, AreReadWithTheValuesOfTheirKind) {
     std::set<std::string> common;
-    for (const auto& [row, shape] : allProbes()) {
+    for (const auto& [row, shape] : allPlaces()) {
         const std::string word(row->word);
         if (word == kVideo) continue;
         // What all widgets share is read by one function: its values are looked at once.
         const bool isCommon = companion::listedWords(row->widgets).size() > 20;
         if (isCommon && !common.insert(word).second) {
-            EXPECT_NE(becomes(*shape, item(word, "37")), becomes(*shape, item(word, "\"அ\"")))
+            EXPECT_NE(becomes(*shape, itemText(word, "37")),
+                      becomes(*shape, itemText(word, "\"அ\"")))
                 << shape->widget << " " << word;
             continue;
         }
         EXPECT_EQ(countingForms(*shape, word), kCounts.at(row->kind))
             << shape->widget << " " << shape->block << ": " << word;
         if (row->kind == ValueKind::Flag) {
-            const auto one = becomes(*shape, item(word, "1"));
+            const auto one = becomes(*shape, itemText(word, "1"));
             EXPECT_TRUE(one && one != becomes(*shape, "")) << shape->widget << " " << word;
         }
     }
@@ -357,21 +359,21 @@ TEST(Properties, OfAStyleAreReadUnderItsShortNameToo) {
 }
 
 /// Without its last line, the colour of the page around the frame.
-std::string drawn(const std::string& items) {
+std::string drawnHead(const std::string& items) {
     const auto text = becomes(*shapeOf("தலைமை", ""), items);
     if (!text) return "refused";
     return text->substr(0, text->rfind('\n'));
 }
 
 TEST(Head, DrawsABackgroundByItsNumberAlone) {
-    EXPECT_EQ(drawn("பின்னணி: \"சிவப்பு\""), drawn(""));
-    EXPECT_NE(drawn("பின்னணி: \"#FF0000\""), drawn(""));
+    EXPECT_EQ(drawnHead("பின்னணி: \"சிவப்பு\""), drawnHead(""));
+    EXPECT_NE(drawnHead("பின்னணி: \"#FF0000\""), drawnHead(""));
 }
 
 TEST(Head, ReadsAVideoThatIsThere) {
     const std::string path = std::string(POZHIL_ROOT) + "/README.md";
-    EXPECT_NE(drawn(std::string(kVideo) + ": \"" + path + "\"").find(path), std::string::npos);
-    EXPECT_EQ(drawn(std::string(kVideo) + ": \"இல்லாத.mp4\""), "refused");
+    EXPECT_NE(drawnHead(std::string(kVideo) + ": \"" + path + "\"").find(path), std::string::npos);
+    EXPECT_EQ(drawnHead(std::string(kVideo) + ": \"இல்லாத.mp4\""), "refused");
 }
 
 }  // namespace

@@ -24,16 +24,16 @@ using companion::PropertyDescription;
 using companion::ValueDescription;
 using companion::ValueGroup;
 using companion::WordKind;
-using WordSet = std::set<std::string, std::less<>>;
+using DescribedWords = std::set<std::string, std::less<>>;
 
-WordSet widgetsAndSections() {
-    WordSet words;
+DescribedWords widgetsAndSections() {
+    DescribedWords words;
     for (const Description& each : companion::widgetDescriptions()) words.emplace(each.word);
     return words;
 }
 
-WordSet valuesOf(ValueGroup group) {
-    WordSet words;
+DescribedWords valueWordsOf(ValueGroup group) {
+    DescribedWords words;
     for (const ValueDescription& value : companion::valueDescriptions()) {
         if (value.group == group) words.emplace(value.word);
     }
@@ -41,22 +41,22 @@ WordSet valuesOf(ValueGroup group) {
 }
 
 template <typename Each>
-WordSet setOf(const Each& words) {
-    return WordSet(words.begin(), words.end());
+DescribedWords describedSet(const Each& words) {
+    return DescribedWords(words.begin(), words.end());
 }
 
-bool isTamil(std::string_view text) {
+bool hasTamil(std::string_view text) {
     return text.find("\xe0\xae") != std::string_view::npos ||
            text.find("\xe0\xaf") != std::string_view::npos;
 }
 
-void expectSentences(std::string_view text, std::string_view word) {
-    EXPECT_TRUE(isTamil(text)) << word;
+void expectTamilSentences(std::string_view text, std::string_view word) {
+    EXPECT_TRUE(hasTamil(text)) << word;
     EXPECT_EQ(text.back(), '.') << word << ": " << text;
     EXPECT_EQ(text.find("  "), std::string_view::npos) << word << ": " << text;
 }
 
-// ---- WordSet ----
+// ---- DescribedWords ----
 
 TEST(Widgets, AreAllDescribedAsWidgets) {
     std::map<std::string_view, WordKind> kinds;
@@ -70,7 +70,7 @@ TEST(Widgets, AreAllDescribedAsWidgets) {
     EXPECT_GE(widgetWords().size(), 36U);
 }
 
-/// WordSet of the scanner that need no description, each with its reason.
+/// DescribedWords of the scanner that need no description, each with its reason.
 const std::map<std::string, const char*, std::less<>> kWithoutDescription = {
     {"எலிவேஷன்", "no source can write it: it has a letter that the scanner refuses"},
     {"கிஉருளும்பட்டை", "nothing reads it"},
@@ -91,7 +91,7 @@ const std::map<std::string, const char*, std::less<>> kWithoutDescription = {
 };
 
 TEST(Widgets, WordsOfTheScannerAreDescribed) {
-    WordSet described = widgetsAndSections();
+    DescribedWords described = widgetsAndSections();
     for (const PropertyDescription& row : companion::propertyDescriptions()) {
         described.emplace(row.word);
     }
@@ -112,15 +112,15 @@ TEST(Widgets, DescriptionsAreWhole) {
         EXPECT_NE(each.form.find(each.word), std::string_view::npos) << each.word;
         EXPECT_FALSE(each.english.empty()) << each.word;
         EXPECT_TRUE(each.prints.empty()) << each.word;
-        expectSentences(each.summary, each.word);
-        if (!each.trap.empty()) expectSentences(each.trap, each.word);
+        expectTamilSentences(each.summary, each.word);
+        if (!each.trap.empty()) expectTamilSentences(each.trap, each.word);
     }
 }
 
 // ---- Properties ----
 
 TEST(Widgets, PropertiesNameWordsThatAreDescribed) {
-    const WordSet words = widgetsAndSections();
+    const DescribedWords words = widgetsAndSections();
     for (const PropertyDescription& row : companion::propertyDescriptions()) {
         const bool isBlock = row.block.empty() || row.block == "()";
         EXPECT_TRUE(isBlock || words.count(row.block) != 0) << row.word << ": " << row.block;
@@ -141,8 +141,8 @@ TEST(Widgets, PropertiesAreDescribedOnceForEachPlace) {
         EXPECT_FALSE(row.value.empty()) << row.word;
         EXPECT_FALSE(row.defaultValue.empty()) << row.word;
         EXPECT_FALSE(row.english.empty()) << row.word;
-        expectSentences(row.summary, row.word);
-        if (!row.trap.empty()) expectSentences(row.trap, row.word);
+        expectTamilSentences(row.summary, row.word);
+        if (!row.trap.empty()) expectTamilSentences(row.trap, row.word);
     }
 }
 
@@ -165,17 +165,17 @@ TEST(Widgets, PropertiesAreFoundByTheirWidget) {
 // ---- Values ----
 
 TEST(Values, OfColoursAndAlignmentsAreThoseOfTheirTables) {
-    EXPECT_EQ(valuesOf(ValueGroup::Colour), setOf(colourNames()));
-    EXPECT_EQ(valuesOf(ValueGroup::Alignment), setOf(alignmentWords()));
+    EXPECT_EQ(valueWordsOf(ValueGroup::Colour), describedSet(colourNames()));
+    EXPECT_EQ(valueWordsOf(ValueGroup::Alignment), describedSet(alignmentWords()));
     EXPECT_FALSE(colourNames().empty());
     EXPECT_FALSE(alignmentWords().empty());
 }
 
 /// What `pattern` finds in `text`.
-WordSet found(std::string_view text, const char* pattern) {
+DescribedWords foundBy(std::string_view text, const char* pattern) {
     const std::regex row(pattern);
     const std::string copy(text);
-    WordSet words;
+    DescribedWords words;
     for (std::sregex_iterator match(copy.begin(), copy.end(), row), end; match != end; ++match) {
         words.insert((*match)[1]);
     }
@@ -183,12 +183,12 @@ WordSet found(std::string_view text, const char* pattern) {
 }
 
 TEST(Values, OfCurvesAreThoseOfTheProgram) {
-    const WordSet curves = found(emitted::animation, "\\{\"([^\"]+)\",");
+    const DescribedWords curves = foundBy(emitted::animation, "\\{\"([^\"]+)\",");
     EXPECT_GT(curves.size(), 50U);
-    EXPECT_EQ(valuesOf(ValueGroup::Curve), curves);
+    EXPECT_EQ(valueWordsOf(ValueGroup::Curve), curves);
 }
 
-bool canBeWritten(const std::string& word) {
+bool canBeScanned(const std::string& word) {
     try {
         Lexer(word, "test.பொழில்").tokenize();
         return true;
@@ -200,12 +200,12 @@ bool canBeWritten(const std::string& word) {
 /// A trigger is written as a text, so any is read; one that no source can write as a word isn't
 /// told of.
 TEST(Values, OfTriggersAreThoseOfTheProgram) {
-    WordSet triggers = found(widget_templates::animation, "aCond == \"([^\"]+)\"");
-    triggers.merge(found(emitted::web_boilerplate, "condition == \"([^\"]+)\""));
+    DescribedWords triggers = foundBy(widget_templates::animation, "aCond == \"([^\"]+)\"");
+    triggers.merge(foundBy(emitted::web_boilerplate, "condition == \"([^\"]+)\""));
     for (auto trigger = triggers.begin(); trigger != triggers.end();) {
-        trigger = canBeWritten(*trigger) ? std::next(trigger) : triggers.erase(trigger);
+        trigger = canBeScanned(*trigger) ? std::next(trigger) : triggers.erase(trigger);
     }
-    EXPECT_EQ(valuesOf(ValueGroup::Trigger), triggers);
+    EXPECT_EQ(valueWordsOf(ValueGroup::Trigger), triggers);
 }
 
 TEST(Values, AreDescribedWhole) {
@@ -213,7 +213,7 @@ TEST(Values, AreDescribedWhole) {
     for (const ValueDescription& value : companion::valueDescriptions()) {
         EXPECT_TRUE(words.insert(value.word).second) << value.word << " stands twice";
         EXPECT_FALSE(value.english.empty()) << value.word;
-        expectSentences(value.summary, value.word);
+        expectTamilSentences(value.summary, value.word);
     }
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 using companion::Description;
 
-bool readNoModule(const std::string&, std::string&) { return false; }
+bool withoutModules(const std::string&, std::string&) { return false; }
 
 TEST(WidgetExamples, ShowTheirWord) {
     for (const Description& each : companion::widgetDescriptions()) {
@@ -23,10 +23,10 @@ TEST(WidgetExamples, AreRight) {
     for (const Description& each : companion::widgetDescriptions()) {
         if (!seen.insert(each.example).second) continue;
         const companion::SourceText source("காட்டு.பொழில்", std::string(each.example));
-        const companion::CompiledSource compiled(source, readNoModule);
+        const companion::CompiledSource compiled(source, withoutModules);
         EXPECT_TRUE(compiled.isParsed()) << each.word;
         if (compiled.refused) ADD_FAILURE() << each.word << ": " << compiled.refused->message;
-        for (const auto& finding : companion::checkSource(source, readNoModule)) {
+        for (const auto& finding : companion::checkSource(source, withoutModules)) {
             if (finding.severity == companion::Severity::Hint) continue;
             ADD_FAILURE() << each.word << ": " << finding.line << ": " << finding.message;
         }

@@ -7,9 +7,9 @@
 
 namespace {
 
-const std::string kMark = "⋯";
+const std::string kItemsMark = "⋯";
 
-std::string replaced(std::string text, const std::string& mark, const std::string& by) {
+std::string replacedOnce(std::string text, const std::string& mark, const std::string& by) {
     text.replace(text.find(mark), mark.size(), by);
     return text;
 }
@@ -21,7 +21,7 @@ bool isOfRows(const std::string& widget) {
 
 /// A widget stands in a stack, which reads most of its children.
 std::string applicationOf(const Shape& shape, const std::string& items) {
-    const std::string widget = replaced(shape.source, kMark, items);
+    const std::string widget = replacedOnce(shape.source, kItemsMark, items);
     if (shape.widget == "தலைமை") {
         return "வலைதளம் சோதனை(\n" + widget + "\nகுமரி(உரை(\"அ\"))\nவரையறை()\n)\n";
     }
