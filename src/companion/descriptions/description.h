@@ -73,9 +73,4 @@ const std::vector<Description>& widgetDescriptions();
 const std::vector<PropertyDescription>& propertyDescriptions();
 const std::vector<ValueDescription>& valueDescriptions();
 
-/// The properties that are written in a widget, in the order of their table.
-std::vector<const PropertyDescription*> propertiesOf(std::string_view widget);
-/// The words of a text with commas: "if, when" are two.
-std::vector<std::string_view> listedWords(std::string_view list);
-
 }  // namespace companion

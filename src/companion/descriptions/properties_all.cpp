@@ -2,6 +2,7 @@
 #include <stdexcept>
 
 #include "companion/descriptions/properties_families.h"
+#include "companion/descriptions/properties_of.h"
 
 namespace companion {
 

@@ -5,7 +5,7 @@
 #include <regex>
 #include <sstream>
 
-#include "companion/descriptions/description.h"
+#include "companion/descriptions/properties_of.h"
 #include "companion/descriptions/widget_probe.h"
 
 namespace {

@@ -10,7 +10,7 @@
 #include <regex>
 #include <set>
 
-#include "companion/descriptions/description.h"
+#include "companion/descriptions/properties_of.h"
 #include "companion/descriptions/widget_probe.h"
 #include "lexer/word_tables.h"
 #include "support/case_files.h"

@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "companion/descriptions/description.h"
+#include "companion/descriptions/properties_of.h"
 #include "companion/refusal.h"
 #include "emitted_text.h"
 #include "lexer/lexer.h"
