@@ -5,16 +5,12 @@
 #include "companion/check/habits.h"
 #include "companion/check/names_letters.h"
 #include "companion/check/tree_walk.h"
+#include "driver/phases.h"
 #include "syntax/application.h"
 
 namespace companion {
 
 namespace {
-
-bool isAWebProgram(const Program& program) {
-    return std::any_of(program.statements.begin(), program.statements.end(),
-                       [](const auto& node) { return nodeAs<WebAppNode>(node.get()) != nullptr; });
-}
 
 /// "x => name(x)", with as many parameters as the function has.
 std::string lambdaFor(const std::string& name, std::size_t parameters) {
@@ -118,7 +114,7 @@ std::set<std::string> namesGivenInFunctions(const NameUses& uses) {
 
 /// Reads at the top level that nothing can have gone before.
 void checkEarlyNames(const HabitCheck& check) {
-    if (isAWebProgram(check.compiled.program)) return;
+    if (holdsWebApp(check.compiled.program)) return;
     const TopLevelOrder order = orderOf(check.compiled.program);
     const std::set<std::string> elsewhere = namesGivenInFunctions(check.uses);
     for (const NameRead& read : check.uses.reads) {
@@ -145,7 +141,7 @@ bool isDefinition(const Statement& node) {
 }
 
 void checkLeftOutStatements(const HabitCheck& check) {
-    if (!isAWebProgram(check.compiled.program)) return;
+    if (!holdsWebApp(check.compiled.program)) return;
     for (const auto& statement : check.compiled.program.statements) {
         if (statement == nullptr || isDefinition(*statement)) continue;
         check.add("துணை-507", check.compiled.headOf(*statement));

@@ -5,6 +5,7 @@
 #include "companion/check/habits.h"
 #include "companion/check/names_letters.h"
 #include "companion/check/tree_walk.h"
+#include "driver/phases.h"
 #include "syntax/application.h"
 #include "ui/properties.h"
 
@@ -40,6 +41,14 @@ std::string inputAdvice(const HabitCheck& check, const std::string& object,
     return "உரைபெட்டி(அடையாளம்: \"" + object + "\") என்று ஒரு பெட்டியைக் 'குமரி' பகுதியில் சேருங்கள்.";
 }
 
+/// True for a name that is none of a page elsewhere: a file of functions alone may be meant for
+/// one.
+bool isKnownHere(const HabitCheck& check, const std::string& name) {
+    return holdsWebApp(check.compiled.program) || isReceiverName(name) ||
+           check.uses.assigned.count(name) != 0 || check.uses.parameters.count(name) != 0 ||
+           check.uses.loopVariables.count(name) != 0;
+}
+
 /// Other widgets than text boxes show an error too.
 bool showsError(const std::string& member) { return member == "பிழைசெய்தி" || member == "பிழை_அழி"; }
 
@@ -51,6 +60,7 @@ void checkInput(const HabitCheck& check, const GetExpression& access) {
         if (showsError(access.name.text)) return;
         return check.add("துணை-536", check.compiled.rangeOf(access), {object->name});
     }
+    if (!isKnownHere(check, object->name)) return;
     check.add("துணை-533", check.compiled.rangeOf(access),
               {object->name, access.name.text, inputAdvice(check, object->name, access.name.text)});
 }
