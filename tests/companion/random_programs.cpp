@@ -135,7 +135,7 @@ private:
             case 3:
                 return "எண்(" + operand(onceIn(2) ? ValueKind::Whole : ValueKind::Decimal, level) +
                        ")";
-            case 4: return "குறை " + atom(ValueKind::Whole);
+            case 4: return "குறை " + (onceIn(6) ? atom(ValueKind::Whole) : oneOf(kWholes));
             case 5: return element(level);
             case 6: return call(ValueKind::Whole, level);
             case 7: return chosen(ValueKind::Whole, level);
