@@ -80,7 +80,8 @@ make_objects() {
     local new="$objects/web.new"
     mkdir -p "$new" &&
         em++ -c src/error_handler.cpp -o "$new/error_handler_web.o" -std=c++17 -Iஉள்ளடக்கம் &&
-        em++ -x c -c "$sources/nanovg.c" -o "$new/nanovg_web.o" -O2 -I"$sources" &&
+        em++ -x c -c "$sources/nanovg.c" -o "$new/nanovg_web.o" -O2 -I"$sources" \
+            "-fmacro-prefix-map=$sources/=" &&
         mv -f "$new"/*.o "$objects" && rmdir "$new"
 }
 
