@@ -18,11 +18,11 @@ constexpr const char* kPackedEndings[] = {
 };
 
 /// To em++ an "@" divides a name from the one that the program sees, and two are one of the name's
-/// own; an argument that begins with one is a file of arguments, whatever stands before it.
-std::string preloadFlag(const std::string& path) {
-    std::string name = path.rfind('@', 0) == 0 ? "./" : "";
+/// own.
+std::string withoutDivision(const std::string& path) {
+    std::string name;
     for (const char byte : path) name.append(byte == '@' ? 2 : 1, byte);
-    return " --preload-file " + asOneWord(name);
+    return name;
 }
 
 bool isUnderAssets(const std::string& path) { return path.rfind("assets/", 0) == 0; }
@@ -76,6 +76,13 @@ std::string base64_encode_logo(const std::vector<unsigned char>& bytes) {
         }
     }
     return text;
+}
+
+/// An argument that begins with an "@" is a file of arguments, whatever stands before it.
+std::string preloadFlag(const std::string& path, const std::string& name) {
+    std::string argument = (path.rfind('@', 0) == 0 ? "./" : "") + withoutDivision(path);
+    if (!name.empty()) argument += "@" + withoutDivision(name);
+    return " --preload-file " + asOneWord(argument);
 }
 
 std::string preloadFlags(const Program& program) {

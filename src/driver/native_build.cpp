@@ -25,7 +25,10 @@ void buildReportObject(const std::string& appDirectory, const std::string& objec
                 inQuotes(object) + " -std=c++17 -I" + inQuotes(includeDirectory));
 }
 
-bool compileProgram(const NativeBuild& build, const std::string& freshExecutable) {
+}  // namespace
+
+bool compileProgram(const NativeBuild& build, const std::string& executable,
+                    const std::string& options) {
     if (!isInstalled("g++")) {
         tellOfMissingTool("g++", "g++");
         return false;
@@ -39,14 +42,12 @@ bool compileProgram(const NativeBuild& build, const std::string& freshExecutable
 
     const int status =
         run_command("g++ " + inQuotes(source) + " " + inQuotes(object) + " -o " +
-                    inQuotes(freshExecutable) + " -std=c++17 -I" + inQuotes(includeDirectory) +
-                    " -I" + inQuotes(includeDirectory + "/nanovg") +
-                    " -static -static-libstdc++ -static-libgcc -lm -lpthread");
+                    inQuotes(executable) + " -std=c++17 -I" + inQuotes(includeDirectory) + " -I" +
+                    inQuotes(includeDirectory + "/nanovg") +
+                    " -static -static-libstdc++ -static-libgcc -lm -lpthread" + options);
     if (status != 0) tellOfFullDisk({build.cacheDirectory, objectDirectory});
     return status == 0;
 }
-
-}  // namespace
 
 bool storeGeneratedText(const NativeBuild& build, const std::string& code) {
     const CacheTurn turn(build.cacheDirectory, kNativeLockName);

@@ -2,6 +2,7 @@
 
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 #include "driver/media.h"
 #include "driver/paths.h"
@@ -21,8 +22,6 @@ constexpr std::string_view kScriptMark = "SCRIPT";
 constexpr const char* kDefaultTitle = "பொழில் தளம்";
 constexpr const char* kDefaultIcon = "file-icon.png";
 constexpr const char* kDefaultBackground = "#ffffff";
-constexpr const char* kScriptTag =
-    "<script async type=\"text/javascript\" src=\"index.js\"></script>";
 
 constexpr const char* kLiveReloadHead = "\n        <script>\n            let currentVersion = ";
 constexpr const char* kLiveReloadTail =
@@ -89,14 +88,6 @@ std::string iconAddress(const std::string& path) {
            base64_encode_logo({bytes.begin(), bytes.end()});
 }
 
-void insertScript(std::string& page) {
-    if (holds(page, kScriptMark)) {
-        replaceMark(page, kScriptMark, Places::First, kScriptTag);
-    } else {
-        insertBeforeBodyEnd(page, std::string(kScriptTag) + "\n");
-    }
-}
-
 }  // namespace
 
 std::string extractHeaderProperty(const Program& program, std::string key) {
@@ -122,13 +113,28 @@ PageHead readPageHead(const Program& program) {
             extractHeaderProperty(program, "பின்னணி")};
 }
 
-std::string assemblePage(std::string page, const PageHead& head, int version) {
+std::string fillPageHead(std::string page, const PageHead& head) {
     replaceMark(page, kTitleMark, Places::First, orDefault(head.title, kDefaultTitle));
     if (holds(page, kIconMark)) {
         replaceMark(page, kIconMark, Places::First, iconAddress(head.icon));
     }
     replaceMark(page, kBackgroundMark, Places::All, orDefault(head.background, kDefaultBackground));
-    insertScript(page);
+    return page;
+}
+
+void insertScript(std::string& page, const std::string& address) {
+    const std::string tag =
+        "<script async type=\"text/javascript\" src=\"" + address + "\"></script>";
+    if (holds(page, kScriptMark)) {
+        replaceMark(page, kScriptMark, Places::First, tag);
+    } else {
+        insertBeforeBodyEnd(page, tag + "\n");
+    }
+}
+
+std::string assemblePage(std::string page, const PageHead& head, int version) {
+    page = fillPageHead(std::move(page), head);
+    insertScript(page, "index.js");
     insertBeforeBodyEnd(page, kLiveReloadHead + std::to_string(version) + kLiveReloadTail);
     return page;
 }

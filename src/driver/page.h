@@ -18,6 +18,12 @@ struct PageHead {
 
 PageHead readPageHead(const Program& program);
 
+/// The page with what the head says in its places.
+std::string fillPageHead(std::string page, const PageHead& head);
+
+/// Puts the tag of the script at `address` into its place, or in front of the body's end.
+void insertScript(std::string& page, const std::string& address);
+
 /// The finished page. `version` is the build that the page belongs to: once the server tells a
 /// greater one, the page reloads itself.
 std::string assemblePage(std::string page, const PageHead& head, int version);

@@ -73,14 +73,19 @@ bool reportFailedBuild(const WebBuild& build) {
 
 }  // namespace
 
+std::string webWords(const std::string& source, const std::string& includeDirectory,
+                     const std::string& objectDirectory, const std::string& preload,
+                     const std::string& output) {
+    return "em++ " + inQuotes(source) + " " + inQuotes(objectDirectory + "/error_handler_web.o") +
+           " " + inQuotes(objectDirectory + "/nanovg_web.o") + " -I" + inQuotes(includeDirectory) +
+           " -I" + inQuotes(includeDirectory + "/nanovg") + kFixedFlags + preload + " -o " +
+           inQuotes(output);
+}
+
 std::string webCommand(const std::string& source, const std::string& includeDirectory,
                        const std::string& objectDirectory, const std::string& preload,
                        const std::string& output) {
-    return inSilentBash(
-        "em++ " + inQuotes(source) + " " + inQuotes(objectDirectory + "/error_handler_web.o") +
-        " " + inQuotes(objectDirectory + "/nanovg_web.o") + " -I" + inQuotes(includeDirectory) +
-        " -I" + inQuotes(includeDirectory + "/nanovg") + kFixedFlags + preload + " -o " +
-        inQuotes(output));
+    return inSilentBash(webWords(source, includeDirectory, objectDirectory, preload, output));
 }
 
 bool buildWebApplication(const Program& program, const std::string& code, const WebBuild& build) {

@@ -17,8 +17,13 @@ struct WebBuild {
 /// Throws std::filesystem::filesystem_error if an old output file can't be removed.
 bool buildWebApplication(const Program& program, const std::string& code, const WebBuild& build);
 
+/// The words of em++ over the generated text `source`, each as a shell reads it. `preload` holds
+/// the flags of preloadFlags.
+std::string webWords(const std::string& source, const std::string& includeDirectory,
+                     const std::string& objectDirectory, const std::string& preload,
+                     const std::string& output);
+
 /// The em++ command over the generated text `source`, as a shell is given it: wrapped and silent.
-/// `preload` holds the flags of preloadFlags.
 std::string webCommand(const std::string& source, const std::string& includeDirectory,
                        const std::string& objectDirectory, const std::string& preload,
                        const std::string& output);

@@ -173,6 +173,11 @@ TEST_F(Preload, AnAtSignIsDoubled) {
               " --preload-file a@@2x.png --preload-file \"b@@@@c d.png\"");
 }
 
+TEST_F(Preload, AFileMayBeSeenUnderAnotherName) {
+    EXPECT_EQ(preloadFlag("a@b.ttf", "c@.ttf"), " --preload-file a@@b.ttf@c@@.ttf");
+    EXPECT_EQ(preloadFlag("@a b.ttf", "c.ttf"), " --preload-file \"./@@a b.ttf@c.ttf\"");
+}
+
 TEST_F(Preload, ANameThatBeginsWithAnAtSignIsNoFileOfArguments) {
     write("@a.png", "x");
     EXPECT_EQ(flags(images({"@a.png"})), " --preload-file ./@@a.png");
