@@ -23,5 +23,6 @@ int runFormat(const Arguments& arguments);
 int runRun(const Arguments& arguments);
 int runNew(const Arguments& arguments);
 int runExplain(const Arguments& arguments);
+int runPublish(const Arguments& arguments);
 
 }  // namespace companion

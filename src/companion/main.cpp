@@ -20,6 +20,8 @@ const Command kCommands[] = {
      companion::runNew},
     {"விளக்கு", "explain", "[சொல் அல்லது பிழை எண்]", "ஒரு சொல்லையோ பிழையையோ எடுத்துக்காட்டோடு விளக்கும்",
      companion::runExplain},
+    {"வெளியிடு", "publish", "கோப்பு கோப்புறை", "வலைதளத்தை எந்த வழங்கியிலும் இயங்கும் கோப்புறையாக எழுதும்",
+     companion::runPublish},
 };
 
 void printUsage(std::ostream& out) {
