@@ -38,7 +38,7 @@ constexpr ProgramFontRow kProgramFonts[] = {
 std::string find(const char* name, const std::vector<std::string>& folders) {
     if (name == nullptr) return "";
     for (const std::string& folder : folders) {
-        const std::string path = folder + "/" + name;
+        std::string path = folder + "/" + name;
         if (fileExists(path)) return path;
     }
     return "";

@@ -138,6 +138,7 @@ std::vector<ProgramFile> addProgram(std::vector<PublishedFile>& files, const Bui
 
 std::vector<FontFile> addFonts(std::vector<PublishedFile>& files, std::vector<PageFont> fonts) {
     std::vector<FontFile> added;
+    added.reserve(fonts.size());
     for (PageFont& font : fonts) {
         added.push_back({font.weight, add(files, font.name, std::move(font.content))});
     }
