@@ -146,6 +146,14 @@ TEST_F(PublishCommand, StopsAtMistakesOfTheSource) {
     EXPECT_FALSE(fs::exists(directory / "words"));
 }
 
+TEST_F(PublishCommand, StopsAtAMistakeThatACommentSilences) {
+    write("வேலை யில்/மலர்.பொழில்", "தொகை = அறியாதது(1)  ஃ துணை-200\n");
+    const ProcessResult result = publish("மலர்.பொழில்", "தளம்");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_TRUE(holds(result.err, "அறியாதது")) << result.err;
+    EXPECT_FALSE(fs::exists(work / fs::u8path("தளம்")));
+}
+
 TEST_F(PublishCommand, RefusesAForeignFolderBeforeItBuilds) {
     write("வேலை யில்/கவிதைகள்/முதல்.txt", "theirs");
     const ProcessResult result = publish("மலர்.பொழில்", "கவிதைகள்");

@@ -187,6 +187,10 @@ void publish(const SourceText& source, const std::string& folder) {
     std::cout << "🔎 நிரல் சரிபார்க்கப்படுகிறது...\n";
     refuseMistakes(source);
     const CompiledSource compiled(source, readFile);
+    // A comment can silence what the check says of it, but nothing comes of such a source.
+    if (compiled.refused) {
+        throw PublishFailure("வெளியிடப்படவில்லை: " + compiled.refused->message);
+    }
 
     const auto cacheDirectory = prepareCacheDirectory();
     if (!cacheDirectory) throw PublishFailure("");
