@@ -143,7 +143,7 @@ const PropertyWords& possibleWords() {
 
 /// A word with the style's prefix stands for the same word in any block of the widget, and
 /// `style_பின்னணி` for the button's own word too.
-bool isDescribed(const Shape& shape, const std::string& word) {
+bool hasDescription(const Shape& shape, const std::string& word) {
     const std::string plain = word.rfind("style_", 0) == 0 ? word.substr(6) : "";
     const auto rows = companion::propertiesOf(shape.widget);
     return std::any_of(rows.begin(), rows.end(), [&](const PropertyDescription* row) {
@@ -255,7 +255,7 @@ TEST(Properties, HoldWhateverAWidgetReads) {
         }
         PropertyWords open;
         for (const std::string& word : possibleWords()) {
-            if (!isDescribed(shape, word) && !isUndescribed(shape, word)) open.push_back(word);
+            if (!hasDescription(shape, word) && !isUndescribed(shape, word)) open.push_back(word);
         }
         for (const std::string& word : readWords(shape, *plain, open, refusedBefore)) {
             ADD_FAILURE() << shape.widget << " " << shape.block << ": " << word;
@@ -267,7 +267,7 @@ TEST(Properties, AreMissingOnlyWhereTheyAreRead) {
     for (const Undescribed& row : kUndescribed) {
         const Shape* shape = shapeOf(row.widget, row.block);
         ASSERT_NE(shape, nullptr) << row.widget;
-        EXPECT_FALSE(isDescribed(*shape, row.word)) << row.widget << " " << row.word;
+        EXPECT_FALSE(hasDescription(*shape, row.word)) << row.widget << " " << row.word;
         const auto plain = becomes(*shape, "");
         const bool isRead =
             std::any_of(std::begin(kForms), std::end(kForms), [&](const ValueForm& form) {
