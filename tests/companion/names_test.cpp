@@ -4,8 +4,10 @@
 #include <fstream>
 #include <regex>
 #include <set>
+#include <sstream>
 
 #include "companion/check/calls_builtins.h"
+#include "companion/check/check.h"
 #include "companion/check/compiled_source.h"
 #include "companion/check/names_english.h"
 #include "companion/check/names_letters.h"
@@ -119,6 +121,33 @@ TEST(EnglishWords, LeadToWordsOfTheLanguage) {
         EXPECT_NE(std::string(row->form).find(tamil), std::string::npos) << word;
     }
     EXPECT_EQ(companion::englishWord("மலர்"), nullptr);
+}
+
+// ---- Colours ----
+
+/// The colour that is advised for `name`; "" if nothing is said of it.
+std::string advisedColour(const std::string& name) {
+    const companion::SourceText source(
+        "test.பொழில்", "வலைதளம்(தலைமை() வரையறை() குமரி(பெட்டி(நிறம்: \"" + name + "\")))\n");
+    const auto findings = companion::checkSource(source, readFile);
+    if (findings.empty()) return "";
+    std::vector<std::string> parts;
+    std::istringstream message(findings[0].message);
+    for (std::string part; std::getline(message, part, '"');) parts.push_back(part);
+    return findings[0].code == "துணை-537" ? parts.at(3) : findings[0].code;
+}
+
+TEST(Colours, OfOtherLanguagesLeadToThoseOfThisOne) {
+    EXPECT_EQ(advisedColour("black"), "கருப்பு");
+    EXPECT_EQ(advisedColour("பச்சய்"), "பச்சை");
+    std::set<std::string> advised;
+    for (const char* name :
+         {"white", "red", "green", "blue", "yellow", "orange", "purple", "pink", "grey", "gray",
+          "brown", "skyblue", "gold", "silver", "lime", "navy"}) {
+        EXPECT_EQ(advisedColour(advisedColour(name)), "") << name;
+        advised.insert(advisedColour(name));
+    }
+    EXPECT_EQ(advised.size(), 15U) << "grey is written in two ways";
 }
 
 // ---- Input members ----

@@ -109,6 +109,7 @@ void checkWords(const CompiledSource& compiled, Findings& findings) {
     checkStatementWords(check);
     checkRefusedLine(check);
     checkEnumerations(check);
+    checkColours(check);
 }
 
 }  // namespace companion

@@ -40,5 +40,7 @@ struct WordCheck {
 
 /// A word more where the parser's report tells what it missed, and not what was meant.
 void checkRefusedLine(const WordCheck& check);
+/// Colours by names and numbers that come out black.
+void checkColours(const WordCheck& check);
 
 }  // namespace companion
