@@ -101,6 +101,10 @@ bool Findings::isLeftOutFor(const Entry& entry, const Entry& other) {
     const bool overlaps =
         entry.range.begin < other.range.end && other.range.begin < entry.range.end;
     if (overlaps && isSlip(other, entry)) return true;
+    const bool followsFromMark = other.code.rfind(kMarkCodes, 0) == 0 &&
+                                 entry.code.rfind(kMarkCodes, 0) != 0 &&
+                                 other.severity == Severity::Error;
+    if (overlaps && followsFromMark && entry.severity != Severity::Error) return true;
     const bool isSamePlace =
         entry.range.begin == other.range.begin && entry.range.end == other.range.end;
     const bool isMark = entry.code.rfind(kMarkCodes, 0) == 0;  // it is why the other stands there

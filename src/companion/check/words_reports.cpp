@@ -34,18 +34,6 @@ void adviseOnIndentation(const WordCheck& check, int first) {
     check.add("துணை-606", first);
 }
 
-/// அ == 5
-void adviseOnDoubledSign(const WordCheck& check, int first) {
-    for (int i = first; i + 1 < check.count() && i < check.endOfLine(first); i++) {
-        const bool isDoubled =
-            check.at(i).type == TokenType::EQUALS && check.at(i + 1).type == TokenType::EQUALS;
-        const Range one = check.compiled.rangeOfToken(i);
-        const Range other = check.compiled.rangeOfToken(i + 1);
-        if (!isDoubled || other.begin != one.end) continue;
-        return check.findings.add("துணை-607", {one.begin, other.end});
-    }
-}
-
 /// இல்லை: without an எனில் above it at the same distance.
 void adviseOnElse(const WordCheck& check, int first) {
     const Token& word = check.at(first);
@@ -66,7 +54,6 @@ struct Advice {
 };
 const Advice kAdvice[] = {
     {"பொழில்-201", adviseOnEquality},    {"பொழில்-202", adviseOnIndentation},
-    {"பொழில்-201", adviseOnDoubledSign}, {"பொழில்-202", adviseOnDoubledSign},
     {"பொழில்-201", adviseOnElse},        {"பொழில்-234", adviseOnLambda},
 };
 
