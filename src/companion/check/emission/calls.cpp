@@ -162,6 +162,10 @@ void EmissionWalk::addElement(const Expression& container, const Value& value) {
         }
         return;
     }
+    if (const auto* member = nodeAs<GetExpression>(&container)) {
+        knowledge.giveProperty(member->name.text, elements);
+        return;
+    }
     // Deeper than one level nothing is known of elements.
     if (const auto* element = nodeAs<IndexExpression>(&container)) {
         addElement(*element->object, anyOf(kAnyKind));

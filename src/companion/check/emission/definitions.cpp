@@ -219,7 +219,12 @@ void EmissionWalk::walkStructure(const StructDefinitionStatement& structure) {
 
 /// Written where an instance is made, so behind everything that may make one.
 void EmissionWalk::walkFields(const StructDefinitionStatement& structure) {
-    for (const auto& field : structure.fields) walk(*field->initializer);
+    for (const auto& field : structure.fields) {
+        knowledge.giveProperty(field->name, walk(*field->initializer).facts);
+    }
+    for (const auto& method : structure.methods) {
+        knowledge.giveProperty(method->name.text, {kFunction, kNoKinds});
+    }
 }
 
 void EmissionWalk::checkMethods(const StructDefinitionStatement& structure) {

@@ -293,7 +293,9 @@ Value EmissionWalk::walkMember(const GetExpression& access) {
         if (object.facts.kinds != kNoKinds && (object.facts.kinds & kObject) == 0) {
             tellStop("துணை-413", access, {textOf(*access.object), member});
         }
-        return anyOf(kAnyKind);
+        Value value = anyOf(kAnyKind);
+        value.facts = knowledge.property(member);
+        return value;
     }
     if (kind == VarType::Time && holds(kTimeParts, member)) {
         return valueOf(Cpp::Int, guessMember(access));
@@ -310,7 +312,11 @@ Value EmissionWalk::walkSetMember(const SetMemberExpression& assignment) {
     if (!isStatement) tell("துணை-338", assignment);
     if (!isViewState) walk(*assignment.object);
     const Value value = walk(*assignment.value);
-    if (isViewState) knowledge.give(assignment.name.text, value.facts);
+    if (isViewState) {
+        knowledge.give(assignment.name.text, value.facts);
+    } else {
+        knowledge.giveProperty(assignment.name.text, value.facts);
+    }
     return Value{};
 }
 

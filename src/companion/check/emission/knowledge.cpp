@@ -18,6 +18,13 @@ Facts Knowledge::local(const void* node) const {
     return isComplete ? kAnything : Facts{};
 }
 
+/// One that nothing in sight writes may be an input's, or is told when the program runs.
+Facts Knowledge::property(const std::string& name) const {
+    const auto found = properties.find(name);
+    if (found != properties.end()) return found->second;
+    return isComplete ? kAnything : Facts{};
+}
+
 /// A function without a return gives an empty value.
 Facts Knowledge::result(const std::string& name) const {
     const auto found = results.find(name);

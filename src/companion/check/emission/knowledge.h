@@ -22,6 +22,12 @@ public:
     Facts local(const void* node) const;
     void giveLocal(const void* node, const Facts& facts) { join(locals[node], facts); }
 
+    /// What a property of that name may hold, whichever object it is of.
+    Facts property(const std::string& name) const;
+    void giveProperty(const std::string& name, const Facts& facts) {
+        join(properties[name], facts);
+    }
+
     /// What the function `name` gives back.
     Facts result(const std::string& name) const;
     void giveResult(const std::string& name, const Facts& facts) { join(results[name], facts); }
@@ -42,6 +48,7 @@ private:
 
     std::unordered_map<std::string, Facts> variables;
     std::unordered_map<const void*, Facts> locals;
+    std::unordered_map<std::string, Facts> properties;
     std::unordered_map<std::string, Facts> results;
     std::unordered_set<std::string> tried;
     bool hasGrown = false;
