@@ -180,6 +180,8 @@ if [ "$what" = all ]; then
     measure_scanner
     measure_native_build
     printf '\n'
+    measure_apart build/bench/bench/bench_check
+    printf '\n'
     measure_apart bench/web_step.sh
 fi
 measure_programs

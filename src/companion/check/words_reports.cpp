@@ -53,8 +53,10 @@ struct Advice {
     void (*advise)(const WordCheck& check, int first);
 };
 const Advice kAdvice[] = {
-    {"பொழில்-201", adviseOnEquality},    {"பொழில்-202", adviseOnIndentation},
-    {"பொழில்-201", adviseOnElse},        {"பொழில்-234", adviseOnLambda},
+    {"பொழில்-201", adviseOnEquality},
+    {"பொழில்-202", adviseOnIndentation},
+    {"பொழில்-201", adviseOnElse},
+    {"பொழில்-234", adviseOnLambda},
 };
 
 }  // namespace
