@@ -228,12 +228,28 @@ TEST_F(PublishCommand, TakesTurns) {
     EXPECT_EQ(namesIn(work / fs::u8path("தளம்")).count("index.html"), 1U);
 }
 
-TEST_F(PublishCommand, GivesAProgramThatRunsByItself) {
-    write("வேலை யில்/கூட்டல்.பொழில்", "எண்ணிக்கை = 1\n");
-    write("bin/g++", "#!/bin/sh\nprintf '%s\\n' \"$@\" >'" + (directory / "words").u8string() +
-                         "'\n" + kReadOutput + "printf '#!/bin/sh\\necho வணக்கம்\\n' >\"$output\"\n");
-    fs::permissions(directory / "bin/g++", fs::perms::owner_all);
-    write("வீடு/திரட்டு/error_handler_native_linux.o", "");
+class PublishedProgram : public PublishCommand {
+protected:
+    /// g++ notes its words, and its output is a script that greets, unless `refusal` ends it.
+    void fakeNative(const std::string& refusal = "") const {
+        write("வேலை யில்/கூட்டல்.பொழில்", "எண்ணிக்கை = 1\n");
+        write("bin/g++", "#!/bin/sh\nprintf '%s\\n' \"$@\" >>'" + (directory / "words").u8string() +
+                             "'\n" + refusal + kReadOutput +
+                             "printf '#!/bin/sh\\necho வணக்கம்\\n' >\"$output\"\n");
+        fs::permissions(directory / "bin/g++", fs::perms::owner_all);
+        write("வீடு/திரட்டு/error_handler_native_linux.o", "");
+    }
+
+    /// The precompiled text stands beside the companion.
+    void warm() const {
+        fs::remove(home / fs::u8path("உள்ளடக்கம்"));
+        write("வீடு/உள்ளடக்கம்/nanovg/held_instances.h", "");
+        write("வீடு/src/warmed_header.h", "");
+    }
+};
+
+TEST_F(PublishedProgram, RunsByItself) {
+    fakeNative();
     const ProcessResult result = publish("கூட்டல்.பொழில்", "நிரல்கள்");
     ASSERT_EQ(result.exitCode, 0) << result.err;
     EXPECT_EQ(namesIn(work / fs::u8path("நிரல்கள்")),
@@ -242,6 +258,23 @@ TEST_F(PublishCommand, GivesAProgramThatRunsByItself) {
     for (const char* word : {"-O2\n", "-fwrapv\n", "-static\n"}) {
         EXPECT_TRUE(holds(read("words"), word)) << word;
     }
+    EXPECT_FALSE(holds(read("words"), "-include\n"));
+}
+
+TEST_F(PublishedProgram, IsMadeWithTheTextOfTheCompilersOwnBuilds) {
+    fakeNative();
+    warm();
+    ASSERT_EQ(publish("கூட்டல்.பொழில்", "நிரல்கள்").exitCode, 0);
+    EXPECT_TRUE(holds(read("words"), "-include\n" + home.u8string() + "/src/warmed_header.h\n"));
+}
+
+TEST_F(PublishedProgram, IsMadeWithoutWhereThatDoesNotFit) {
+    fakeNative("case \"$*\" in *-include*) echo 'does not fit' >&2; exit 1;; esac\n");
+    warm();
+    const ProcessResult result = publish("கூட்டல்.பொழில்", "நிரல்கள்");
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.err, "");
+    EXPECT_TRUE(fs::exists(work / fs::u8path("நிரல்கள்/கூட்டல்")));
 }
 
 }  // namespace
