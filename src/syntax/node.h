@@ -32,9 +32,10 @@ auto nodeAs(Base* node) {
     static_assert(std::is_final_v<Node>, "a base class needs dynamic_cast");
     using Result = std::conditional_t<std::is_const_v<Base>, const Node*, Node*>;
     if (node == nullptr) return static_cast<Result>(nullptr);
+    // By its address: one class has one type_info in a program. Its own == goes on to the names.
     Base& object = *node;
-    return typeid(object) == typeid(Node) ? static_cast<Result>(node)
-                                          : static_cast<Result>(nullptr);
+    return &typeid(object) == &typeid(Node) ? static_cast<Result>(node)
+                                            : static_cast<Result>(nullptr);
 }
 
 /// A whole source: owns the top-level statements. Not a node.

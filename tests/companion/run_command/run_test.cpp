@@ -157,7 +157,7 @@ TEST_F(Run, ExplainsHowAProgramBrokeDown) {
 
 TEST_F(Run, ExplainsAnExceptionThatNobodyCatches) {
     useRealCompiler();
-    write("a.பொழில்", "உ = \"உரை\"\nஅச்சிடு(\"தொடக்கம்\")\nஅச்சிடு(வர்க்கமூலம்(உ))\n");
+    write("a.பொழில்", "உ = எண்(\"2.5\")\nஅச்சிடு(\"தொடக்கம்\")\nஅச்சிடு(உ கழி 1)\n");
     const ProcessResult result = companion({"run", "a.பொழில்"});
     EXPECT_EQ(result.exitCode, 134);
     EXPECT_EQ(result.out, title + "தொடக்கம்\n");

@@ -401,7 +401,7 @@ TEST(Refusals, FieldsThatMakeStructuresBeyondTheStack) {
                   std::to_string(count - 1) + "()" + close + "\n";
     }
     source += "க = வகுப்பு399()\n";
-    runOnStack(8 * kMebibyte, [&] { EXPECT_THROW(generate(source), std::runtime_error); });
+    runOnStack(4 * kMebibyte, [&] { EXPECT_THROW(generate(source), std::runtime_error); });
 }
 
 TEST(Operators, UnknownWordIsRefusedAtLineZero) {

@@ -111,19 +111,19 @@ void EmissionWalk::checkArgument(const CallExpression& call, std::size_t index, 
     }
     if (refusesCast(node, value)) return;
     if (kinds == kNoKinds) return;
-    const std::vector<std::string> parts = {name, textOf(node)};
+    const auto parts = [&] { return std::vector<std::string>{name, textOf(node)}; };
     if (wanted == 'd' && isWithin(kinds, kWhole | kCount)) {
-        tellStop("துணை-401", node, parts);
+        tellStop("துணை-401", node, parts());
     } else if (wanted == 'd' && isWithin(kinds, kTexts)) {
-        tellStop("துணை-431", node, parts);
+        tellStop("துணை-431", node, parts());
     } else if (wanted == 'd' && (kinds & kDecimal) == 0) {
         requireNumber(node, value, kDecimal);
     } else if (wanted == 'w' && (kinds & kWhole) == 0) {
-        tellStop("துணை-411", node, parts);
+        tellStop("துணை-411", node, parts());
     } else if (wanted == 't' && (kinds & kWholeTexts) == 0) {
-        tellStop("துணை-410", node, parts);
+        tellStop("துணை-410", node, parts());
     } else if (wanted == 'm' && (kinds & kTime) == 0) {
-        tellStop("துணை-412", node, parts);
+        tellStop("துணை-412", node, parts());
     }
 }
 

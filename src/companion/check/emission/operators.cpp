@@ -69,6 +69,10 @@ bool canBeCondition(Cpp cpp) {
 
 }  // namespace
 
+void EmissionWalk::tellSides(const char* code, const BinaryExpression& binary) {
+    tell(code, binary, {textOf(*binary.left), textOf(*binary.right)});
+}
+
 Value EmissionWalk::walkBinary(const BinaryExpression& binary) {
     // A long chain leans to the left: it is walked from its inner end, without a call a link.
     std::vector<const BinaryExpression*> chain = {&binary};
@@ -114,11 +118,10 @@ Value EmissionWalk::operate(const BinaryExpression& binary, const Sides& sides) 
 void EmissionWalk::checkSum(const BinaryExpression& binary, const Sides& sides) {
     const Kinds left = sides.left.facts.kinds;
     const Kinds right = sides.right.facts.kinds;
-    const std::vector<std::string> parts = {textOf(*binary.left), textOf(*binary.right)};
     if (isWithin(left, kDigits) && isWithin(right, kDigits | kTyped)) {
-        tell("துணை-590", binary, parts);
+        tellSides("துணை-590", binary);
     } else if (isWithin(left, kTyped) && isWithin(right, kDigits | kTyped | kNumbers)) {
-        tell("துணை-591", binary, parts);
+        tellSides("துணை-591", binary);
     }
 }
 
@@ -139,18 +142,17 @@ Value EmissionWalk::divide(const BinaryExpression& binary, const Sides& sides, V
 Value EmissionWalk::compare(const BinaryExpression& binary, const Sides& sides, VarType kind) {
     const Value& left = sides.left;
     const Value& right = sides.right;
-    const std::vector<std::string> parts = {textOf(*binary.left), textOf(*binary.right)};
     const bool isKnown = left.cpp != Cpp::Unknown && right.cpp != Cpp::Unknown;
     if (isKnown && !canBeEqual(left.facts.kinds, right.facts.kinds)) {
         const bool hasText =
             isWithin(left.facts.kinds, kTexts) || isWithin(right.facts.kinds, kTexts);
         const bool hasNumber =
             isWithin(left.facts.kinds, kNumbers) || isWithin(right.facts.kinds, kNumbers);
-        tell(hasText && hasNumber ? "துணை-581" : "துணை-583", binary, parts);
+        tellSides(hasText && hasNumber ? "துணை-581" : "துணை-583", binary);
     } else if (isKnown && holds(kOrderWords, binary.op.text) &&
                (isWithin(left.facts.kinds, kTexts | kTruth) ||
                 isWithin(right.facts.kinds, kTexts | kTruth))) {
-        tell("துணை-582", binary, parts);
+        tellSides("துணை-582", binary);
     }
     return valueOf(Cpp::Bool, kind);
 }
@@ -210,8 +212,8 @@ Cpp EmissionWalk::castSide(const Expression& side, const Value& value, Cpp type)
 /// Which of the ways in which a calculation ends the program this one is.
 void EmissionWalk::requireNumber(const Expression& node, const Value& value, Kinds wanted) {
     const Kinds kinds = value.facts.kinds;
-    const std::vector<std::string> parts = {textOf(node)};
     if (kinds == kNoKinds || (kinds & wanted) != 0) return;
+    const std::vector<std::string> parts = {textOf(node)};
     if (isWithin(kinds, kCount)) {
         tellStop("துணை-405", node, parts);
     } else if (isWithin(kinds, kTexts)) {

@@ -73,6 +73,7 @@ bool EmissionWalk::isCaught() const {
 
 /// The expression as it is written, shortened.
 std::string EmissionWalk::textOf(const Expression& node) const {
+    if (findings == nullptr) return "";
     const std::optional<Range> range = compiled.rangeOf(node);
     if (!range) return "";
     const std::string_view text = compiled.source.slice(*range);

@@ -49,6 +49,7 @@ private:
     /// The same for what ends the program, unless it may be caught.
     template <typename Node>
     void tellStop(const char* code, const Node& node, const std::vector<std::string>& parts = {});
+    void tellSides(const char* code, const BinaryExpression& binary);
     bool isCaught() const;
     std::string textOf(const Expression& node) const;
 
