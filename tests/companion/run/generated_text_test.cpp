@@ -20,8 +20,8 @@ bool oneModule(const std::string& path, std::string& text) {
     return path == "நூல்.பொழில்";
 }
 
-GeneratedText generatedFrom(const std::string& text,
-                            const companion::ModuleReader& read = noModules) {
+GeneratedText generatedTextOf(const std::string& text,
+                              const companion::ModuleReader& read = noModules) {
     const SourceText source("a.பொழில்", text);
     const CompiledSource compiled(source, read);
     return companion::generateText(compiled);
@@ -52,26 +52,26 @@ TEST(GeneratedText, IsThatOfTheCompiler) {
 
 TEST(GeneratedText, KnowsTheLineOfEachStatement) {
     const GeneratedText generated =
-        generatedFrom("அச்சிடு(\"ஒன்று\")\n\nஃ குறிப்பு\nஅச்சிடு(\"நான்கு\")\n");
+        generatedTextOf("அச்சிடு(\"ஒன்று\")\n\nஃ குறிப்பு\nஅச்சிடு(\"நான்கு\")\n");
     EXPECT_EQ(sourceLineWith(generated, "ஒன்று"), 1);
     EXPECT_EQ(sourceLineWith(generated, "நான்கு"), 4);
 }
 
 TEST(GeneratedText, KnowsConditionsBehindABlock) {
-    const GeneratedText generated =
-        generatedFrom("x = 1\nஎனில் x சமம் 77:\n    அச்சிடு(1)\nஇல்லைஎனில் x சமம் 88:\n    அச்சிடு(2)\n");
+    const GeneratedText generated = generatedTextOf(
+        "x = 1\nஎனில் x சமம் 77:\n    அச்சிடு(1)\nஇல்லைஎனில் x சமம் 88:\n    அச்சிடு(2)\n");
     EXPECT_EQ(sourceLineWith(generated, "77LL"), 2);
     EXPECT_EQ(sourceLineWith(generated, "88LL"), 4);
 }
 
 TEST(GeneratedText, TakesTheFirstLineOfAnExpressionOverSeveral) {
     const GeneratedText generated =
-        generatedFrom("x = 0\nஅ = {\"க\": 77,\n    \"ச\": 88,\n    \"ட\": 99}\n");
+        generatedTextOf("x = 0\nஅ = {\"க\": 77,\n    \"ச\": 88,\n    \"ட\": 99}\n");
     EXPECT_EQ(sourceLineWith(generated, "99LL"), 2);
 }
 
 TEST(GeneratedText, KnowsTheHeadsOfFunctionsStructuresAndMethods) {
-    const GeneratedText generated = generatedFrom(
+    const GeneratedText generated = generatedTextOf(
         "அச்சிடு(1)\nசெயல் முதல்(அ):\n    திரும்பு அ\nசெயல் அடுத்தது(அ):\n    திரும்பு அ\n"
         "கட்டமைப்பு கருவி:\n    x = 1\n    செயல் ஓடு(தான்):\n        திரும்பு 1\nக = கருவி()\n");
     EXPECT_EQ(sourceLineWith(generated, "std::any fn_அடுத்தது("), 4);
@@ -82,7 +82,7 @@ TEST(GeneratedText, KnowsTheHeadsOfFunctionsStructuresAndMethods) {
 
 TEST(GeneratedText, KnowsNoLineOfWhatTheSourceDidNotBring) {
     const GeneratedText generated =
-        generatedFrom("அச்சிடு(1)\nநூஇறக்கி \"நூல்\"\nஅச்சிடு(இரட்டை(2))\n", oneModule);
+        generatedTextOf("அச்சிடு(1)\nநூஇறக்கி \"நூல்\"\nஅச்சிடு(இரட்டை(2))\n", oneModule);
     EXPECT_EQ(generated.sourceLineOf(1), 0);
     EXPECT_EQ(sourceLineWith(generated, "std::any fn_இரட்டை("), 0);
     EXPECT_EQ(sourceLineWith(generated, "fn_இரட்டை(std::any(2LL))"), 3);
