@@ -96,6 +96,10 @@ const deeds = {
         await pressText(page, 'கூடை');
         await until(async () => (await texts(page)).some(({text}) => text === 'கூடை காலி'), 'the other page', patience);
     },
+    async 'வினாடிவினா'(page) {
+        await pressText(page, '12');
+        await until(async () => (await texts(page)).some(({text}) => text === 'சரி!'), 'the answer', patience);
+    },
 };
 
 for (const name of Object.keys(deeds)) {
