@@ -219,7 +219,6 @@ private:
     VarType inferBinary(const BinaryExpression& binary);
     SideKinds inferChain(const BinaryExpression& outermost, ChainKinds* inner);
     SideKinds takeSideKinds(const BinaryExpression& binary);
-    static VarType kindOfResult(const std::string& op, const SideKinds& sides);
 
     // ---- Expressions ----
     bool visitValue(const Expression* expression);

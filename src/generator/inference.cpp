@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "generator/generator.h"
+#include "generator/result_kinds.h"
 #include "lexer/holds.h"
 
 namespace {
@@ -38,6 +39,24 @@ constexpr std::string_view kWholeTimeFields[] = {
 
 }  // namespace
 
+VarType kindOfCallResult(std::string_view name, bool isStructure) {
+    for (const ResultRow& row : kResults) {
+        if (row.name.empty() ? isStructure : name == row.name) return row.kind;
+    }
+    return VarType::Dynamic;
+}
+
+/// The order is meant: a comparison of two known integers counts as Integer.
+VarType kindOfOperation(std::string_view op, VarType left, VarType right) {
+    const bool joins = op == "கூட்டு" || op == "இணை";
+    if (joins && (left == VarType::String || right == VarType::String)) return VarType::String;
+    if (left == VarType::Decimal || right == VarType::Decimal) return VarType::Decimal;
+    if (left == VarType::Integer && right == VarType::Integer) return VarType::Integer;
+    return holds(kTruthOperators, op) ? VarType::Boolean : VarType::Dynamic;
+}
+
+bool isWholeTimeField(std::string_view name) { return holds(kWholeTimeFields, name); }
+
 VarType Generator::inferExpressionType(const Expression* expression) {
     if (nodeAs<NumberLiteral>(expression) != nullptr) return VarType::Integer;
     if (nodeAs<DoubleLiteral>(expression) != nullptr) return VarType::Decimal;
@@ -69,12 +88,7 @@ VarType Generator::inferCall(const CallExpression& call) {
             return call.arguments.empty() ? VarType::Dynamic
                                           : inferExpressionType(call.arguments[0].get());
         }
-        for (const ResultRow& row : kResults) {
-            if (row.name.empty() ? structNames.count(name) != 0 : name == row.name) {
-                return row.kind;
-            }
-        }
-        return VarType::Dynamic;
+        return kindOfCallResult(name, structNames.count(name) != 0);
     }
     if (const auto* callee = nodeAs<GetExpression>(call.callee.get())) {
         const std::string& member = callee->name.text;
@@ -103,13 +117,12 @@ VarType Generator::inferMember(const GetExpression& access) {
     if (object == nullptr) return VarType::Dynamic;
     const auto recorded = variableTypes.find(object->name);
     const bool isTime = recorded != variableTypes.end() && recorded->second == VarType::Time;
-    return isTime && holds(kWholeTimeFields, access.name.text) ? VarType::Integer
-                                                               : VarType::Dynamic;
+    return isTime && isWholeTimeField(access.name.text) ? VarType::Integer : VarType::Dynamic;
 }
 
 VarType Generator::inferBinary(const BinaryExpression& binary) {
     const SideKinds sides = inferChain(binary, nullptr);
-    return kindOfResult(binary.op.text, sides);
+    return kindOfOperation(binary.op.text, sides.left, sides.right);
 }
 
 /// அ கூட்டு ஆ கூட்டு இ leans to the left: the kinds of a long chain's sides are found from its
@@ -126,7 +139,7 @@ Generator::SideKinds Generator::inferChain(const BinaryExpression& outermost, Ch
         sides.right = inferExpressionType((*link)->right.get());
         if (*link == &outermost) return sides;
         if (inner != nullptr) (*inner)[*link] = sides;
-        sides.left = kindOfResult((*link)->op.text, sides);
+        sides.left = kindOfOperation((*link)->op.text, sides.left, sides.right);
     }
 }
 
@@ -138,14 +151,4 @@ Generator::SideKinds Generator::takeSideKinds(const BinaryExpression& binary) {
     const SideKinds sides = known->second;
     chainKinds.erase(known);
     return sides;
-}
-
-/// The order is meant: a comparison of two known integers counts as Integer.
-VarType Generator::kindOfResult(const std::string& op, const SideKinds& sides) {
-    const auto [left, right] = sides;
-    const bool joins = op == "கூட்டு" || op == "இணை";
-    if (joins && (left == VarType::String || right == VarType::String)) return VarType::String;
-    if (left == VarType::Decimal || right == VarType::Decimal) return VarType::Decimal;
-    if (left == VarType::Integer && right == VarType::Integer) return VarType::Integer;
-    return holds(kTruthOperators, op) ? VarType::Boolean : VarType::Dynamic;
 }

@@ -43,8 +43,9 @@ void Findings::add(Severity severity, const std::string& code, Range range,
 }
 
 bool Findings::hasErrors() const {
-    return std::any_of(entries.begin(), entries.end(),
-                       [](const Entry& entry) { return entry.severity == Severity::Error; });
+    return std::any_of(entries.begin(), entries.end(), [&](const Entry& entry) {
+        return entry.severity == Severity::Error && !isSilenced(entry);
+    });
 }
 
 bool Findings::holds(std::string_view prefix, Range range) const {

@@ -20,6 +20,7 @@ public:
     /// One in other words: a refusal of the compiler.
     void add(Severity severity, const std::string& code, Range range, const std::string& message);
 
+    /// True if an error stands there that no comment silences.
     bool hasErrors() const;
     /// True if a rule whose code begins with `prefix` found something that touches `range`.
     bool holds(std::string_view prefix, Range range) const;

@@ -2,6 +2,8 @@
 #include <algorithm>
 
 #include "companion/check/emission/walk.h"
+#include "generator/known_words.h"
+#include "lexer/holds.h"
 
 namespace companion {
 
@@ -52,7 +54,7 @@ Value EmissionWalk::walkUserCall(const CallExpression& call, const std::string& 
         const bool isKnown = function != functionNodes.end() &&
                              function->second->parameters.size() == parameters.size();
         const Param& parameter = isKnown ? function->second->parameters[i] : parameters[i];
-        passArgument(call, parameter, *call.arguments[i]);
+        passArgument(parameter, *call.arguments[i]);
     }
     Value value = anyOf(kAnyKind);
     if (function != functionNodes.end()) value.facts = knowledge.result(name);
@@ -60,8 +62,7 @@ Value EmissionWalk::walkUserCall(const CallExpression& call, const std::string& 
 }
 
 /// A by-reference parameter takes a program-wide variable that has been given something.
-void EmissionWalk::passArgument(const CallExpression&, const Param& parameter,
-                                const Expression& argument) {
+void EmissionWalk::passArgument(const Param& parameter, const Expression& argument) {
     if (!parameter.isMutable) {
         knowledge.giveLocal(&parameter, walk(argument).facts);
         return;
@@ -112,8 +113,8 @@ Value EmissionWalk::walkConstructor(const CallExpression& call, const std::strin
 Value EmissionWalk::walkMemberCall(const CallExpression& call, const GetExpression& callee) {
     const std::string& member = callee.name.text;
     const auto* object = nodeAs<VariableAccess>(callee.object.get());
-    const bool isInputCall = member == "பிழைசெய்தி" || member == "பிழை_அழி" ||
-                             member == "கொண்டுள்ளது" || member == "தொடக்கம்" || member == "முடிவு";
+    static const std::vector<std::string_view> kInputCalls = inputCallNames();
+    const bool isInputCall = holds(kInputCalls, member);
     if (object != nullptr && isInputCall) {
         walkArguments(call);
         return Value{};

@@ -3,6 +3,8 @@
 #include <cstdlib>
 
 #include "companion/check/emission/walk.h"
+#include "generator/known_words.h"
+#include "generator/result_kinds.h"
 #include "lexer/characters.h"
 #include "lexer/holds.h"
 #include "lexer/utf8.h"
@@ -10,12 +12,6 @@
 namespace companion {
 
 namespace {
-
-constexpr std::string_view kInputWords[] = {"வெறுமை",      "வெறுமைஇல்லை", "நீளம்",    "பெரியஎழுத்து",
-                                            "சிறியஎழுத்து", "சுத்தம்",      "உரைதரவு"};
-
-constexpr std::string_view kTimeParts[] = {"ஆண்டு",   "மாதம்",   "நாள்",   "மணி",
-                                           "நிமிடம்", "வினாடி", "வாரநாள்"};
 
 bool hasOnlyZeros(const std::string& digits) {
     return digits.find_first_not_of('0') == std::string::npos;
@@ -247,9 +243,11 @@ void EmissionWalk::walkCompound(const AssignmentExpression& assignment, const Va
     const std::string& op = assignment.op.text;
     const Expression& node = *assignment.value;
     const bool isDecimal = value.cpp == Cpp::LongDouble || value.cpp == Cpp::Double;
+    const bool isKnown = value.cpp != Cpp::Unknown && target.cpp != Cpp::Unknown;
     if (target.isConst || target.cpp == Cpp::LongLong || target.cpp == Cpp::Object) {
         checkLocalTarget(assignment, target, value);
-    } else if (value.cpp == Cpp::Unknown || target.cpp == Cpp::Unknown) {
+    } else if (!isKnown) {
+        // Another rule tells it, or the place where it is made.
     } else if (!isArithmetic(value.cpp)) {
         tell("துணை-331", node, {assignment.name, op, textOf(node)});
     } else if (isDecimal && holds(kWholeOnly, op)) {
@@ -265,7 +263,8 @@ void EmissionWalk::walkCompound(const AssignmentExpression& assignment, const Va
     }
     // It gets behind the cast for whole numbers alone.
     if ((target.facts.kinds & kWhole) == 0) return;
-    const Facts result{isDecimal ? kDecimal : kWhole, kNoKinds};
+    const Kinds made = isDecimal ? kDecimal : kWhole;
+    const Facts result{isKnown ? made : kWhole | kDecimal, kNoKinds};
     if (!currentFunction.empty() && isLocal(assignment.name)) {
         const Local& local = locals[assignment.name];
         if (local.node != nullptr) knowledge.giveLocal(local.node, result);
@@ -283,7 +282,8 @@ void EmissionWalk::checkGivesSomething(const Expression& node, const Value& valu
 Value EmissionWalk::walkMember(const GetExpression& access) {
     const auto* variable = nodeAs<VariableAccess>(access.object.get());
     const std::string& member = access.name.text;
-    if (variable != nullptr && holds(kInputWords, member)) {
+    static const std::vector<std::string_view> kInputProperties = inputPropertyNames();
+    if (variable != nullptr && holds(kInputProperties, member)) {
         if (member == "வெறுமை" || member == "வெறுமைஇல்லை") return valueOf(Cpp::Bool);
         return anyOf(member == "நீளம்" ? kWhole : kText);
     }
@@ -297,7 +297,7 @@ Value EmissionWalk::walkMember(const GetExpression& access) {
         value.facts = knowledge.property(member);
         return value;
     }
-    if (kind == VarType::Time && holds(kTimeParts, member)) {
+    if (kind == VarType::Time && isWholeTimeField(member)) {
         return valueOf(Cpp::Int, guessMember(access));
     }
     return Value{};
@@ -367,7 +367,6 @@ Value EmissionWalk::walkMap(const MapLiteral& map) {
 /// It holds copies of the locals around it, and its body is one expression.
 Value EmissionWalk::walkLambda(const LambdaExpression& lambda) {
     const Locals outer = locals;
-    const auto outerBlocks = blocks;
     for (auto& [name, local] : locals) local.isConst = true;
     std::set<std::string> names;
     for (const Token& parameter : lambda.parameters) {
@@ -381,7 +380,6 @@ Value EmissionWalk::walkLambda(const LambdaExpression& lambda) {
     }
     walk(*lambda.body);
     locals = outer;
-    blocks = outerBlocks;
     Value value = valueOf(Cpp::Function, VarType::Object);
     value.arity = static_cast<int>(lambda.parameters.size());
     return value;

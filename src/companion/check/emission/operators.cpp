@@ -2,6 +2,7 @@
 #include <string_view>
 
 #include "companion/check/emission/walk.h"
+#include "generator/result_kinds.h"
 #include "lexer/holds.h"
 
 namespace companion {
@@ -90,7 +91,7 @@ Value EmissionWalk::operate(const BinaryExpression& binary, const Sides& sides) 
     const std::string& op = binary.op.text;
     const VarType left = sides.left.guess;
     const VarType right = sides.right.guess;
-    const VarType kind = guessResult(op, left, right);
+    const VarType kind = kindOfOperation(op, left, right);
     const bool isSum = holds(kFiveSums, op);
     const bool isMixed = (left == VarType::String && isNumber(right)) ||
                          (isNumber(left) && right == VarType::String);
@@ -237,8 +238,6 @@ bool EmissionWalk::refusesCast(const Expression& node, const Value& value) {
     return true;
 }
 
-void EmissionWalk::walkCondition(const Expression& condition) { walkTruth(condition); }
-
 /// An operation stands bare, anything else is cast to a truth value.
 void EmissionWalk::walkTruth(const Expression& side) {
     const bool isOperation =
@@ -249,13 +248,13 @@ void EmissionWalk::walkTruth(const Expression& side) {
         return;
     }
     if (value.isLiteralZero || value.cpp == Cpp::Null) return tell("துணை-348", side);
-    requireTruth(side, value, "துணை-406");
+    requireTruth(side, value);
 }
 
-void EmissionWalk::requireTruth(const Expression& node, const Value& value, const char* code) {
+void EmissionWalk::requireTruth(const Expression& node, const Value& value) {
     const Kinds kinds = value.facts.kinds;
     if (value.cpp == Cpp::Unknown || kinds == kNoKinds || (kinds & kTruth) != 0) return;
-    tellStop(isWithin(kinds, kEmpty) ? "துணை-408" : code, node, {textOf(node)});
+    tellStop(isWithin(kinds, kEmpty) ? "துணை-408" : "துணை-406", node, {textOf(node)});
 }
 
 Value EmissionWalk::walkLogical(const LogicalExpression& logical) {

@@ -58,7 +58,7 @@ bool EmissionWalk::walkControlFlow(const Statement& statement) {
     if (const auto* node = nodeAs<IfStatement>(&statement)) {
         walkIf(*node);
     } else if (const auto* node = nodeAs<WhileStatement>(&statement)) {
-        walkCondition(*node->condition);
+        walkTruth(*node->condition);
         loops++;
         walkBody(node->body.get());
         loops--;
@@ -83,7 +83,7 @@ bool EmissionWalk::walkControlFlow(const Statement& statement) {
 }
 
 void EmissionWalk::walkIf(const IfStatement& statement) {
-    walkCondition(*statement.condition);
+    walkTruth(*statement.condition);
     walkBody(statement.thenBranch.get());
     if (const auto* next = nodeAs<IfStatement>(statement.elseBranch.get())) {
         walkIf(*next);

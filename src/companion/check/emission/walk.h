@@ -122,8 +122,7 @@ private:
     Value divide(const BinaryExpression& binary, const Sides& sides, VarType kind);
     Value compare(const BinaryExpression& binary, const Sides& sides, VarType kind);
     void walkTruth(const Expression& side);
-    void walkCondition(const Expression& condition);
-    void requireTruth(const Expression& node, const Value& value, const char* code);
+    void requireTruth(const Expression& node, const Value& value);
 
     /// The value is cast to a native number in a calculation; `wanted` is one kind.
     void requireNumber(const Expression& node, const Value& value, Kinds wanted);
@@ -135,8 +134,7 @@ private:
     std::vector<Value> walkArguments(const CallExpression& call);
     Value walkNamedCall(const CallExpression& call, const VariableAccess& callee);
     Value walkUserCall(const CallExpression& call, const std::string& name);
-    void passArgument(const CallExpression& call, const Param& parameter,
-                      const Expression& argument);
+    void passArgument(const Param& parameter, const Expression& argument);
     Value walkConstructor(const CallExpression& call, const std::string& name);
     Value walkMemberCall(const CallExpression& call, const GetExpression& callee);
     Value walkAppend(const CallExpression& call, const GetExpression& callee);
@@ -157,7 +155,6 @@ private:
     VarType guessCall(const CallExpression& call) const;
     VarType guessVariable(const VariableAccess& access) const;
     VarType guessMember(const GetExpression& access) const;
-    static VarType guessResult(const std::string& op, VarType left, VarType right);
 
     // ---- Names in sight ----
     using Locals = std::map<std::string, Local>;
