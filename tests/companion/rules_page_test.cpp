@@ -49,9 +49,11 @@ const CaseFile* programOf(const std::vector<CaseFile>& cases, const companion::R
 void writeProgram(std::ostream& page, const char* title, const companion::Rule& rule,
                   const CaseFile* file) {
     if (file == nullptr) return;
+    std::string program = readText(file->source);
+    if (program.back() != '\n') program += '\n';
     page << title << " ([" << fileName(*file) << "](../tests/companion/rules/" << rule.code << "/"
          << fileName(*file) << ")):\n\n```\n"
-         << readText(file->source) << "```\n\n";
+         << program << "```\n\n";
 }
 
 void writeRule(std::ostream& page, const companion::Rule& rule,
