@@ -1,5 +1,7 @@
 #include "editors/sounds.h"
 
+#include <algorithm>
+#include <iterator>
 #include <set>
 #include <sstream>
 
@@ -38,12 +40,19 @@ void writeTable(std::ostream& out, const char* key, const companion::SoundRows& 
     out << "\n    ],\n";
 }
 
+/// Capital letters are made small before a word sounds.
+bool hasCapital(const std::string& word) {
+    return std::any_of(word.begin(), word.end(),
+                       [](char byte) { return byte >= 'A' && byte <= 'Z'; });
+}
+
 std::set<std::string> exampleWords() {
     std::set<std::string> words(std::begin(kSpellings), std::end(kSpellings));
     for (const Group group : {Group::Keyword, Group::Operator, Group::BuiltIn, Group::Member,
                               Group::Widget, Group::Property, Group::Value}) {
         const auto& more = wordsOf(group);
-        words.insert(more.begin(), more.end());
+        std::copy_if(more.begin(), more.end(), std::inserter(words, words.end()),
+                     [](const std::string& word) { return !hasCapital(word); });
     }
     return words;
 }
