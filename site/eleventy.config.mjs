@@ -3,13 +3,14 @@
 import {copyFileSync, existsSync, mkdirSync, writeFileSync} from 'node:fs';
 import {createRequire} from 'node:module';
 import {dirname, join} from 'node:path';
+import {fileURLToPath} from 'node:url';
 import {readDocuments} from './documents.mjs';
 import {makeMarkdown, relativeUrl} from './markdown.mjs';
 import {indexScript} from './search_index.mjs';
 import {sectionsOf} from './sections.mjs';
 
 const require = createRequire(import.meta.url);
-const root = process.env.POZHIL_SITE_DOCUMENTS ?? join(import.meta.dirname ?? dirname(new URL(import.meta.url).pathname), '..');
+const root = process.env.POZHIL_SITE_DOCUMENTS ?? join(dirname(fileURLToPath(import.meta.url)), '..');
 
 /** The letters of the pages where the reader's machine has none for Tamil. */
 const fonts = ['Regular', 'Bold'].map(weight => `NotoSansTamil-${weight}.ttf`);
@@ -24,7 +25,8 @@ function placesOf(sections) {
 function searchRows({url, title}, sections) {
     return sections.map(section => ({
         url: section.id && section.level > 1 ? `${encodeURI(url)}#${encodeURIComponent(section.id)}` : encodeURI(url),
-        page: title, title: section.title, text: section.text.join('\n'), code: section.code.join('\n'),
+        page: title, title: section.title, text: section.text.join('\n'),
+        names: section.names.join('\n'), code: section.code.join('\n'),
     }));
 }
 

@@ -7,11 +7,11 @@ const sounds = JSON.parse(readFileSync(new URL('sounds.json', import.meta.url), 
 const {consonants, vowels, signs, latin} = sounds;
 const keyOf = globalThis.pozhilWords({consonants, vowels, signs, latin}).keyOf;
 
-/** The index as a script. `sections` are [{url, page, title, text, code}]. */
+/** The index as a script. `sections` are [{url, page, title, text, names, code}]. */
 export function indexScript(sections) {
     const index = new MiniSearch({
-        fields: ['title', 'text', 'code'],
-        storeFields: ['url', 'page', 'title', 'text'],
+        fields: ['title', 'text', 'names', 'code'],
+        storeFields: ['url', 'page', 'title', 'text', 'names'],
         tokenize: globalThis.pozhilWords.split,
         processTerm: keyOf,
     });

@@ -28,7 +28,7 @@
         const {sounds, index} = globalThis.pozhilIndex;
         const words = globalThis.pozhilWords(sounds);
         const engine = MiniSearch.loadJSON(index, {
-            fields: ['title', 'text', 'code'], storeFields: ['url', 'page', 'title', 'text'],
+            fields: ['title', 'text', 'names', 'code'], storeFields: ['url', 'page', 'title', 'text', 'names'],
             tokenize: split, processTerm: words.keyOf,
         });
         const vocabulary = JSON.parse(index).index.map(([term]) => term);
@@ -38,8 +38,8 @@
     /** The keys that a typed word may stand for. While one types, a letter may still get its vowel. */
     function keysOf(word, words) {
         const key = words.keyOf(word);
-        if (!isTamil(word)) return [key, `~${words.soundOf(key)}`].filter(each => each !== '~');
-        return /[க-ஹ]$/u.test(word) ? [key, key.slice(0, -1)] : [key];
+        const others = isTamil(word) ? (/[க-ஹ]$/u.test(word) ? [key.slice(0, -1)] : []) : [`~${words.soundOf(key)}`];
+        return [key, ...others].filter(each => each !== '~');
     }
 
     /** Words that hold `key` behind their beginning. */
@@ -51,7 +51,7 @@
     }
 
     const asTheyStand = {tokenize: text => [text], processTerm: term => term};
-    const weights = {boost: {title: 4, text: 1, code: 0.4}};
+    const weights = {boost: {title: 4, names: 5, text: 1, code: 0.4}};
 
     function query(text, {words, vocabulary}, fuzzy) {
         return {
@@ -70,13 +70,20 @@
         };
     }
 
+    /** How much a section gains by what was typed as a whole: as its title, or as its word elsewhere. */
+    function gainOf(typed, {words}) {
+        const keys = split(typed).length === 1 ? keysOf(typed, words) : [];
+        return (id, term, {title, names, text}) => {
+            if (title === typed || keys.includes(words.keyOf(title))) return 6;
+            if (names.split(/,\s*/).includes(typed.toLowerCase())) return 6;
+            if (title.includes(typed)) return 3;
+            return text.includes(typed) ? 1.5 : 1;
+        };
+    }
+
     function find(text, search) {
         const typed = text.trim();
-        const options = {
-            ...weights, ...asTheyStand,
-            boostDocument: (id, term, {title, text: prose}) =>
-                title.includes(typed) ? 4 : prose.includes(typed) ? 1.5 : 1,
-        };
+        const options = {...weights, ...asTheyStand, boostDocument: gainOf(typed, search)};
         const found = search.engine.search(query(typed, search, false), options);
         return found.length > 0 ? found : search.engine.search(query(typed, search, 0.25), options);
     }
@@ -84,7 +91,7 @@
     /** The sentence of `text` that holds the first found word, and the words in it. */
     function sentenceOf({text, terms}, words) {
         const sought = new Set(terms);
-        const sentences = text.split(/(?<=[.!?…])\s+|\n+/).filter(Boolean);
+        const sentences = (text.match(/(?:[^.!?…\n]|[.!?…](?!\s|$))+[.!?…]*/g) ?? []).map(sentence => sentence.trim());
         const holds = sentence => split(sentence).some(word => sought.has(words.keyOf(word)));
         return {sentence: sentences.find(holds) ?? sentences[0] ?? '', sought};
     }
