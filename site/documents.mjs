@@ -103,7 +103,7 @@ function programDocuments(root, shelf) {
         return rows.length > 0 ? `## ${title}\n\n${rows.join('\n')}\n` : '';
     });
     const contents = `# ${shelf.title}\n\n${shelf.about}\n\n${parts.join('\n')}`;
-    return [{source: 'examples/README.md', text: contents, url: 'examples/index.html', title: shelf.title}, ...programs];
+    return [{source: 'examples/README.md', text: contents, url: 'examples/index.html', title: shelf.title, folders: shelf.programs}, ...programs];
 }
 
 function documentsOf(root, shelf) {

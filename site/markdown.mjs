@@ -102,7 +102,7 @@ export function relativeUrl(url, target) {
 class Links {
     constructor(root, documents) {
         this.root = root;
-        this.pages = new Map(documents.map(({source, url}) => [source, url]));
+        this.pages = new Map(documents.flatMap(({source, url, folders = []}) => [source, ...folders].map(path => [path, url])));
         this.pictures = new Set();
     }
 

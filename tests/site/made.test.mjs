@@ -81,6 +81,7 @@ test('links to sources are shown as their words, programs and pictures come alon
     assert.match(html, /<span>சோதிக்கும் கோப்பு<\/span>/);
     assert.ok(attributes(html, 'href').map(decodeURIComponent).includes('../examples/console/வணக்கம்.html'));
     assert.ok(attributes(html, 'src').map(decodeURIComponent).includes('../நிரல்கள்/01/படம்.png'));
+    assert.match(pageText(sample, 'வழிகாட்டி/index.html'), /<span><code>docs\/நிரல்கள்<\/code><\/span>[^]*<a href="\.\.\/examples\/index\.html">எடுத்துக்காட்டுகளும்<\/a>/);
     assert.match(pageText(sample, 'examples/index.html'), /வணக்கம்<\/a> — உலகை வாழ்த்தும் நிரல்\./);
 });
 
