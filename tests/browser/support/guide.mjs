@@ -17,7 +17,7 @@ const sourceName = 'நிரல்.பொழில்';
 const usualSize = {width: 480, height: 720};
 
 /** A page of a program that doesn't run has no picture: its report is shown instead. */
-const refusals = ['report', 'check', 'says'];
+const refusals = ['report', 'check', 'says', 'err'];
 
 const beside = (path, ending) => `${path}.${ending}`;
 const textOf = file => existsSync(file) ? readFileSync(file, 'utf8') : '';
@@ -70,10 +70,12 @@ const deeds = {
     },
     /** Waits until a text is there: what a database answers has a time of its own. */
     async பார்(page, words) {
+        let seen = [];
         await until(async () => {
             await goOn(page);
-            return (await texts(page)).some(({text}) => text === words);
-        }, `to see '${words}'`);
+            seen = (await texts(page)).map(({text}) => text);
+            return seen.includes(words);
+        }, `to see '${words}'`, 60).catch(error => { throw new Error(`${error.message}; what stands is ${seen}`); });
     },
 };
 
