@@ -112,7 +112,9 @@ async function show(page, application) {
     await page.setViewportSize(sizeOf(application));
     await page.goto(address);
     await rest(page);
-    if (hasDatabase(application)) await until(() => page.printed.length > 0, 'the connection to the database');
+    if (hasDatabase(application)) {
+        await until(() => page.printed.some(line => line.includes('வெற்றிகரமாக இணைக்கப்பட்டது')), 'the database');
+    }
     await page.mouse.move(1, 1);
     await takeSteps(page, application.path);
     await page.evaluate(() => document.activeElement.blur());
