@@ -8,7 +8,7 @@ import {launch, openPage, until} from './browser.mjs';
 import {databasePeer, serveDatabaseScripts} from './database_peer.mjs';
 import {copyFonts} from './fonts.mjs';
 import {readPicture} from './golden.mjs';
-import {goOn, rest, restWhenDrawn} from './rest.mjs';
+import {goOn, problems, rest, restWhenDrawn} from './rest.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './tool.mjs';
 import {noteTexts, texts} from './widget_screen.mjs';
 
@@ -104,8 +104,8 @@ async function writing(page) {
 }
 
 /**
- * What the page shows when all steps are done and nothing moves: `shot` is a PNG, `written` are the places of its
- * texts, `problems` what went wrong since it was opened.
+ * What the page shows when all steps are done and nothing moves: its `picture`, the places that are `written` on,
+ * and the `problems` since it was opened.
  */
 async function show(page, application) {
     page.problems.length = page.printed.length = 0;
@@ -119,8 +119,7 @@ async function show(page, application) {
     await takeSteps(page, application.path);
     await page.evaluate(() => document.activeElement.blur());
     const shot = await page.screenshot({animations: 'disabled'});
-    const problems = page.problems.filter(line => !line.includes('ERR_FAILED'));
-    const seen = {shot, picture: readPicture(shot), written: await writing(page), problems};
+    const seen = {picture: readPicture(shot), written: await writing(page), problems: problems(page)};
     await page.goto('about:blank');  // it would draw on, and load itself again, while the next one is built
     return seen;
 }

@@ -1,5 +1,6 @@
 // Frames are drawn only until the drawing rests: without a GPU each takes the processor's time. A frame
 // is told by what it hands to the graphics card and to the text layer.
+import assert from 'node:assert/strict';
 import {until} from './browser.mjs';
 
 /** Frames that are drawn alike before the drawing counts as resting. */
@@ -64,8 +65,14 @@ function drawUntilAtRest(wanted) {
 /** For a page that isn't open yet. */
 export const restWhenDrawn = page => page.addInitScript(drawUntilAtRest, alikeAtRest);
 
-/** Waits until nothing on the page changes any more. */
-export const rest = page => until(() => page.evaluate(() => window.isAtRest?.()), 'the page to come to rest', 120);
+/** What went wrong on the page; files that only the net has are not asked for. */
+export const problems = page => page.problems.filter(line => !line.includes('ERR_FAILED'));
+
+/** Waits until nothing on the page changes any more. A program that ended draws nothing, but it says why. */
+export const rest = page => until(() => {
+    assert.deepEqual(problems(page), []);
+    return page.evaluate(() => window.isAtRest?.());
+}, 'the page to come to rest', 120);
 
 /** Lets so much of the page's time go by, has it draw what came of that, and waits until it rests. */
 export async function goOn(page, milliseconds = 0) {
