@@ -28,13 +28,12 @@ function drawUntilAtRest(wanted) {
         };
     }
     const card = WebGLRenderingContext.prototype;
-    note(card, 'bufferData', (target, data) => {
-        isFrame = true;
-        if (ArrayBuffer.isView(data)) mixBytes(data);
-    });
+    note(card, 'bufferData', (target, data) => { if (ArrayBuffer.isView(data)) mixBytes(data); });
     note(card, 'uniform4fv', (place, data) => { if (ArrayBuffer.isView(data)) mixBytes(data); });
-    const {fillText} = CanvasRenderingContext2D.prototype;
-    CanvasRenderingContext2D.prototype.fillText = function(text, x, y) {
+    const layer = CanvasRenderingContext2D.prototype;
+    note(layer, 'clearRect', () => { isFrame = true; });
+    const {fillText} = layer;
+    layer.fillText = function(text, x, y) {
         mixText([text, x, y, this.font, this.fillStyle, this.globalAlpha].join('|'));
         return fillText.call(this, text, x, y);
     };
