@@ -83,9 +83,8 @@ int ProgramsInOne::add(const std::string& source, const std::string& text) {
         throw std::logic_error("a program that begins otherwise than the others: " + source);
     }
     programs[count] = text.substr(common.size());
-    const std::string runFolder = folder + std::to_string(count) + "/";
-    fs::create_directories(fs::u8path(runFolder));
-    writeTo(runFolder + kProgramName, source);
+    fs::create_directories(fs::u8path(runFolder(count)));
+    writeTo(runFolder(count) + kProgramName, source);
     return count++;
 }
 
@@ -135,6 +134,10 @@ ProcessResult ProgramsInOne::run(int number, const std::string& input, double se
     ProcessOptions options;
     options.input = input;
     options.timeoutSeconds = seconds;
-    options.directory = folder + std::to_string(number);
+    options.directory = runFolder(number);
     return runCommand({folder + "programs", std::to_string(number)}, options);
+}
+
+std::string ProgramsInOne::runFolder(int number) const {
+    return folder + std::to_string(number) + "/";
 }

@@ -32,6 +32,9 @@ public:
     /// A program in a folder of its own that holds its source.
     ProcessResult run(int number, const std::string& input, double seconds) const;
 
+    /// That folder, with a slash at its end.
+    std::string runFolder(int number) const;
+
 private:
     std::string wholeText() const;
 

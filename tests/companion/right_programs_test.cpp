@@ -22,6 +22,9 @@ const char* const kFolders[] = {"examples",       "bench",          "தொக�
                                 "tests/examples", "tests/browser",  "tests/widgets",
                                 "tests/web"};
 
+/// The guide's programs show mistakes, too; its own tests check them.
+const char* const kShownInTheGuide = "docs/நிரல்கள்/";
+
 /// A file, named from the root, with the code of what is found in it.
 using Found = std::pair<std::string, std::string>;
 
@@ -31,7 +34,8 @@ std::vector<std::string> sourcesBelow(const std::string& folder) {
     if (!fs::exists(root / fs::u8path(folder))) return paths;
     for (const auto& entry : fs::recursive_directory_iterator(root / fs::u8path(folder))) {
         if (entry.path().extension() != fs::u8path(".பொழில்")) continue;
-        paths.push_back(fs::relative(entry.path(), root).u8string());
+        const std::string name = fs::relative(entry.path(), root).u8string();
+        if (name.rfind(kShownInTheGuide, 0) != 0) paths.push_back(name);
     }
     std::sort(paths.begin(), paths.end());
     return paths;

@@ -46,12 +46,17 @@ const CaseFile* programOf(const std::vector<CaseFile>& cases, const companion::R
     return nullptr;
 }
 
+/// The fence that closes the program begins a line of its own.
+std::string endedByALine(const std::string& text) {
+    return text.empty() || text.back() == '\n' ? text : text + "\n";
+}
+
 void writeProgram(std::ostream& page, const char* title, const companion::Rule& rule,
                   const CaseFile* file) {
     if (file == nullptr) return;
     page << title << " ([" << fileName(*file) << "](../tests/companion/rules/" << rule.code << "/"
          << fileName(*file) << ")):\n\n```\n"
-         << readText(file->source) << "```\n\n";
+         << endedByALine(readText(file->source)) << "```\n\n";
 }
 
 void writeRule(std::ostream& page, const companion::Rule& rule,

@@ -1,0 +1,81 @@
+#include "links.h"
+
+#include <regex>
+#include <sstream>
+
+namespace {
+
+std::string decoded(const std::string& target) {
+    std::string text;
+    for (std::size_t at = 0; at < target.size(); ++at) {
+        if (target[at] == '%' && at + 2 < target.size()) {
+            text += static_cast<char>(std::stoi(target.substr(at + 1, 2), nullptr, 16));
+            at += 2;
+        } else {
+            text += target[at];
+        }
+    }
+    return text;
+}
+
+/// Calls `visit` with each line that stands in no fence, and its number.
+template <typename Visit>
+void eachLine(const std::string& pageText, Visit visit) {
+    std::istringstream lines(pageText);
+    bool isInside = false;
+    int number = 0;
+    for (std::string line; std::getline(lines, line);) {
+        number++;
+        if (line.rfind("```", 0) == 0) isInside = !isInside;
+        if (!isInside) visit(line, number);
+    }
+}
+
+/// Letters, marks, digits, "-" and "_" stay, blanks become "-", the rest goes.
+std::string slug(const std::string& heading) {
+    std::string name;
+    for (const char letter : heading) {
+        const auto byte = static_cast<unsigned char>(letter);
+        if (byte >= 0x80 || std::isdigit(byte) != 0 || letter == '-' || letter == '_') {
+            name += letter;
+        } else if (std::isalpha(byte) != 0) {
+            name += static_cast<char>(std::tolower(byte));
+        } else if (letter == ' ') {
+            name += '-';
+        }
+    }
+    return std::regex_replace(name, std::regex("…|–|—|→|‘|’|“|”|⋯|⌨"), "");
+}
+
+}  // namespace
+
+std::vector<Link> linksOf(const std::string& pageText) {
+    static const std::regex form(R"(\]\(<?([^)>\s]+)>?\))");
+    static const std::regex attribute(R"((?:src|href)=\"([^\"]+)\")");
+    std::vector<Link> links;
+    eachLine(pageText, [&](const std::string& line, int number) {
+        const std::string text = std::regex_replace(line, std::regex("`[^`]*`"), "");
+        for (const std::regex& each : {form, attribute}) {
+            for (std::sregex_iterator match(text.begin(), text.end(), each), end; match != end;
+                 ++match) {
+                links.push_back({number, decoded((*match)[1])});
+            }
+        }
+    });
+    return links;
+}
+
+std::set<std::string> anchorsOf(const std::string& pageText) {
+    static const std::regex id(R"(<a (?:id|name)=\"([^\"]+)\")");
+    std::set<std::string> anchors;
+    eachLine(pageText, [&](const std::string& line, int) {
+        const std::size_t marks = line.find_first_not_of('#');
+        if (marks != 0 && marks != std::string::npos && line[marks] == ' ') {
+            anchors.insert(slug(line.substr(marks + 1)));
+        }
+        for (std::sregex_iterator match(line.begin(), line.end(), id), end; match != end; ++match) {
+            anchors.insert((*match)[1]);
+        }
+    });
+    return anchors;
+}
