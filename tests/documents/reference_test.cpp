@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <regex>
 #include <set>
@@ -172,6 +173,43 @@ TEST(ReferenceWhere, FindsTheFirstUseOfAWord) {
     EXPECT_EQ(firstChapterOf(EntryKind::Mark, "ஃ", chapters), "01");
     EXPECT_EQ(firstChapterOf(EntryKind::Mark, "{", chapters), "");
     EXPECT_EQ(firstChapterOf(EntryKind::BuiltIn, "பிளவு", chapters), "");
+}
+
+void writeFile(const fs::path& path, const std::string& text) {
+    fs::create_directories(path.parent_path());
+    std::ofstream(path) << text;
+}
+
+TEST(ReferenceWhere, ReadsChaptersWithTheirPrograms) {
+    const fs::path root = fs::u8path(POZHIL_BUILD_DIR "/reference_chapters");
+    fs::remove_all(root);
+    const fs::path guide = root / "docs" / fs::u8path("வழிகாட்டி");
+    writeFile(guide / fs::u8path("02_சுற்று.md"), "# இரண்டு\n");
+    writeFile(guide / fs::u8path("01_முதல்.md"),
+              "# முதல் `நிரல்`\n\nசொல் `கூட்டு`.\n\n```பொழில் 01/அ\nகழி\n```\n\n```அறிக்கை\nவகு\n```\n");
+    writeFile(guide / "README.md", "# எல்லாம்\n");
+    writeFile(root / "docs" / fs::u8path("நிரல்கள்") / "01" / fs::u8path("அ.பொழில்"), "மீதி\n");
+    writeFile(root / "docs" / fs::u8path("படங்கள்") / fs::u8path("உரை.png"), "");
+
+    const Surroundings around = readSurroundings(root.u8string());
+    ASSERT_EQ(around.chapters.size(), 2U);
+    EXPECT_EQ(around.chapters[0].file, "01_முதல்.md");
+    EXPECT_EQ(around.chapters[0].title, "முதல் `நிரல்`");
+    EXPECT_EQ(around.chapters[0].code, "நிரல்\nகூட்டு\nகழி\nமீதி\n\n");
+    EXPECT_NE(around.chapters[0].text.find("வகு"), std::string::npos);
+    EXPECT_EQ(around.chapters[1].title, "இரண்டு");
+    EXPECT_EQ(around.pictures, (std::set<std::string>{"உரை"}));
+}
+
+TEST(ReferenceWhere, TellsCallsFromMembersAndWidgetsFromProperties) {
+    const std::vector<Chapter> chapters = {chapter("01", "அ.நீளம்()\nநிறம் = உரை: 1\n", ""),
+                                           chapter("02", "நீளம்(அ)\nஅ: நிறம்\n", ""),
+                                           chapter("03", "உரை(நிறம்: 1)\n", "")};
+    const std::vector<Chapter> turned(chapters.rbegin(), chapters.rend());
+    EXPECT_EQ(firstChapterOf(EntryKind::BuiltIn, "நீளம்", chapters), "02");
+    EXPECT_EQ(firstChapterOf(EntryKind::Member, "நீளம்", turned), "01");
+    EXPECT_EQ(firstChapterOf(EntryKind::Widget, "உரை", chapters), "03");
+    EXPECT_EQ(firstChapterOf(EntryKind::Property, "நிறம்", chapters), "03");
 }
 
 TEST(ReferenceWhere, TakesAWordThatStandsInProseAlone) {

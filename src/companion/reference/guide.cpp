@@ -49,17 +49,22 @@ std::string spansIn(const std::string& line) {
     return spans;
 }
 
+/// Spans, and fences that show programs: what a report or an output says is no use of a word.
 std::string codeIn(const std::string& page) {
     std::string code;
     bool isInside = false;
+    bool isProgram = false;
     for (std::size_t at = 0; at < page.size();) {
         const std::size_t end = std::min(page.find('\n', at), page.size());
         const std::string line = page.substr(at, end - at);
         at = end + 1;
         if (line.rfind(kFenceMarks, 0) == 0) {
             isInside = !isInside;
-        } else {
-            code += isInside ? line + "\n" : spansIn(line);
+            isProgram = isInside && line.rfind(kFenceMarks + "பொழில்", 0) == 0;
+        } else if (isProgram) {
+            code += line + "\n";
+        } else if (!isInside) {
+            code += spansIn(line);
         }
     }
     return code;

@@ -17,8 +17,8 @@ struct ReferenceFile {
 /// A chapter of the guide, in what words can be looked for.
 struct Chapter {
     std::string file;   ///< Its name in the guide's folder.
-    std::string title;  ///< Its first heading.
-    std::string code;   ///< Its fences, what stands in backticks, and its programs.
+    std::string title;  ///< Its first heading, in Markdown.
+    std::string code;   ///< Programs that it shows or has beside it, and spans in backticks.
     std::string text;   ///< All of it.
 };
 

@@ -95,7 +95,7 @@ bool isUsedIn(const Chapter& chapter, const Entry& entry) {
 std::string chapterLink(const Entry& entry, const std::vector<Chapter>& chapters) {
     const Chapter* chapter = chapterOf(entry, chapters);
     if (chapter == nullptr) return "—";
-    return link(escaped(chapter->title), "../வழிகாட்டி/" + chapter->file);
+    return link(chapter->title, "../வழிகாட்டி/" + chapter->file);
 }
 
 }  // namespace
