@@ -76,7 +76,7 @@ check_looks() {
         skipped=$((skipped + 2))
     fi
     check "நிரல் துணுக்குகள் (shellcheck)" shellcheck -x scripts/*.sh bench/*.sh \
-        tests/support/*.sh .ci/run
+        tests/support/*.sh tests/package/*.sh packaging/completion/pozhil packaging/debian/{postinst,prerm} .ci/run
 }
 
 # What the processor does while tests wait.
@@ -97,7 +97,7 @@ case "${1:-all}" in
         ;;
     all)
         scripts/install_packages.sh g++ cmake ninja-build libgtest-dev clang clang-format \
-            clang-tidy libclang-rt-dev shellcheck util-linux
+            clang-tidy libclang-rt-dev shellcheck util-linux lintian dpkg-dev file curl man-db python3
         check "துணைக் கோப்புகள்" scripts/prepare_objects.sh
         check "வலைதளங்களின் துணைக் கோப்புகள்" scripts/setup_web.sh
         check "கட்டுதல்" build tests

@@ -216,6 +216,10 @@ TEST_F(LibraryFolder, IsTheCheckoutForAUser) {
               std::string::npos);
 }
 
+TEST_F(LibraryFolder, LiesBesideAnInstalledCompilerWhereverThatIsMoved) {
+    EXPECT_EQ(libraryFolder(root / "build", {"cmake", "--preset", "install"}), "./");
+}
+
 TEST_F(LibraryFolder, IsAFixedOneForWhoeverAsksForNothing) {
     EXPECT_EQ(libraryFolder(root / "build", {"cmake", "-S", ".", "-G", "Ninja"}),
               "/home/velanar/Pozhil/தொகுப்புகள்/");
