@@ -37,7 +37,7 @@ const Content kContents[] = {
     {pages::kCommands, "கட்டளைகளும் கோப்புகளும்", "பொழில், பொழில்-துணை, கோப்புகள், சூழல்"},
     {pages::kLimits, "எல்லைகள்", "எண்கள், பெயர்கள், ஆழம்"},
     {pages::kReserved, "ஒதுக்கிய சொற்கள்", "பெயராக வைக்க முடியாத மற்றவை"},
-    {pages::kWhere, "எங்கே?", "ஒவ்வொரு சொல்லுக்கும் வழிகாட்டியின் பாடமும் குறிப்பும்"},
+    {pages::kWhere, "எங்கே?", "ஒவ்வொரு சொல்லுக்கும் வழிகாட்டியின் அதிகாரமும் குறிப்பும்"},
 };
 
 std::string wordLinks(const std::vector<Description>& words) {
@@ -54,6 +54,7 @@ MarkdownPage contentsPage() {
     page.prose(
         "மொழியின் எல்லாச் சொற்களும், எல்லாப் பிழைகளும், எல்லாக் கட்டளைகளும் ஒரே இடத்தில். முனையத்திலும் கேட்கலாம்:");
     page.fence("sh", "./பொழில்-துணை விளக்கு எனில்");
+    page.markdown("முதலிலிருந்து கற்றுக்கொள்ள: " + link("வழிகாட்டி", "../வழிகாட்டி/README.md") + ".");
     std::vector<std::vector<std::string>> rows;
     for (const Content& content : kContents) {
         rows.push_back({link(escaped(content.title), content.page), escaped(content.about)});

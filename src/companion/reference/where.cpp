@@ -116,7 +116,7 @@ MarkdownPage wherePage(const std::vector<Chapter>& chapters) {
     MarkdownPage page(pages::kWhere, "எங்கே?");
     page.prose(
         "ஒவ்வொரு சொல்லும் எங்கே விளக்கப்பட்டிருக்கிறது. சொல்லைத் தொட்டால் அதன் குறிப்பு வரும்; பக்கத்தில் நிற்பது, "
-        "வழிகாட்டியில் அது முதலில் வரும் பாடம். கோடு நின்றால் வழிகாட்டியில் அது வரவில்லை.");
+        "வழிகாட்டியில் அது முதலில் வரும் அதிகாரம். கோடு நின்றால் வழிகாட்டியில் அது வரவில்லை.");
     for (const KindSection& section : kSections) {
         std::vector<std::vector<std::string>> rows;
         for (const Entry* entry : entriesOf(section.kind)) {
