@@ -3,12 +3,28 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace companion {
 
 /// How `word`, of Tamil or small Latin letters, sounds, roughly: the many ways in which one Tamil
 /// word is written in Latin letters come out alike (achchidu, acchitu, acidu).
 std::string soundOf(std::string_view word);
+
+/// A letter, or letters that are written for one, and how it sounds.
+struct SoundRow {
+    std::string_view letter;
+    std::string_view sound;
+};
+using SoundRows = std::vector<SoundRow>;
+
+/// The rows that soundOf goes by, for those who tell sounds without it. A consonant sounds with an
+/// `a` unless a sign follows; Latin letters are replaced row by row, in this order; of equal
+/// letters side by side one is left.
+SoundRows consonantSounds();
+SoundRows vowelSounds();
+SoundRows signSounds();
+SoundRows latinSounds();
 
 /// The least number of letters to put in, leave out or change.
 int editDistance(std::string_view one, std::string_view other);
