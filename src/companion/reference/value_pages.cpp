@@ -130,13 +130,13 @@ MarkdownPage curvesPage() {
     page.prose(
         "படத்தில் இடமிருந்து வலமாகக் காலம், கீழிருந்து மேலாக அசைவு. கீழ்ப் புள்ளிக்கோடு தொடக்கம், மேல் புள்ளிக்கோடு முடிவு.");
     const std::vector<ReferenceFile> drawings = drawnCurves();
-    std::vector<std::vector<std::string>> rows;
     for (const ValueDescription* value : valuesOf(ValueGroup::Curve)) {
-        rows.push_back({named(entryOf(EntryKind::Curve, value->word)),
-                        pictureOf(drawingNameOf(*value, drawings), value->word),
-                        escaped(value->summary), escaped(value->english)});
+        const Entry& entry = entryOf(EntryKind::Curve, value->word);
+        page.heading(2, code(entry.word), entry.anchor);
+        page.markdown(pictureOf(drawingNameOf(*value, drawings), value->word));
+        page.prose(value->summary);
+        page.labelled("பிற மொழிகளில்", value->english);
     }
-    page.table({"வளைவு", "படம்", "பொருள்", "பிற மொழிகளில்"}, rows);
     return page;
 }
 
