@@ -18,6 +18,9 @@ struct Command {
     int (*run)(const Arguments& arguments);
 };
 
+/// All commands, in the order in which they are shown.
+const std::vector<Command>& commands();
+
 int runCheck(const Arguments& arguments);
 int runFormat(const Arguments& arguments);
 int runRun(const Arguments& arguments);

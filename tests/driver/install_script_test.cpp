@@ -85,8 +85,7 @@ TEST_F(InstallScript, InstallsIntoTheFolderThatIsNamed) {
     for (const char* name : {"one", "two"}) {
         const ProcessResult result = install({std::string("../") + name});
         EXPECT_EQ(result.exitCode, 0) << result.err;
-        EXPECT_EQ(readFileText(root / name / "folder"),
-                  (root / name).u8string() + "\n");
+        EXPECT_EQ(readFileText(root / name / "folder"), (root / name).u8string() + "\n");
         EXPECT_NE(result.err.find((root / name / "bin" / "பொழில்").u8string()), std::string::npos);
     }
 }

@@ -36,7 +36,7 @@ std::optional<NewRequest> readNewRequest(const Arguments& arguments) {
             std::cerr << "'" << argument << "' என்ற விருப்பம் இல்லை. பெயர் '-' குறியில் தொடங்கக் கூடாது.\n";
             return std::nullopt;
         } else if (!request.path.empty()) {
-            std::cerr << "ஒரு பெயரே தர வேண்டும். பெயரில் இடைவெளி இருந்தால் மேற்கோளுக்குள் எழுதுக: \""
+            std::cerr << "ஒரு பெயரே தர வேண்டும். பெயரில் இடைவெளி இருந்தால் மேற்கோளுக்குள் எழுது: \""
                       << request.path << " " << argument << "\"\n";
             return std::nullopt;
         } else {
@@ -143,20 +143,20 @@ int runNew(const Arguments& arguments) {
     if (!request) return kNewMisused;
     const std::string name = nameOfProject(request->path);
     if (const char* problem = problemOfName(name)) {
-        std::cerr << "'" << name << "': " << problem << ". வேறு பெயர் தருக.\n";
+        std::cerr << "'" << name << "': " << problem << ". வேறு பெயர் கொடு.\n";
         return kNewMisused;
     }
     const fs::path folder = fs::u8path(request->path);
     if (!isFree(folder)) {
         std::cerr << "'" << request->path
-                  << "' ஏற்கெனவே உள்ளது, அதில் கோப்புகள் உள்ளன. வேறு பெயர் தருக.\n";
+                  << "' ஏற்கெனவே உள்ளது, அதில் கோப்புகள் உள்ளன. வேறு பெயர் கொடு.\n";
         return 1;
     }
     std::error_code problem;
     fs::create_directories(folder, problem);
     if (problem) {
         std::cerr << "'" << request->path
-                  << "' கோப்புறையை உருவாக்க முடியவில்லை. இங்கே எழுத உமக்கு உரிமை உள்ளதா எனப் பாருங்கள்.\n";
+                  << "' கோப்புறையை உருவாக்க முடியவில்லை. இங்கே எழுத உனக்கு உரிமை உள்ளதா எனப் பார்.\n";
         return 1;
     }
     if (!writeProject(folder, name, request->isForWeb)) return 1;
