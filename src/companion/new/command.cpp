@@ -20,7 +20,6 @@ namespace companion {
 namespace {
 
 constexpr int kNewMisused = 2;
-constexpr const char* kLibrary = "தொகுப்புகள்";
 
 struct NewRequest {
     std::string path;
@@ -92,19 +91,6 @@ bool isLibraryFound() {
     }
 }
 
-/// A compiler that was told of no library has it beside itself: then a link in the project leads
-/// there, which is nobody else's. True if the project's programs find the library.
-bool reachLibrary(const fs::path& folder) {
-    if (isLibraryFound()) return true;
-    const fs::path library = fs::u8path(getAppDirectory()) / fs::u8path(kLibrary);
-    std::error_code problem;
-    if (!fs::is_directory(library, problem)) return false;
-    fs::create_directory_symlink(library, folder / fs::u8path(kLibrary), problem);
-    std::ofstream ignored(folder / ".gitignore", std::ios::app);
-    ignored << "/" << kLibrary << "\n";
-    return !problem && ignored.flush();
-}
-
 std::string withName(std::string_view text, const std::string& name) {
     std::string filled(text);
     const std::size_t mark = filled.find("$0");
@@ -127,8 +113,8 @@ bool writeFiles(const fs::path& folder, const std::string& name,
 bool writeProject(const fs::path& folder, const std::string& name, bool isForWeb) {
     if (!writeFiles(folder, name, kCommonFiles)) return false;
     if (isForWeb) return writeFiles(folder, name, kWebFiles);
-    return reachLibrary(folder) ? writeFiles(folder, name, kLibraryFiles)
-                                : writeFiles(folder, name, kConsoleFiles);
+    return isLibraryFound() ? writeFiles(folder, name, kLibraryFiles)
+                            : writeFiles(folder, name, kConsoleFiles);
 }
 
 void tellNextSteps(const std::string& path) {

@@ -59,7 +59,6 @@ TEST_F(New, ConsoleProgramUsesTheLibraryWhereItIsFound) {
     make("ஒன்று");
     expectGoodProgram();
     EXPECT_TRUE(holds(readFileText(from / "முதன்மை.பொழில்"), "நூஇறக்கி \"தொகுப்புகள்/"));
-    EXPECT_TRUE(holds(readFileText(from / ".gitignore"), "/வெளியீடு/\n/தளம்/\n/தொகுப்புகள்\n"));
     const ProcessResult result = companion({"run", "--quiet"});
     EXPECT_EQ(result.out, "வணக்கம்!\nமொத்தம்: 255\n") << result.err;
 }
