@@ -14,9 +14,9 @@ cd "$root"
 seconds=${1:-60}
 [[ "$seconds" =~ ^[1-9][0-9]*$ ]] || refuse "எத்தனை வினாடிகள்? பயன்பாடு: scripts/fuzz.sh வினாடிகள்"
 
-scripts/install_packages.sh g++ cmake ninja-build clang libclang-rt-dev
-configure fuzz
-run_quietly "சோதனை நிரலைக் கட்ட முடியவில்லை." cmake --build --preset fuzz --target fuzzers
+scripts/install_packages.sh g++ cmake ninja-build clang libclang-rt-dev libgtest-dev
+configure sanitize
+run_quietly "சோதனை நிரலைக் கட்ட முடியவில்லை." cmake --build --preset sanitize --target fuzzers
 
 corpus="$root/build/fuzz/corpus"
 seeds="$root/build/fuzz/seeds"
@@ -35,7 +35,7 @@ trap 'rm -rf "$empty" "$log"' EXIT
 # run_fuzzer NAME SECONDS
 run_fuzzer() {
     local fuzzer status=0 tried
-    fuzzer=$(find "$root/build/fuzz" -name "$1" -type f | head -n 1)
+    fuzzer=$(find "$root/build/sanitize" -name "$1" -type f | head -n 1)
     (cd "$empty" && "$fuzzer" -max_total_time="$2" -timeout=20 -rss_limit_mb=4096 \
         -max_len=4096 -dict="$root/tests/fuzz/words.dict" -print_final_stats=1 \
         -artifact_prefix="$findings/" "$corpus" "$seeds") >"$log" 2>&1 || status=$?
