@@ -113,6 +113,17 @@ TEST(HoverAnswer, TellsAPropertyOfTheWidgetAroundIt) {
                       "எழுத்தைத் தட்டச்சு செய்யும் பெட்டி"));
 }
 
+/// One word means one thing in the head and another in a widget.
+TEST(HoverAnswer, TellsTheMeaningOfTheVeryWidget) {
+    const std::string inHead =
+        Marked(applicationWith("இணைய_தலைப்பு: \"அ\"", "பின்‸னணி: \"#FFFFFF\"")).hover();
+    EXPECT_TRUE(holds(inHead, "பக்கத்தின் பின்னணி நிறம்")) << inHead;
+    EXPECT_TRUE(holds(inHead, "எழுதாவிட்டால்"));
+    const std::string inWidget =
+        Marked(applicationWith("குறிப்பு: \"ஊர்\"", "பின்‸னணி: \"#FFFFFF\"")).hover();
+    EXPECT_TRUE(holds(inWidget, "பெட்டியின் நிறம்")) << inWidget;
+}
+
 TEST(HoverAnswer, TellsAFindingWhole) {
     const std::string told = Marked("அச்சிடு(“அ‸”)\n").hover();
     const std::string atPlace = Marked("அச்சிடு(‸“அ”)\n").hover();
@@ -271,13 +282,15 @@ TEST(SignatureAnswer, LeavesTheReceiverOfAMethodOut) {
 // ---- Colours ----
 
 TEST(SemanticAnswer, FollowsTheSource) {
-    Marked marked("செயல் பாடு(அ):\n    அச்சிடு(அ, \"இ\\n\") ஃ உரை\nவகை நிறங்கள்:\n    சிவந்தது\n");
+    Marked marked(
+        "செயல் பாடு(அ):\n    அச்சிடு(அ, \"இ\\n\") ஃ உரை\nவகை நிறங்கள்:\n    சிவந்தது\nவிடு\nபாடு(1)\n");
     const Json data = marked.ask("semanticTokens/full")["data"];
     ASSERT_EQ(data.size() % 5, 0U);
     const companion::language_server::TextPlaces places(marked.source);
-    const std::vector<std::string> types = {
-        "keyword",  "operator",  "function", "struct", "interface", "enum",    "enumMember",
-        "variable", "parameter", "property", "string", "number",    "comment", "class"};
+    const std::vector<std::string> types = {"keyword",   "operator", "function",   "struct",
+                                            "interface", "enum",     "enumMember", "variable",
+                                            "parameter", "property", "string",     "number",
+                                            "comment",   "class",    "method"};
     std::string told;
     int line = 0;
     int character = 0;
@@ -292,7 +305,8 @@ TEST(SemanticAnswer, FollowsTheSource) {
     }
     EXPECT_EQ(told,
               "செயல்=keyword பாடு=function! அ=parameter! அச்சிடு=keyword அ=parameter "
-              "\"இ\\n\"=string ஃ உரை=comment வகை=keyword நிறங்கள்=enum! சிவந்தது=enumMember! ");
+              "\"இ\\n\"=string ஃ உரை=comment வகை=keyword நிறங்கள்=enum! சிவந்தது=enumMember! "
+              "விடு=keyword பாடு=function 1=number ");
 }
 
 TEST(SemanticAnswer, KeepsEachTokenInItsLine) {

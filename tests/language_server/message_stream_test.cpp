@@ -47,6 +47,16 @@ TEST(MessageStream, GoesOnBehindABrokenHead) {
     }
 }
 
+/// What is no head at all isn't kept for ever.
+TEST(MessageStream, DropsWhatHasNoHead) {
+    MessageStream stream;
+    stream.feed(std::string(MessageStream::kLongestHead + 1, 'x'));
+    EXPECT_EQ(stream.next(), "");
+    EXPECT_EQ(stream.next(), std::nullopt);
+    stream.feed(framed("{}"));
+    EXPECT_EQ(stream.next(), "{}");
+}
+
 TEST(JsonRepair, LeavesSoundTextAlone) {
     for (const char* text :
          {"", "{\"அ\": \"\\u0b85 \\ud83d\\ude00 \\\\ud83d \\\" 😀\"}", "[\"\\n\"]"}) {

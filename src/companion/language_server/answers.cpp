@@ -283,8 +283,9 @@ bool wantsQuickFixes(const Json& params) {
     if (context == params.end() || !context->is_object()) return true;
     const auto only = context->find("only");
     if (only == context->end() || !only->is_array()) return true;
+    static const Json kEverything = "";
     return std::any_of(only->begin(), only->end(),
-                       [](const Json& kind) { return kind == "quickfix" || kind == ""; });
+                       [](const Json& kind) { return kind == "quickfix" || kind == kEverything; });
 }
 
 Json answerCodeAction(Session& session, const Json& params) {

@@ -2,6 +2,7 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <condition_variable>
@@ -66,7 +67,7 @@ private:
     bool hasEnded = false;
 };
 
-void readInput(Inbox& inbox) {
+void readInput(Inbox& inbox, const std::atomic<int>& status) {
     constexpr std::size_t kChunk = std::size_t{64} * 1024;
     MessageStream stream;
     std::string chunk(kChunk, '\0');
@@ -79,7 +80,7 @@ void readInput(Inbox& inbox) {
     }
     inbox.end();
     std::this_thread::sleep_for(kLastWait);
-    _exit(1);
+    _exit(status);
 }
 
 /// False if nobody reads any more.
@@ -103,10 +104,12 @@ bool sendAnswers(Server& server) {
 int serve() {
     Server server;
     Inbox inbox;
-    std::thread reader([&] { readInput(inbox); });
+    std::atomic<int> status{server.status()};
+    std::thread reader([&] { readInput(inbox, status); });
     while (!server.hasEnded()) {
         for (const std::string& body : inbox.takeAll()) server.take(body);
         const bool hasWorked = server.work(std::chrono::steady_clock::now());
+        status = server.status();
         if (!sendAnswers(server)) break;
         if (hasWorked) continue;
         if (inbox.isOver()) break;

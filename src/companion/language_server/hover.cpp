@@ -106,9 +106,8 @@ std::string describedMarkdown(const Code& code, const CodePiece& piece) {
     const auto index = static_cast<std::size_t>(&piece - code.pieces().data());
     const std::string word = wholeWord(code, piece);
     const std::size_t offset = piece.piece.begin;
-    const bool isKey = code.isMarkAt(index + 1, ":") && !piece.opensLine;
-    const bool mayBeKey = code.isMarkAt(index + 1, ":") && !code.openAt(offset).empty();
-    if (isKey || mayBeKey) {
+    const bool isKey = code.isMarkAt(index + 1, ":") && !code.openAt(offset).empty();
+    if (isKey) {
         if (const auto* property = propertyAround(code, offset, word)) return markdownOf(*property);
     }
     for (const auto* table : {&wordDescriptions(), &widgetDescriptions()}) {

@@ -51,7 +51,12 @@ std::optional<std::size_t> lengthIn(std::string_view head) {
 
 std::optional<std::string> MessageStream::next() {
     const std::size_t headEnd = pending.find(kHeadEnd, begin);
-    if (headEnd == std::string::npos) return std::nullopt;
+    if (headEnd == std::string::npos) {
+        if (pending.size() - begin <= kLongestHead) return std::nullopt;
+        pending.clear();
+        begin = 0;
+        return "";
+    }
     const std::size_t bodyBegin = headEnd + kHeadEnd.size();
     const std::size_t length =
         lengthIn(std::string_view(pending).substr(begin, headEnd - begin)).value_or(0);

@@ -11,13 +11,14 @@ namespace companion::language_server {
 /// Cuts a stream of bytes into the bodies of messages.
 class MessageStream {
 public:
-    /// No message is longer; a head that tells more is broken.
+    /// No message is longer; a head that tells more is broken, as is one that is longer itself.
     static constexpr std::size_t kLongestBody = std::size_t{256} * 1024 * 1024;
+    static constexpr std::size_t kLongestHead = std::size_t{64} * 1024;
 
     void feed(std::string_view bytes) { pending.append(bytes); }
 
-    /// The next body, in the order of their coming; nothing if more bytes are needed. A head that
-    /// tells no length gives an empty body, and the stream goes on behind it.
+    /// The next body, in the order of their coming; nothing if more bytes are needed. A broken
+    /// head gives an empty body, and the stream goes on behind it.
     std::optional<std::string> next();
 
 private:

@@ -54,7 +54,7 @@ private:
     void enterWidget(const WidgetNode& widget);
     void enterStore(const SetMemberExpression& store);
     void enterAssignment(const AssignmentExpression& assignment);
-    void enterMember(const GetExpression& member);
+    void enterMember(const GetExpression& get);
     void enterCall(const CallExpression& call);
 
     template <typename Node>

@@ -217,7 +217,8 @@ std::string remarksAbove(const Code& code, const Declaration& declaration) {
             words.remove_suffix(kCommentSign.size());
         }
         while (!words.empty() && words.front() == ' ') words.remove_prefix(1);
-        remarks = std::string(words) + (remarks.empty() ? "" : "\n") + remarks;
+        if (!remarks.empty()) remarks.insert(0, "\n");
+        remarks.insert(0, words);
         below = comment->piece.begin;
     }
     return remarks;

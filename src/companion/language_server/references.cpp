@@ -52,13 +52,8 @@ std::vector<Place> definitionOf(const Analysis& analysis, const ModuleOutlines& 
     }
     const KnownName& name = analysis.names().names[use->name];
     const auto own = analysis.names().definitionOf(name.key);
-    if (own && (own->kind == UseKind::Definition || name.isLocal)) {
-        return {{analysis.uri, analysis.places.rangeOf(own->range)}};
-    }
-    const auto elsewhere = definitionInModules(modules, name.key);
-    if (!elsewhere.empty()) return elsewhere;
-    if (!own) return {};
-    return {{analysis.uri, analysis.places.rangeOf(own->range)}};
+    if (own) return {{analysis.uri, analysis.places.rangeOf(own->range)}};
+    return definitionInModules(modules, name.key);
 }
 
 std::vector<Place> referencesOf(const std::vector<AnalysisPointer>& program, std::size_t offset,

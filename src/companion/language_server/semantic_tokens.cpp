@@ -23,7 +23,7 @@ enum Type : std::size_t {
     kNumber,
     kComment,
     kClass,
-    kTypeCount,
+    kMethod,
 };
 
 std::optional<Type> typeOf(NameKind kind) {
@@ -37,6 +37,14 @@ std::optional<Type> typeOf(NameKind kind) {
         case NameKind::Member: return kProperty;
         default: return kVariable;
     }
+}
+
+/// What is called is a function, though it be declared in another file.
+std::optional<Type> typeOfName(const Code& code, std::size_t index, NameKind kind) {
+    const bool isCalled = code.isMarkAt(index + 1, "(");
+    if (isCalled && kind == NameKind::Variable) return kFunction;
+    if (isCalled && kind == NameKind::Member) return kMethod;
+    return typeOf(kind);
 }
 
 std::optional<Type> typeOfWord(const Code& code, std::size_t index) {
@@ -90,8 +98,9 @@ void addByLines(std::string_view text, SemanticToken token, std::vector<Semantic
 
 const std::vector<std::string>& semanticTokenTypes() {
     static const std::vector<std::string> types = {
-        "keyword",  "operator",  "function", "struct", "interface", "enum",    "enumMember",
-        "variable", "parameter", "property", "string", "number",    "comment", "class",
+        "keyword", "operator",   "function", "struct",    "interface",
+        "enum",    "enumMember", "variable", "parameter", "property",
+        "string",  "number",     "comment",  "class",     "method",
     };
     return types;
 }
@@ -105,7 +114,8 @@ std::vector<SemanticToken> semanticTokensOf(const Analysis& analysis) {
         const Range range = code.at(at).range();
         while (use != names.uses.end() && use->range.begin < range.begin) ++use;
         const bool isName = use != names.uses.end() && use->range.begin == range.begin;
-        const auto type = isName ? typeOf(names.names[use->name].kind) : typeOf(code, at);
+        const auto type =
+            isName ? typeOfName(code, at, names.names[use->name].kind) : typeOf(code, at);
         const bool isDeclaration = isName && use->kind == UseKind::Definition;
         if (type) addByLines(analysis.source.text, {range, *type, isDeclaration}, tokens);
     }

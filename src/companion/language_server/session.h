@@ -16,7 +16,7 @@ struct Session {
     Moment now;  ///< Of the message that is being answered.
 };
 
-/// A request that the server answers, and how. Completion has a row of its own here as well.
+/// A request that the server answers, and how: another is another row.
 struct Question {
     const char* method;
     Json (*answer)(Session& session, const Json& params);
