@@ -279,6 +279,16 @@ TEST(SignatureAnswer, LeavesTheReceiverOfAMethodOut) {
     EXPECT_EQ(method["signatures"][0]["label"], "பாடு(ஒலி)");
 }
 
+TEST(SignatureAnswer, KnowsHowAStructureIsMade) {
+    const Json made =
+        Marked(
+            "கட்டமைப்பு பறவை:\n    ஒலி = 1\n    செயல் துவக்கம்(தான், சத்தம்):\n        தான்.ஒலி = சத்தம்\n"
+            "கிளி = பறவை(‸")
+            .ask("signatureHelp");
+    ASSERT_FALSE(made.is_null());
+    EXPECT_EQ(made["signatures"][0]["label"], "பறவை(சத்தம்)");
+}
+
 // ---- Colours ----
 
 TEST(SemanticAnswer, FollowsTheSource) {

@@ -42,9 +42,9 @@ public:
         : compiled(compiled), at(compiled.parser->current) {}
 
     bool isAt(TokenType type, int behind = 0) const {
-        const auto index = static_cast<std::size_t>(at + behind);
-        return at + behind >= 0 && index < compiled.tokens.size() &&
-               compiled.tokens[index].type == type;
+        const int index = at + behind;
+        return index >= 0 && static_cast<std::size_t>(index) < compiled.tokens.size() &&
+               compiled.tokens[static_cast<std::size_t>(index)].type == type;
     }
     bool isAtLineEnd() const {
         return at > 0 && (isAt(TokenType::NEWLINE) || isAt(TokenType::END_OF_FILE));

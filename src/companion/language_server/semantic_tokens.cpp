@@ -84,13 +84,13 @@ std::optional<Type> typeOf(const Code& code, std::size_t index) {
 void addByLines(std::string_view text, SemanticToken token, std::vector<SemanticToken>& tokens) {
     Range rest = token.range;
     while (rest.begin < rest.end) {
-        const std::size_t end =
-            std::min(std::min(text.find('\n', rest.begin), text.find('\r', rest.begin)), rest.end);
-        if (end > rest.begin) {
-            token.range = {rest.begin, end};
+        const std::string_view words = text.substr(rest.begin, rest.end - rest.begin);
+        const std::size_t length = std::min(words.find_first_of("\r\n"), words.size());
+        if (length > 0) {
+            token.range = {rest.begin, rest.begin + length};
             tokens.push_back(token);
         }
-        rest.begin = end + 1;
+        rest.begin += length + 1;
     }
 }
 

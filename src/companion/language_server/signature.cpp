@@ -8,6 +8,8 @@ namespace companion::language_server {
 
 namespace {
 
+constexpr std::string_view kStart = "துவக்கம்";
+
 /// The innermost call that is open at `offset`.
 std::optional<Opening> callAround(const Code& code, std::size_t offset) {
     const auto open = code.openAt(offset);
@@ -47,6 +49,20 @@ Signature signatureOf(const Code& code, const Declaration& declaration) {
     return signature;
 }
 
+/// A structure is called with what its துவக்கம் takes behind the receiver.
+std::optional<Signature> structureSignature(const Code& code,
+                                            const std::vector<Declaration>& outline,
+                                            std::string_view name) {
+    for (const Declaration& method : outline) {
+        const bool isStart = method.kind == DeclarationKind::Method && method.name == kStart;
+        if (!isStart || !method.parent || outline[*method.parent].name != name) continue;
+        Declaration called = method;
+        called.name = name;
+        return signatureOf(code, called);
+    }
+    return std::nullopt;
+}
+
 std::optional<Signature> declaredSignature(const Code& code,
                                            const std::vector<Declaration>& outline,
                                            std::string_view name, bool isMember) {
@@ -55,7 +71,7 @@ std::optional<Signature> declaredSignature(const Code& code,
             return signatureOf(code, declaration);
         }
     }
-    return std::nullopt;
+    return isMember ? std::nullopt : structureSignature(code, outline, name);
 }
 
 /// The parameters of a form such as `வை(பட்டியல், இடம், மதிப்பு)`.
