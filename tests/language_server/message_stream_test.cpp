@@ -38,8 +38,9 @@ TEST(MessageStream, ReadsHeadsOfAnyKind) {
 }
 
 TEST(MessageStream, GoesOnBehindABrokenHead) {
-    for (const char* head : {"Content-Length: -5", "Content-Length: abc", "Content-Length:",
-                             "Content-Length: 99999999999999999999", "Something: else", ""}) {
+    for (const char* head : {"Content-Length: -5", "Content-Length: abc",
+                             "Content-Length:", "Content-Length: 99999999999999999999",
+                             "Content-Length: 999999999", "Something: else", ""}) {
         MessageStream stream;
         stream.feed(std::string(head) + "\r\n\r\n" + framed("{}"));
         EXPECT_EQ(stream.next(), "") << head;
@@ -68,6 +69,7 @@ TEST(JsonRepair, LeavesSoundTextAlone) {
 TEST(JsonRepair, ReplacesHalvesOfPairs) {
     EXPECT_EQ(repairedJson("\"\\ud83dx\""), "\"\\ufffdx\"");
     EXPECT_EQ(repairedJson("\"\\ude00\""), "\"\\ufffd\"");
+    EXPECT_EQ(repairedJson("\"\\ude00\\ude00\""), "\"\\ufffd\\ufffd\"");
     EXPECT_EQ(repairedJson("\"\\ud83d\\ud83d\\ude00\""), "\"\\ufffd\\ud83d\\ude00\"");
     EXPECT_EQ(repairedJson("\"\\\\\\ud83d\""), "\"\\\\\\ufffd\"");
 }

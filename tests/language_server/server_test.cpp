@@ -249,6 +249,14 @@ TEST(Findings, AreTakenBackWhenADocumentIsClosed) {
     EXPECT_TRUE(client.published(kUri).is_null());
 }
 
+TEST(Findings, AreNoMoreThanAnybodyReads) {
+    Client client;
+    std::string text;
+    for (int i = 0; i < 3000; i++) text += "+ ";
+    client.open(kUri, text);
+    EXPECT_EQ(client.published(kUri).size(), 1000U);
+}
+
 // ---- Modules ----
 
 constexpr const char* kMain =
@@ -284,6 +292,33 @@ TEST(Modules, AreKnownWhileALineIsBeingWritten) {
     const Json definition = client.ask("textDocument/definition", Client::at(kMain, 1, 1));
     ASSERT_EQ(definition.size(), 1U);
     EXPECT_EQ(definition[0]["uri"], kModule);
+}
+
+TEST(Modules, AreRenamedTogetherWithTheirImporters) {
+    Client client;
+    client.open(kModule, "செயல் பாடு(அ):\n    அச்சிடு(அ)\n");
+    client.open(kMain, "நூஇறக்கி \"tools\"\nபாடு(1)\n");
+    for (const char* uri : {kModule, kMain}) {
+        Json params = uri == kMain ? Client::at(kMain, 1, 1) : Client::at(kModule, 0, 7);
+        params["newName"] = "பாடல்";
+        const Json changes = client.ask("textDocument/rename", params)["changes"];
+        ASSERT_EQ(changes.size(), 2U) << uri;
+        EXPECT_EQ(changes[kModule][0]["range"]["start"]["character"], 6);
+        EXPECT_EQ(changes[kMain][0]["range"]["start"]["line"], 1);
+    }
+    Json local = Client::at(kModule, 0, 12);
+    local["newName"] = "பாடல்";
+    EXPECT_EQ(client.ask("textDocument/rename", local)["changes"].size(), 1U);
+}
+
+/// A module of the library is found by its absolute path: nobody's to change.
+TEST(Modules, OfTheLibraryKeepTheirNames) {
+    Client client;
+    client.open(kModule, "செயல் பாடு(அ):\n    அச்சிடு(அ)\n");
+    client.open(kMain, "நூஇறக்கி \"/nowhere/tools\"\nபாடு(1)\n");
+    const Json refused = client.ask("textDocument/prepareRename", Client::at(kMain, 1, 1));
+    ASSERT_TRUE(refused.contains("message")) << refused.dump();
+    EXPECT_NE(refused["message"].get<std::string>().find("நூலில்"), std::string::npos);
 }
 
 TEST(Modules, MayImportEachOther) {
