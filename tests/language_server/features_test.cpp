@@ -203,6 +203,14 @@ TEST(ReferenceAnswer, TellsLocalsFromShared) {
         "0:0 3:8 4:5");
 }
 
+/// A function doesn't see the loop variables around it.
+TEST(ReferenceAnswer, KeepsFunctionsApartFromTheLoopAroundThem) {
+    EXPECT_EQ(Marked::starts(
+                  Marked("ஒவ்வொன்றாக ஆ இல் வரம்பு(3):\n    செயல் பாடு():\n        அச்சிடு(ஆ)\nஆ‸ = 1\n")
+                      .ask("references")),
+              "2:16 3:0");
+}
+
 TEST(ReferenceAnswer, FindsMembersEnumerationsAndTextsThatAreNames) {
     EXPECT_EQ(Marked::starts(Marked("கட்டமைப்பு பறவை:\n    சிற‸கு = 2\nகிளி = பறவை()\nகிளி.சிறகு = "
                                     "3\nஅச்சிடு(கிளி.சிறகு, {\"சிறகு\": 1})\n")
@@ -293,7 +301,7 @@ TEST(SignatureAnswer, KnowsHowAStructureIsMade) {
 
 TEST(SemanticAnswer, FollowsTheSource) {
     Marked marked(
-        "செயல் பாடு(அ):\n    அச்சிடு(அ, \"இ\\n\") ஃ உரை\nவகை நிறங்கள்:\n    சிவந்தது\nவிடு\nபாடு(1)\n");
+        "செயல் பாடு(அ):\n    அச்சிடு(அ, \"இ\\n\") ஃ உரை\nவகை நிறங்கள்:\n    சிவந்தது\nவிடு\nவேறு(1)\n");
     const Json data = marked.ask("semanticTokens/full")["data"];
     ASSERT_EQ(data.size() % 5, 0U);
     const companion::language_server::TextPlaces places(marked.source);
@@ -316,7 +324,7 @@ TEST(SemanticAnswer, FollowsTheSource) {
     EXPECT_EQ(told,
               "செயல்=keyword பாடு=function! அ=parameter! அச்சிடு=keyword அ=parameter "
               "\"இ\\n\"=string ஃ உரை=comment வகை=keyword நிறங்கள்=enum! சிவந்தது=enumMember! "
-              "விடு=keyword பாடு=function 1=number ");
+              "விடு=keyword வேறு=function 1=number ");
 }
 
 TEST(SemanticAnswer, KeepsEachTokenInItsLine) {
