@@ -26,11 +26,7 @@ const CodePiece* pieceIn(const std::vector<CodePiece>& pieces, std::size_t offse
                          [](std::size_t at, const CodePiece& p) { return at < p.piece.begin; });
     if (behind == pieces.begin()) return nullptr;
     const CodePiece& piece = *(behind - 1);
-    if (offset < piece.piece.end) return &piece;
-    if (offset > piece.piece.end) return nullptr;
-    // A word ends here: a mark right behind it, or right before, counts less.
-    if (piece.isWord() || behind - 1 == pieces.begin()) return &piece;
-    return &piece;
+    return offset <= piece.piece.end ? &piece : nullptr;
 }
 
 }  // namespace
@@ -83,7 +79,7 @@ void Code::pairBrackets() {
 const CodePiece* Code::pieceAt(std::size_t offset) const {
     const CodePiece* piece = pieceIn(code, offset);
     if (piece != nullptr && offset < piece->piece.end) {
-        // Between a word and a mark behind it the word is meant.
+        // Between a word and a mark behind it one asks for the word.
         const bool hasWordBefore = piece != code.data() && offset == piece->piece.begin &&
                                    (piece - 1)->piece.end == offset && (piece - 1)->isWord();
         return hasWordBefore && !piece->isWord() ? piece - 1 : piece;
