@@ -15,6 +15,8 @@ const std::vector<Command>& commands() {
          runExplain},
         {"வெளியிடு", "publish", "கோப்பு கோப்புறை", "வலைதளத்தை எந்த வழங்கியிலும் இயங்கும் கோப்புறையாக எழுதும்",
          runPublish},
+        {"மொழிவழங்கி", "lsp", "[--stdio]", "நிரல் எழுதும் செயலிகளுக்குப் பிழைகளையும் விளக்கங்களையும் சொல்லும்",
+         runLanguageServer},
     };
     return all;
 }

@@ -27,5 +27,6 @@ int runRun(const Arguments& arguments);
 int runNew(const Arguments& arguments);
 int runExplain(const Arguments& arguments);
 int runPublish(const Arguments& arguments);
+int runLanguageServer(const Arguments& arguments);
 
 }  // namespace companion

@@ -10,3 +10,6 @@ constexpr std::size_t kFreeLength = 3;
 
 /// The words that a longer name may not be one edit away from.
 std::vector<std::string_view> spelledKeywords();
+
+/// The keyword that one letter more, less or changed makes of `word`; empty if there is none.
+std::string_view misspeltKeyword(std::string_view word);

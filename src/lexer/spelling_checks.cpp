@@ -44,6 +44,16 @@ std::vector<std::string_view> spelledKeywords() {
     return {std::begin(kSpelledWords), std::end(kSpelledWords)};
 }
 
+std::string_view misspeltKeyword(std::string_view word) {
+    const CodePoints letters = splitCodePoints(word);
+    if (letters.size() <= kFreeLength) return {};
+    const std::vector<CodePoints>& keywords = spelledWords();
+    for (std::size_t at = 0; at < keywords.size(); at++) {
+        if (isOneEditApart(letters, keywords[at])) return kSpelledWords[at];
+    }
+    return {};
+}
+
 /// The cursor stands behind `word` and stays there. A line end between the halves ends the look.
 void Lexer::checkKeywordSpacing(std::string_view word) {
     int at = position;
@@ -61,9 +71,5 @@ void Lexer::checkKeywordSpacing(std::string_view word) {
 
 /// A name within one edit of a spelled word is refused, with no way around it. Meant.
 void Lexer::checkKeywordTypo(std::string_view word) {
-    const CodePoints letters = splitCodePoints(word);
-    if (letters.size() <= kFreeLength) return;
-    for (const CodePoints& keyword : spelledWords()) {
-        if (isOneEditApart(letters, keyword)) பிழை("பொழில்-113");
-    }
+    if (!misspeltKeyword(word).empty()) பிழை("பொழில்-113");
 }

@@ -137,7 +137,8 @@ private:
     bool lookAtSign(const Piece& word, std::size_t at, CodePoint point);
     void lookAtDigits(const Piece& word, std::size_t at);
     SignKind kindBefore(const Piece& word, std::size_t at) const;
-    void passQuoted(std::size_t quote, std::size_t width);
+    Range rowFrom(const Piece& word, std::size_t at) const;
+    void tellQuote(Range quote);
     void lookForOtherScript(const Piece& word);
     void lookAtSpelling(const Piece& word);
     void lookAtNumber(const Piece& number);
@@ -148,6 +149,7 @@ private:
     void lookAtComment(const Piece& piece);
     void lookAtMark(const Piece& mark);
     void tellOperator(Range sign, bool isAtWord, std::string_view word);
+    std::string apartFromNeighbours(Range sign, std::string word) const;
     bool passForeignComment(const Piece& mark);
     bool passColour(const Piece& mark);
 
@@ -226,22 +228,19 @@ bool MarkCheck::lookAtSign(const Piece& word, std::size_t at, CodePoint point) {
     const bool isInRow = sign.kind == kindBefore(word, at);
     switch (sign.kind) {
         case SignKind::Invisible:
-            if (!isInRow) findings.add("துணை-107", range);
+            if (!isInRow) findings.add("துணை-107", range, {}, {rowFrom(word, at), ""});
             return false;
         case SignKind::Blank:
-            if (!isInRow) findings.add("துணை-108", range);
+            if (!isInRow) findings.add("துணை-108", range, {}, {rowFrom(word, at), " "});
             return false;
         case SignKind::Digit:
             if (!isInRow) lookAtDigits(word, at);
             return false;
         case SignKind::Punctuation:
-            findings.add("துணை-110", range, {shown, sign.meant});
+            findings.add("துணை-110", range, {shown, sign.meant}, {range, sign.meant});
             return false;
         case SignKind::Operator: tellOperator(range, at > word.begin, sign.meant); return false;
-        case SignKind::Quote:
-            findings.add("துணை-112", range, {shown});
-            passQuoted(at, point.width);
-            return true;
+        case SignKind::Quote: tellQuote(range); return true;
         default: return false;
     }
 }
@@ -257,7 +256,8 @@ void MarkCheck::lookAtDigits(const Piece& word, std::size_t at) {
         meant += sign.meant;
         end += point.width;
     }
-    findings.add("துணை-111", {at, end}, {std::string(source.slice({at, end})), meant});
+    const Range digits{at, end};
+    findings.add("துணை-111", digits, {std::string(source.slice(digits)), meant}, {digits, meant});
 }
 
 /// The kind of the character before the one at `at`, in the same word.
@@ -268,16 +268,38 @@ SignKind MarkCheck::kindBefore(const Piece& word, std::size_t at) const {
     return signOf(codePointAt(text, last).value).kind;
 }
 
-/// Goes on behind the sign that closes a text in such quotes, if its line holds one.
-void MarkCheck::passQuoted(std::size_t quote, std::size_t width) {
-    const std::size_t lineEnd = lineEndBehind(quote);
-    for (std::size_t at = quote + width; at < lineEnd;) {
-        const CodePoint point = codePointAt(text, at);
-        at += point.width;
-        const bool closes = point.value == '"' ||
-                            (point.value >= 0x80 && signOf(point.value).kind == SignKind::Quote);
-        if (closes) return reader.continueAt(at);
+/// Those of the same kind as the character at `at` that follow it in its word.
+Range MarkCheck::rowFrom(const Piece& word, std::size_t at) const {
+    const SignKind kind = signOf(codePointAt(text, at).value).kind;
+    std::size_t end = at;
+    while (end < word.end) {
+        const CodePoint point = codePointAt(text, end);
+        if (signOf(point.value).kind != kind) break;
+        end += point.width;
     }
+    return {at, end};
+}
+
+/// A quote of another kind. Goes on behind the sign that closes a text in such quotes, if its line
+/// holds one; else nobody knows where the text was to end.
+void MarkCheck::tellQuote(Range quote) {
+    const std::vector<std::string> parts = {std::string(source.slice(quote))};
+    const std::size_t lineEnd = lineEndBehind(quote.begin);
+    const bool isFence = text.substr(quote.begin, 2) == "``";  // of code that was copied
+    for (std::size_t at = quote.end; at < lineEnd && !isFence;) {
+        const CodePoint point = codePointAt(text, at);
+        const bool closes = point.value == '"' ||
+                            (point.value == '`' && text[quote.begin] == '`') ||
+                            (point.value >= 0x80 && signOf(point.value).kind == SignKind::Quote);
+        if (closes) {
+            const Range whole{quote.begin, at + point.width};
+            const std::string inside(source.slice({quote.end, at}));
+            findings.add("துணை-112", quote, parts, {whole, '"' + inside + '"'});
+            return reader.continueAt(whole.end);
+        }
+        at += point.width;
+    }
+    findings.add("துணை-112", quote, parts);
     reader.continueAt(lineEnd);
 }
 
@@ -311,7 +333,7 @@ void MarkCheck::lookAtSpelling(const Piece& word) {
     if (spelling.isSplit) {
         const std::string whole = composed(written);
         const bool isAnother = isWordOfLanguage(whole) || isNamed(whole);
-        findings.add(isAnother ? "துணை-119" : "துணை-120", range, {shown, whole});
+        findings.add(isAnother ? "துணை-119" : "துணை-120", range, {shown, whole}, {range, whole});
     }
     if (spelling.strayAt != std::string_view::npos) {
         const std::size_t at = word.begin + spelling.strayAt;
@@ -320,7 +342,7 @@ void MarkCheck::lookAtSpelling(const Piece& word) {
     if (spelling.isLookAlike) {
         const std::string usual = withUsualLetters(written);
         if (isWordOfLanguage(usual) || isNamed(usual)) {
-            findings.add("துணை-122", range, {shown, usual});
+            findings.add("துணை-122", range, {shown, usual}, {range, usual});
         }
     }
 }
@@ -339,7 +361,8 @@ void MarkCheck::lookForGluedComment(const Piece& word) {
     if (letters.size() <= kCommentSign.size()) return;
     const std::size_t sign = letters.size() - kCommentSign.size();
     if (letters.substr(sign) != kCommentSign) return;
-    findings.add("துணை-118", {word.begin + sign, word.end});
+    const Range glued{word.begin + sign, word.end};
+    findings.add("துணை-118", glued, {}, {{glued.begin, glued.begin}, " "});
     reader.continueAt(lineEndBehind(word.end));
 }
 
@@ -369,7 +392,7 @@ void MarkCheck::lookAtComment(const Piece& piece) {
     if (rest.substr(0, kTamilWidth) != "ப") {
         if (before && before->kind == PieceKind::Number && before->end == piece.begin &&
             text[piece.begin - 1] != '%') {
-            findings.add("துணை-118", {piece.begin, from});
+            findings.add("துணை-118", {piece.begin, from}, {}, {{piece.begin, piece.begin}, " "});
         }
         return;
     }
@@ -393,15 +416,14 @@ void MarkCheck::lookAtMark(const Piece& mark) {
     const char byte = text[mark.begin];
     const Range range{mark.begin, mark.end};
     if (mark.end - mark.begin > 1) {
-        findings.add("துணை-101", range);
+        findings.add("துணை-101", range, {}, {range, ""});
     } else if (byte == '\0') {
-        findings.add("துணை-109", range);
+        findings.add("துணை-109", range, {}, {range, ""});
         reader.continueAt(text.size());
     } else if (byte == '`') {
-        findings.add("துணை-112", range, {"`"});
-        passQuoted(mark.begin, 1);
+        tellQuote(range);
     } else if (static_cast<unsigned char>(byte) < ' ' || byte == '\x7F') {
-        findings.add("துணை-107", range);
+        findings.add("துணை-107", range, {}, {range, ""});
     } else if (!passColour(mark) && !passForeignComment(mark)) {
         const AsciiOperator found = asciiOperatorAt(text.substr(mark.begin));
         if (found.sign.empty()) return;
@@ -421,7 +443,16 @@ void MarkCheck::tellOperator(Range sign, bool isAtWord, std::string_view word) {
                               !isAsciiMark(static_cast<unsigned char>(text[sign.end]));
     if (word == "கழி" && isAtWord && isBeforeWord) return findings.add("துணை-125", sign, {shown});
     const std::string_view meant = isAtWord || isBehindValue() ? word : wordInFrontOf(word);
-    findings.add("துணை-115", sign, {shown, std::string(meant)});
+    findings.add("துணை-115", sign, {shown, std::string(meant)},
+                 {sign, apartFromNeighbours(sign, std::string(meant))});
+}
+
+/// `word` with blanks where the neighbours of `sign` would run into it.
+std::string MarkCheck::apartFromNeighbours(Range sign, std::string word) const {
+    const auto isBlank = [](char byte) { return byte == ' ' || byte == '\t' || byte == '\n'; };
+    if (sign.begin > 0 && !isBlank(text[sign.begin - 1])) word = ' ' + word;
+    if (sign.end < text.size() && !isBlank(text[sign.end])) word += ' ';
+    return word;
 }
 
 bool MarkCheck::passForeignComment(const Piece& mark) {
@@ -431,7 +462,12 @@ bool MarkCheck::passForeignComment(const Piece& mark) {
         if (rest.substr(0, known.size()) == known) sign = known;
     }
     if (sign.empty()) return false;
-    findings.add("துணை-116", {mark.begin, mark.begin + sign.size()}, {std::string(sign)});
+    const Range range{mark.begin, mark.begin + sign.size()};
+    if (sign == "/*") {
+        findings.add("துணை-116", range, {std::string(sign)});
+    } else {
+        findings.add("துணை-116", range, {std::string(sign)}, {range, std::string(kCommentSign)});
+    }
     const std::size_t end = sign == "/*" ? rest.find("*/") : std::string_view::npos;
     reader.continueAt(end == std::string_view::npos ? lineEndBehind(mark.begin)
                                                     : mark.begin + end + 2);
@@ -446,7 +482,9 @@ bool MarkCheck::passColour(const Piece& mark) {
     while (end < text.size() && isHexDigit(text[end])) end++;
     const std::size_t count = end - mark.end;
     if (count != 3 && count != 6 && count != 8) return false;
-    findings.add("துணை-124", {mark.begin, end}, {std::string(source.slice({mark.begin, end}))});
+    const Range colour{mark.begin, end};
+    const std::string written(source.slice(colour));
+    findings.add("துணை-124", colour, {written}, {colour, '"' + written + '"'});
     reader.continueAt(end);
     return true;
 }
