@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # readme_pictures.sh: makes the README's pictures from what is really printed: docs/report.png, the report of
-# docs/ஒருபிழை.பொழில், and docs/program.png, a program of the guide beside its output.
+# docs/ஒருபிழை.பொழில், docs/program.png, a program of the guide beside its output, and
+# docs/applications.png, pictures of the guide's applications.
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
@@ -44,3 +45,8 @@ program=docs/நிரல்கள்/07/சீட்டு
 node site/picture.mjs "$program" >"$work/program.html"
 photograph program 1200 700
 frame program '#fcfbf8' "$program.பொழில்" "$program.out"
+
+applications=()
+for name in 16/தேநீர்க்கடை 17/உணவகம் 16/கோலம்; do applications+=("docs/நிரல்கள்/$name.png"); done
+convert "${applications[@]}" -resize x420 -bordercolor '#dedbd1' -border 1 -bordercolor '#fcfbf8' -border 12x0 \
+    +append -colors 256 -set made-from "$(cat -- "${applications[@]}" | cksum)" PNG8:docs/applications.png

@@ -25,6 +25,8 @@ void expectMadeFrom(const std::string& picture, const std::vector<std::string>& 
 
 TEST(ReadmePictures, ShowWhatTheirFilesHold) {
     expectMadeFrom("report.png", {"ஒருபிழை.பொழில்"});
+    expectMadeFrom("applications.png",
+                   {"நிரல்கள்/16/தேநீர்க்கடை.png", "நிரல்கள்/17/உணவகம்.png", "நிரல்கள்/16/கோலம்.png"});
     expectMadeFrom("program.png", {"நிரல்கள்/07/சீட்டு.பொழில்", "நிரல்கள்/07/சீட்டு.out"});
 }
 
