@@ -27,7 +27,7 @@ let s:continues = {
     \ 'நிலை': ['நிலை'],
     \ 'மற்றவை': ['நிலை']}
 " Behind these no statement of their block comes.
-let s:ends = ['திரும்பு', 'நிறுத்து', 'தொடர்']
+let s:ends = ['திரும்பு', 'நிறுத்து', 'தொடர்', 'விடு']
 
 " A line without its comment, and without what its texts say.
 function s:CodeOf(lnum) abort
