@@ -4,7 +4,7 @@ for s:file in filter(readfile($POZHIL_TOLD), 'v:val =~# "^file "')
   let s:before = getline(1, '$')
   silent normal! gg=G
   let s:after = getline(1, '$')
-  for s:index in range(len(s:before))
+  for s:index in s:after ==# s:before ? [] : range(len(s:before))
     call Expect(expand('%:t') . ':' . (s:index + 1), s:after[s:index], s:before[s:index])
   endfor
   set nomodified
