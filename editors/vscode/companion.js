@@ -8,8 +8,8 @@ const {programAt} = require('./places');
 
 const selector = [{language: 'pozhil', scheme: 'file'}, {language: 'pozhil', scheme: 'untitled'}];
 
-const missingText = 'பொழில்-துணை கிடைக்கவில்லை. பொழிலின் scripts/install.sh-ஐ இயக்கி நிறுவுங்கள், அல்லது துணையின் இடத்தை அமைப்புகளில் சொல்லுங்கள்.';
-const brokenText = 'பொழில்-துணை வேலை செய்யவில்லை. அது இந்த நீட்சியோடு சேர்ந்த பதிப்பு தானா எனப் பாருங்கள்.';
+const missingText = 'பொழில்-துணை கிடைக்கவில்லை. பொழிலின் scripts/install.sh-ஐ இயக்கி நிறுவு, அல்லது துணையின் இடத்தை அமைப்புகளில் சொல்.';
+const brokenText = 'பொழில்-துணை வேலை செய்யவில்லை. அது இந்த நீட்சியோடு சேர்ந்த பதிப்புதானா எனப் பார்.';
 const openSettings = 'அமைப்பைத் திற';
 const tryAgain = 'மீண்டும் முயல்';
 

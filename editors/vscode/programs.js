@@ -50,7 +50,7 @@ class Programs {
     async open(commandFor) {
         const document = vscode.window.activeTextEditor?.document;
         if (document?.languageId !== 'pozhil') {
-            vscode.window.showWarningMessage('முதலில் ஒரு பொழில் நிரலைத் திறங்கள்.');
+            vscode.window.showWarningMessage('முதலில் ஒரு பொழில் நிரலைத் திற.');
             return;
         }
         if (!await document.save() || document.uri.scheme !== 'file') {

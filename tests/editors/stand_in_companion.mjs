@@ -38,7 +38,7 @@ if (command === 'check') {
     const problem = (line, column, severity, message) => JSON.stringify(
         {file: rest.at(-1), line, column, endLine: line, endColumn: column + 1, severity, code: 'துணை-112', message})
         .replace(/("[^"]*"):/g, '$1: ').replace(/,"/g, ', "');
-    process.stdout.write(`[\n  ${problem(2, 9, 'error', 'இரு பக்கமும் " இடுங்கள்.')},\n` +
+    process.stdout.write(`[\n  ${problem(2, 9, 'error', 'இரு பக்கமும் " இடு.')},\n` +
         `  ${problem(3, 1, 'warning', 'பெயர்: \\')}\n]\n`);
     process.exit(1);
 }

@@ -9,7 +9,7 @@ function s:HasCompanion() abort
     return 1
   endif
   echohl WarningMsg
-  echomsg "பொழில்-துணை கிடைக்கவில்லை. அதை நிறுவுங்கள், அல்லது அதன் இடத்தை g:pozhil_companion-இல் சொல்லுங்கள்."
+  echomsg "பொழில்-துணை கிடைக்கவில்லை. அதை நிறுவு, அல்லது அதன் இடத்தை g:pozhil_companion-இல் சொல்."
   echohl None
   return 0
 endfunction

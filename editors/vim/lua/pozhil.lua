@@ -12,7 +12,7 @@ local function tell_missing()
     if was_told then return end
     was_told = true
     vim.notify(
-        "பொழில்-துணை கிடைக்கவில்லை. அதை நிறுவுங்கள், அல்லது அதன் இடத்தை g:pozhil_companion-இல் சொல்லுங்கள்.",
+        "பொழில்-துணை கிடைக்கவில்லை. அதை நிறுவு, அல்லது அதன் இடத்தை g:pozhil_companion-இல் சொல்.",
         vim.log.levels.WARN)
 end
 

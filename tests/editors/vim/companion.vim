@@ -13,7 +13,7 @@ undo
 silent make!
 let s:found = filter(getqflist(), 'v:val.valid')
 call Expect('findings', map(copy(s:found), '[v:val.lnum, v:val.type, v:val.text]'),
-    \ [[2, 'e', 'இரு பக்கமும் " இடுங்கள்.'], [3, 'w', 'பெயர்: \']])
+    \ [[2, 'e', 'இரு பக்கமும் " இடு.'], [3, 'w', 'பெயர்: \']])
 call Expect('nothing else', len(getqflist()), 2)
 call Expect('the letter', getline(2)[s:found[0].col - 1:], '“வணக்கம்”)')
 call Expect('the file', bufname(s:found[0].bufnr), 'இடை வெளி.பொழில்')

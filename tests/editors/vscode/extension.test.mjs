@@ -175,7 +175,7 @@ test('what cannot be run is told', async () => {
     await seen.commands.get('pozhil.run')();
     open('சேமி.பொழில்', 'அ').saves = false;
     await seen.commands.get('pozhil.run')();
-    assert.deepEqual(seen.warnings, ['முதலில் ஒரு பொழில் நிரலைத் திறங்கள்.', 'நிரலைச் சேமித்த பின்பே இயக்க முடியும்.']);
+    assert.deepEqual(seen.warnings, ['முதலில் ஒரு பொழில் நிரலைத் திற.', 'நிரலைச் சேமித்த பின்பே இயக்க முடியும்.']);
     assert.deepEqual(seen.terminals, []);
 });
 
