@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # grammar.sh: makes anew what editors and the site know of the language's words, from the compiler's
-# tables: the grammar in editors/textmate, and how words sound, for the site's search.
+# tables: the grammars in editors/textmate, editors/vim and editors/kate, and how words sound, for the
+# site's search.
 set -euo pipefail
 CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # shellcheck source=scripts/messages.sh
@@ -21,5 +22,11 @@ write() {
     fi
     mv "$file.new" "$file"
 }
-write editors/textmate/pozhil.tmLanguage.json build/release/editor_grammar grammar src/editors/grammar_frame.json
+# write_grammar NOTATION FRAME FILE
+write_grammar() {
+    write "editors/$3" build/release/editor_grammar grammar "$1" "src/editors/$2"
+}
+write_grammar json grammar_frame.json textmate/pozhil.tmLanguage.json
+write_grammar vim vim_frame.vim vim/syntax/pozhil.vim
+write_grammar xml kate_frame.xml kate/pozhil.xml
 write site/sounds.json build/release/editor_grammar sounds

@@ -1,7 +1,10 @@
 // editor_grammar: writes what editors and the site need to know of the language's words.
-//   grammar FRAME   the grammar for editors, by the frame that the file FRAME holds
-//   sounds          how words sound, for the site's search
-//   words FILE...   what the scanner makes of each file's words, behind a line with the file's name
+//   grammar NOTATION FRAME   the grammar for editors, by the frame that the file FRAME holds, in
+//   the
+//                            notation json (most editors and the site), vim or xml (Kate)
+//   sounds                   how words sound, for the site's search
+//   words FILE...            what the scanner makes of each file's words, behind a line with the
+//   file's name
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -19,10 +22,17 @@ std::string textOf(const char* path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
+editors::Notation notationNamed(std::string_view name) {
+    if (name == "json") return editors::Notation::Json;
+    if (name == "vim") return editors::Notation::Vim;
+    if (name == "xml") return editors::Notation::Xml;
+    throw std::invalid_argument("unknown notation: " + std::string(name));
+}
+
 int run(int count, char** arguments) {
     const std::string_view wish = count > 1 ? arguments[1] : "";
-    if (wish == "grammar" && count == 3) {
-        std::cout << editors::grammarOf(textOf(arguments[2]));
+    if (wish == "grammar" && count == 4) {
+        std::cout << editors::grammarOf(textOf(arguments[3]), notationNamed(arguments[2]));
     } else if (wish == "sounds" && count == 2) {
         std::cout << editors::soundRows();
     } else if (wish == "words") {
@@ -31,7 +41,7 @@ int run(int count, char** arguments) {
             editors::tellWords(std::cout, textOf(arguments[at]));
         }
     } else {
-        std::cerr << "editor_grammar: grammar FRAME | sounds | words FILE...\n";
+        std::cerr << "editor_grammar: grammar json|vim|xml FRAME | sounds | words FILE...\n";
         return 2;
     }
     return std::cout.flush() ? 0 : 1;

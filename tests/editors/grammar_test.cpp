@@ -22,25 +22,57 @@ namespace {
 
 using editors::Group;
 using editors::isOf;
+using editors::Notation;
 
-std::string frame() { return readText(POZHIL_ROOT "/src/editors/grammar_frame.json"); }
+struct GrammarCase {
+    const char* name;
+    Notation notation;
+    const char* frame;
+    const char* file;
+};
 
-TEST(EditorGrammar, IsMadeFromTheTables) {
-    expectGolden({"grammar", "", POZHIL_ROOT "/editors/textmate/pozhil.tmLanguage.json"},
-                 editors::grammarOf(frame()));
+constexpr GrammarCase kGrammars[] = {
+    {"json", Notation::Json, "grammar_frame.json", "textmate/pozhil.tmLanguage.json"},
+    {"vim", Notation::Vim, "vim_frame.vim", "vim/syntax/pozhil.vim"},
+    {"xml", Notation::Xml, "kate_frame.xml", "kate/pozhil.xml"},
+};
+
+std::string frameOf(const GrammarCase& grammar) {
+    return readText(std::string(POZHIL_ROOT "/src/editors/") + grammar.frame);
 }
 
-TEST(EditorGrammar, LeavesNoMark) {
-    EXPECT_EQ(editors::grammarOf(frame()).find("⟨"), std::string::npos);
+class EditorGrammar : public testing::TestWithParam<GrammarCase> {};
+
+TEST_P(EditorGrammar, IsMadeFromTheTables) {
+    const GrammarCase& grammar = GetParam();
+    expectGolden({grammar.name, "", std::string(POZHIL_ROOT "/editors/") + grammar.file},
+                 editors::grammarOf(frameOf(grammar), grammar.notation));
 }
 
-TEST(EditorGrammar, RefusesAMarkThatMeansNothing) {
-    EXPECT_THROW(editors::grammarOf(frame() + "⟨keyword⟩"), std::invalid_argument);
-    EXPECT_THROW(editors::grammarOf(frame() + "⟨keywords"), std::invalid_argument);
+TEST_P(EditorGrammar, LeavesNoMark) {
+    const std::string text = editors::grammarOf(frameOf(GetParam()), GetParam().notation);
+    EXPECT_EQ(text.find("⟨"), std::string::npos);
 }
 
-TEST(EditorGrammar, RefusesAFrameThatLacksAGroup) {
-    EXPECT_THROW(editors::grammarOf("⟨keywords⟩"), std::invalid_argument);
+TEST_P(EditorGrammar, RefusesAMarkThatMeansNothing) {
+    const std::string frame = frameOf(GetParam());
+    for (const char* mark : {"⟨keyword⟩", "⟨any keyword⟩", "⟨some keywords⟩", "⟨all keywords"}) {
+        EXPECT_THROW(editors::grammarOf(frame + mark, GetParam().notation), std::invalid_argument)
+            << mark;
+    }
+}
+
+TEST_P(EditorGrammar, RefusesAFrameThatLacksAGroup) {
+    const char* one = GetParam().notation == Notation::Json ? "⟨keywords⟩" : "⟨all keywords⟩";
+    EXPECT_THROW(editors::grammarOf(one, GetParam().notation), std::invalid_argument);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, EditorGrammar, testing::ValuesIn(kGrammars),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+/// Vim passes over words of a list that aren't made of its letters alone.
+TEST(VimGrammar, RefusesAListOfWordsWithDots) {
+    EXPECT_THROW(editors::grammarOf("⟨all code-sections⟩", Notation::Vim), std::invalid_argument);
 }
 
 TEST(SiteSounds, AreMadeFromTheCompanionsRows) {

@@ -1,0 +1,1 @@
+autocmd BufNewFile,BufRead *.பொழில்,*.pozhil setfiletype pozhil
