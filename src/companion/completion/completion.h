@@ -1,0 +1,58 @@
+// What an editor offers while something is being written: words of the language, names of the
+// document, and Tamil for what is typed in Latin letters. Knows no editor and no protocol.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "companion/check/compiled_source.h"
+
+namespace companion::completion {
+
+enum class ItemKind {
+    Keyword,
+    Operator,
+    Function,
+    Method,
+    Variable,
+    Field,
+    Structure,
+    Enumeration,
+    EnumerationMember,
+    Module,
+    Widget,
+    Property,
+    Value,
+    Colour,
+    Text,  ///< Tamil for Latin letters.
+};
+
+struct CompletionItem {
+    std::string label;
+    ItemKind kind = ItemKind::Text;
+    std::string detail;         ///< One line: the form, or what kind of name it is.
+    std::string documentation;  ///< Tamil prose without markup.
+    std::string inserted;
+    /// The same with tab stops, `${1:...}`; empty if there are none. Further lines are indented
+    /// relative to the first.
+    std::string snippet;
+    std::string filterText;  ///< Begins with what was typed, so that the editor keeps the item.
+    std::string sortText;    ///< The order of the list.
+    Range replaced = {0, 0};
+};
+
+struct CompletionSettings {
+    bool transliterates = true;
+    std::size_t most = 80;                 ///< Items of a list.
+    std::vector<std::string> modulePaths;  ///< What imports may name.
+};
+
+/// The items for `offset`, in bytes, the likeliest first. They hold for what is typed now: with the
+/// next letter they are to be asked for anew. `readModule` may be empty.
+std::vector<CompletionItem> completionsAt(std::string_view text, std::size_t offset,
+                                          const ModuleReader& readModule,
+                                          const CompletionSettings& settings);
+
+}  // namespace companion::completion
