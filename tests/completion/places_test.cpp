@@ -2,6 +2,10 @@
 // values, modules.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
+#include "companion/completion/module_paths.h"
 #include "companion/descriptions/properties_of.h"
 #include "offered.h"
 
@@ -202,6 +206,21 @@ TEST(Places, ImportsNameModules) {
     EXPECT_EQ(items[0].inserted, "\"கணக்கு\"");
 }
 
+TEST(Places, ModulesLieInFolders) {
+    namespace fs = std::filesystem;
+    const fs::path folder = fs::u8path(testing::TempDir()) / "கோப்புறை_நூல்கள்";
+    fs::remove_all(folder);
+    fs::create_directories(folder / fs::u8path("உள்ளே"));
+    fs::create_directories(folder / ".git");
+    for (const char* name : {"கணக்கு.பொழில்", "உள்ளே/வரைதல்.pozhil", "குறிப்பு.txt", ".git/அ.பொழில்"}) {
+        std::ofstream(folder / fs::u8path(name)) << "\n";
+    }
+    EXPECT_EQ(companion::completion::modulePathsIn(folder.u8string()),
+              (Labels{"உள்ளே/வரைதல்.pozhil", "கணக்கு"}));
+    EXPECT_EQ(companion::completion::modulePathsIn((folder / "x").u8string()), Labels{});
+    fs::remove_all(folder);
+}
+
 // ---- Applications ----
 
 TEST(Places, AnApplicationHasSections) {
@@ -371,7 +390,7 @@ TEST(Inserted, BlocksAreIndentedAsTheDocumentIs) {
     EXPECT_EQ(itemAt("if¦", "எனில்").snippet, "எனில் ${1:நிபந்தனை}:\n    $0");
     EXPECT_EQ(itemAt("சுற்று மெய்:\n\tவிடு\nif¦", "எனில்").snippet, "எனில் ${1:நிபந்தனை}:\n\t$0");
     EXPECT_EQ(itemAt("சுற்று மெய்:\n  விடு\nif¦", "எனில்").snippet, "எனில் ${1:நிபந்தனை}:\n  $0");
-    EXPECT_EQ(itemAt("if¦", "எனில்").inserted, "எனில் நிபந்தனை:\n    ");
+    EXPECT_EQ(itemAt("if¦", "எனில்").inserted, "எனில்");
 }
 
 TEST(Inserted, AnOperatorStandsAlone) {

@@ -34,9 +34,9 @@ struct CompletionItem {
     ItemKind kind = ItemKind::Text;
     std::string detail;         ///< One line: the form, or what kind of name it is.
     std::string documentation;  ///< Tamil prose without markup.
-    std::string inserted;
-    /// The same with tab stops, `${1:...}`; empty if there are none. Further lines are indented
-    /// relative to the first.
+    std::string inserted;       ///< By an editor that knows no snippets.
+    /// The whole form with tab stops, `${1:...}`; empty if the word stands alone. Further lines are
+    /// indented relative to the first.
     std::string snippet;
     std::string filterText;  ///< Begins with what was typed, so that the editor keeps the item.
     std::string sortText;    ///< The order of the list.

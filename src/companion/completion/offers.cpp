@@ -397,8 +397,7 @@ void Offers::offerName(const DocumentName& name, int fit) {
                           name.kind == NameKind::Structure;
     if (isCalled && !isFollowedBy('(') && !around.place.isQuoted) {
         item.snippet = snippetOfCall(name.text, parameters);
-        item.inserted = withoutStops(item.snippet);
-        item.detail += ": " + item.inserted;
+        item.detail += ": " + withoutStops(item.snippet);
     }
     offer(found, fit, kNameRank, std::move(item));
 }
@@ -429,7 +428,7 @@ void Offers::offerWord(const Description& row, int fit) {
     item.detail = row.form;
     item.documentation = withTrap(row.summary, row.trap);
     if (!item.snippet.empty()) item.snippet.erase(0, written);
-    item.inserted = item.snippet.empty() ? item.label : withoutStops(item.snippet);
+    item.inserted = item.label;
     offer(found, fit, rankOf(row.word), std::move(item));
 }
 
