@@ -196,7 +196,7 @@ TEST(Places, ModulesBringTheirNames) {
 
 TEST(Places, ImportsNameModules) {
     CompletionSettings settings;
-    settings.modulePaths = {"கணக்கு", "வலைதளம்"};
+    settings.modulePaths = [] { return Labels{"கணக்கு", "வலைதளம்"}; };
     auto items = offered("நூஇறக்கி \"kana¦\"", settings);
     ASSERT_EQ(labelsOf(items), Labels{"கணக்கு"});
     EXPECT_EQ(items[0].inserted, "கணக்கு");

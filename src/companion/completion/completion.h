@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,8 +46,9 @@ struct CompletionItem {
 
 struct CompletionSettings {
     bool transliterates = true;
-    std::size_t most = 80;                 ///< Items of a list.
-    std::vector<std::string> modulePaths;  ///< What imports may name.
+    std::size_t most = 80;  ///< Items of a list.
+    /// What imports may name; asked for in an import alone. May be empty.
+    std::function<std::vector<std::string>()> modulePaths;
 };
 
 /// The items for `offset`, in bytes, the likeliest first. They hold for what is typed now: with the

@@ -346,8 +346,9 @@ void Offers::offerValue(const ValueDescription& row) {
 }
 
 void Offers::offerModules() {
+    if (!around.settings.modulePaths) return;
     const bool isQuoted = around.place.isQuoted;
-    for (const std::string& path : around.settings.modulePaths) {
+    for (const std::string& path : around.settings.modulePaths()) {
         offerPlain(path, ItemKind::Module, 0, isQuoted ? path : "\"" + path + "\"");
     }
 }
