@@ -117,7 +117,7 @@ TEST(DescribedWords, AreFoundByTheirSound) {
     }
     std::cout << found.words << " words: " << found.first << " first\n";
     EXPECT_GT(found.words, 140);
-    EXPECT_GE(found.first * 100, found.words * 95);
+    EXPECT_GE(found.first * 100, found.words * 98);
 }
 
 TEST(DescribedWords, OfApplicationsAreFoundByTheirSound) {
@@ -145,7 +145,7 @@ TEST(DescribedWords, PropertiesAreFoundInTheirWidget) {
     }
     std::cout << found.words << " properties: " << found.first << " first\n";
     EXPECT_GT(found.words, 300);
-    EXPECT_GE(found.first * 100, found.words * 95);
+    EXPECT_GE(found.first * 100, found.words * 98);
 }
 
 TEST(DescribedWords, ValuesAreFoundInTheirProperty) {
@@ -164,7 +164,7 @@ TEST(DescribedWords, ValuesAreFoundInTheirProperty) {
     }
     std::cout << found.words << " values: " << found.first << " first\n";
     EXPECT_GT(found.words, 70);
-    EXPECT_GE(found.first * 100, found.words * 90);
+    EXPECT_GE(found.first * 100, found.words * 98);
 }
 
 }  // namespace

@@ -12,8 +12,14 @@ using completion_test::offered;
 
 constexpr int kLines = 1000;
 constexpr int kRounds = 15;
-/// Many times what it takes on a quiet machine: tests run beside each other.
+/// Eight times what it takes on a quiet machine. Held where the code is optimised as a user has it.
 constexpr double kMostMilliseconds = 20;
+constexpr double kMostUnoptimised = 1000;
+#ifdef NDEBUG
+constexpr bool kIsOptimised = true;
+#else
+constexpr bool kIsOptimised = false;
+#endif
 
 std::string longDocument() {
     std::string text;
@@ -44,7 +50,7 @@ TEST(Latency, AListTakesLittleTime) {
     for (const std::string typed : {"ach¦", "¦", "அ = vid¦", "அ.v¦", "ஃ vanakkam¦", "kanakkidu¦"}) {
         const double median = medianOf(text + typed);
         std::cout << typed << " " << median << " ms\n";
-        EXPECT_LT(median, kMostMilliseconds) << typed;
+        EXPECT_LT(median, kIsOptimised ? kMostMilliseconds : kMostUnoptimised) << typed;
     }
 }
 

@@ -367,6 +367,13 @@ TEST(Places, NoNameIsOfferedThatIsRefused) {
     EXPECT_EQ(labelsAt("ஃ vilai¦").front(), "விலை");
 }
 
+TEST(Places, AWordCanBeAPropertyAndAWidget) {
+    const auto items = offered(page("வட்டத்தேர்வு(urai¦)"));
+    EXPECT_EQ(items.at(0).kind, ItemKind::Property);
+    EXPECT_EQ(items.at(1).kind, ItemKind::Widget);
+    EXPECT_EQ(items.at(1).label, "உரை");
+}
+
 // ---- What is written ----
 
 TEST(Inserted, ReplacesWhatWasTypedAndNoMore) {

@@ -317,6 +317,17 @@ TEST(Transliteration, FollowsTheRulesOfTheScript) {
     EXPECT_EQ(first("kaRi"), "கறி");
 }
 
+TEST(Transliteration, GoesThroughJoinedWords) {
+    const auto first = [](const char* typed) { return tamilFor(typed, {}, true, 3).at(0).word; };
+    EXPECT_EQ(first("mudhal_peyar"), "முதல்_பெயர்");
+    EXPECT_EQ(first("enni2"), "எண்ணி2");
+    EXPECT_EQ(first("vidai_"), "விடை_");
+    EXPECT_EQ(tamilFor("peyar_valli", {}, true, 3).at(1).word, "பெயர்_வள்ளி");
+    EXPECT_TRUE(tamilFor("_", {}, true, 3).empty());
+    EXPECT_TRUE(tamilFor("2", {}, true, 3).empty());
+    EXPECT_TRUE(tamilFor("a-b", {}, true, 3).empty());
+}
+
 TEST(Transliteration, WritesNoLetterThatNamesCannotHave) {
     for (const Row& row : kRows) {
         for (const auto& spelling : companion::completion::spellingsOf(row.typed, 10)) {

@@ -112,15 +112,19 @@ void List::addTamil(const DocumentNames& names) {
     }
 }
 
-/// In their order, each label once.
+/// In their order, each once: a word may be a property and a widget, but Tamil that is made up
+/// gives way to all else.
 std::vector<CompletionItem> List::finished() {
     constexpr std::size_t kDigits = 4;
     std::stable_sort(offers.begin(), offers.end(), comesFirst);
     std::vector<CompletionItem> items;
     std::set<std::string> labels;
+    std::set<std::pair<std::string, ItemKind>> known;
     for (Offer& entry : offers) {
         if (items.size() == settings.most) break;
-        if (!labels.insert(entry.item.label).second) continue;
+        const bool isNew = labels.insert(entry.item.label).second;
+        if (!known.insert({entry.item.label, entry.item.kind}).second) continue;
+        if (entry.item.kind == ItemKind::Text && !isNew) continue;
         CompletionItem item = std::move(entry.item);
         const std::string number = std::to_string(items.size());
         item.sortText = std::string(kDigits - std::min(kDigits, number.size()), '0') + number;

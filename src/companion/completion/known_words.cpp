@@ -184,11 +184,10 @@ private:
     std::vector<Spelling> found;
 };
 
-}  // namespace
-
-std::vector<TamilCandidate> tamilFor(std::string_view typed,
-                                     const std::vector<std::string>& documentWords,
-                                     bool withKnownWords, std::size_t most) {
+/// The candidates for letters alone.
+std::vector<TamilCandidate> tamilForLetters(std::string_view typed,
+                                            const std::vector<std::string>& documentWords,
+                                            bool withKnownWords, std::size_t most) {
     const std::vector<Spelling> made = spellingsOf(typed, most);
     if (made.empty()) return {};
     Candidates candidates(typed);
@@ -196,6 +195,29 @@ std::vector<TamilCandidate> tamilFor(std::string_view typed,
     if (withKnownWords) candidates.offerKnown();
     for (const Spelling& spelling : made) candidates.offer(spelling.word, spelling.cost);
     return candidates.best(most);
+}
+
+bool joinsWords(char byte) { return byte == '_' || isAsciiDigit(byte); }
+
+}  // namespace
+
+std::vector<TamilCandidate> tamilFor(std::string_view typed,
+                                     const std::vector<std::string>& documentWords,
+                                     bool withKnownWords, std::size_t most) {
+    const auto isJoint = [](char byte) { return joinsWords(byte); };
+    const auto joint = std::find_if(typed.begin(), typed.end(), isJoint);
+    const auto end = static_cast<std::size_t>(joint - typed.begin());
+    auto candidates = tamilForLetters(typed.substr(0, end), documentWords, withKnownWords, most);
+    if (joint == typed.end()) return candidates;
+    // முதல்_எண்: what is written behind the joint has the say, the likeliest stands before it.
+    const auto next =
+        static_cast<std::size_t>(std::find_if_not(joint, typed.end(), isJoint) - typed.begin());
+    if (candidates.empty()) return {};
+    const std::string before = candidates.front().word + std::string(typed.substr(end, next - end));
+    if (next == typed.size()) return {{before, candidates.front().isOfDocument}};
+    candidates = tamilFor(typed.substr(next), documentWords, withKnownWords, most);
+    for (TamilCandidate& candidate : candidates) candidate.word.insert(0, before);
+    return candidates;
 }
 
 }  // namespace companion::completion
