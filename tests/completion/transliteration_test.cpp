@@ -263,8 +263,8 @@ Figures figuresOf(bool withKnownWords) {
         int rank = -1;
         std::string shown;
         for (std::size_t at = 0; at < candidates.size(); at++) {
-            shown += " " + candidates[at].word;
-            if (candidates[at].word == row.wanted) rank = static_cast<int>(at);
+            shown += " " + candidates[at];
+            if (candidates[at] == row.wanted) rank = static_cast<int>(at);
         }
         figures.rows++;
         figures.first += rank == 0 ? 1 : 0;
@@ -317,12 +317,19 @@ TEST(Transliteration, FollowsTheRulesOfTheScript) {
     EXPECT_EQ(first("kaRi"), "கறி");
 }
 
+TEST(Transliteration, PrefersWhatTheDocumentHas) {
+    EXPECT_EQ(tamilFor("malai", {}, true, 3).at(0), "மலை");
+    EXPECT_EQ(tamilFor("malai", {"மழை"}, true, 3).at(0), "மழை");
+    // But not against the letters that were typed.
+    EXPECT_EQ(tamilFor("pazham", {"பலம்"}, true, 3).at(0), "பழம்");
+}
+
 TEST(Transliteration, GoesThroughJoinedWords) {
-    const auto first = [](const char* typed) { return tamilFor(typed, {}, true, 3).at(0).word; };
+    const auto first = [](const char* typed) { return tamilFor(typed, {}, true, 3).at(0); };
     EXPECT_EQ(first("mudhal_peyar"), "முதல்_பெயர்");
     EXPECT_EQ(first("enni2"), "எண்ணி2");
     EXPECT_EQ(first("vidai_"), "விடை_");
-    EXPECT_EQ(tamilFor("peyar_valli", {}, true, 3).at(1).word, "பெயர்_வள்ளி");
+    EXPECT_EQ(tamilFor("peyar_valli", {}, true, 3).at(1), "பெயர்_வள்ளி");
     EXPECT_TRUE(tamilFor("_", {}, true, 3).empty());
     EXPECT_TRUE(tamilFor("2", {}, true, 3).empty());
     EXPECT_TRUE(tamilFor("a-b", {}, true, 3).empty());

@@ -3,6 +3,7 @@
 
 #include <iostream>
 
+#include "companion/completion/typed_word.h"
 #include "offered.h"
 
 namespace {
@@ -330,6 +331,31 @@ TEST(TypedWords, FindWhatIsMeantFirst) {
     std::cout << rows << " rows: " << first << " first, " << amongThree << " among three\n";
     EXPECT_GE(rows, 200);
     EXPECT_EQ(first, rows);
+}
+
+TEST(TypedWords, AreNearInMoreThanOneWay) {
+    using companion::completion::Closeness;
+    using companion::completion::FoundBy;
+    const FoundBy word("எனில்", "if, else if, when");
+    const auto closeness = [&](const char* typed) {
+        return companion::completion::TypedWord(typed).closenessTo(word);
+    };
+    EXPECT_EQ(closeness(""), Closeness::Whole);
+    EXPECT_EQ(closeness("எனில்"), Closeness::Whole);
+    EXPECT_EQ(closeness("எனி"), Closeness::Prefix);
+    EXPECT_EQ(closeness("நி"), Closeness::None);
+    EXPECT_EQ(closeness("if"), Closeness::English);
+    EXPECT_EQ(closeness("ElseIf"), Closeness::English);
+    EXPECT_EQ(closeness("ennil"), Closeness::Sound);
+    EXPECT_EQ(closeness("eni"), Closeness::SoundPrefix);
+    EXPECT_EQ(closeness("wh"), Closeness::SoundPrefix);
+    EXPECT_EQ(closeness("enl"), Closeness::Consonants);
+    EXPECT_EQ(closeness("nl"), Closeness::None);
+    EXPECT_EQ(closeness("anl"), Closeness::None);
+    EXPECT_EQ(companion::completion::TypedWord("achd").closenessTo(FoundBy("அச்சிடுக")),
+              Closeness::ConsonantPrefix);
+    EXPECT_EQ(companion::completion::TypedWord("box").closenessTo(FoundBy("உரை", "text box")),
+              Closeness::EnglishInside);
 }
 
 }  // namespace

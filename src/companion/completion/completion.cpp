@@ -101,13 +101,12 @@ void List::addTamil(const DocumentNames& names) {
     // Behind all that is as near.
     constexpr int kLastFit = 9;
     int rank = 0;
-    for (const TamilCandidate& candidate :
-         tamilFor(typed, names.writtenWords, true, kMostSpellings)) {
-        if (isCode && !isTakenAsName(candidate.word)) continue;
+    for (const std::string& candidate : tamilFor(typed, names.writtenWords, true, kMostSpellings)) {
+        if (isCode && !isTakenAsName(candidate)) continue;
         CompletionItem item;
-        item.label = candidate.word;
-        item.detail = std::string(typed) + " → " + candidate.word;
-        item.inserted = candidate.word;
+        item.label = candidate;
+        item.detail = std::string(typed) + " → " + candidate;
+        item.inserted = candidate;
         offers.push_back({closenessOfTamil(place, typed), kLastFit, rank++, 0, std::move(item)});
     }
 }

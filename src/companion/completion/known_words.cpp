@@ -16,7 +16,7 @@ namespace companion::completion {
 namespace {
 
 /// What a word costs beside a spelling by the rules, of which the likeliest costs nothing.
-constexpr double kDocumentWord = -10;
+constexpr double kDocumentWord = -3.0;
 constexpr double kEverydayWord = -1.6;
 constexpr double kProseWord = -1.0;
 constexpr double kLeftOut = 0.45;          ///< A letter of the word that wasn't typed.
@@ -167,13 +167,13 @@ public:
             }
         }
     }
-    std::vector<TamilCandidate> best(std::size_t most) {
+    std::vector<std::string> best(std::size_t most) {
         std::stable_sort(found.begin(), found.end(),
                          [](const Spelling& a, const Spelling& b) { return a.cost < b.cost; });
-        std::vector<TamilCandidate> candidates;
+        std::vector<std::string> candidates;
         for (Spelling& spelling : found) {
             if (candidates.size() == most) break;
-            candidates.push_back({std::move(spelling.word), spelling.cost < kDocumentWord / 2});
+            candidates.push_back(std::move(spelling.word));
         }
         return candidates;
     }
@@ -185,9 +185,9 @@ private:
 };
 
 /// The candidates for letters alone.
-std::vector<TamilCandidate> tamilForLetters(std::string_view typed,
-                                            const std::vector<std::string>& documentWords,
-                                            bool withKnownWords, std::size_t most) {
+std::vector<std::string> tamilForLetters(std::string_view typed,
+                                         const std::vector<std::string>& documentWords,
+                                         bool withKnownWords, std::size_t most) {
     const std::vector<Spelling> made = spellingsOf(typed, most);
     if (made.empty()) return {};
     Candidates candidates(typed);
@@ -201,9 +201,9 @@ bool joinsWords(char byte) { return byte == '_' || isAsciiDigit(byte); }
 
 }  // namespace
 
-std::vector<TamilCandidate> tamilFor(std::string_view typed,
-                                     const std::vector<std::string>& documentWords,
-                                     bool withKnownWords, std::size_t most) {
+std::vector<std::string> tamilFor(std::string_view typed,
+                                  const std::vector<std::string>& documentWords,
+                                  bool withKnownWords, std::size_t most) {
     const auto isJoint = [](char byte) { return joinsWords(byte); };
     const auto joint = std::find_if(typed.begin(), typed.end(), isJoint);
     const auto end = static_cast<std::size_t>(joint - typed.begin());
@@ -213,10 +213,10 @@ std::vector<TamilCandidate> tamilFor(std::string_view typed,
     const auto next =
         static_cast<std::size_t>(std::find_if_not(joint, typed.end(), isJoint) - typed.begin());
     if (candidates.empty()) return {};
-    const std::string before = candidates.front().word + std::string(typed.substr(end, next - end));
-    if (next == typed.size()) return {{before, candidates.front().isOfDocument}};
+    const std::string before = candidates.front() + std::string(typed.substr(end, next - end));
+    if (next == typed.size()) return {before};
     candidates = tamilFor(typed.substr(next), documentWords, withKnownWords, most);
-    for (TamilCandidate& candidate : candidates) candidate.word.insert(0, before);
+    for (std::string& candidate : candidates) candidate.insert(0, before);
     return candidates;
 }
 

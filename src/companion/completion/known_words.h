@@ -10,15 +10,11 @@ namespace companion::completion {
 
 const std::vector<std::string_view>& everydayWords();
 
-struct TamilCandidate {
-    std::string word;
-    bool isOfDocument;
-};
-
 /// What `typed`, in Latin letters, may mean in Tamil, the likeliest first, at most `most`.
-/// `documentWords` come first; `withKnownWords` takes the words that are known by themselves.
-std::vector<TamilCandidate> tamilFor(std::string_view typed,
-                                     const std::vector<std::string>& documentWords,
-                                     bool withKnownWords, std::size_t most);
+/// `documentWords` come ahead of others that are as near; `withKnownWords` takes the words that are
+/// known by themselves.
+std::vector<std::string> tamilFor(std::string_view typed,
+                                  const std::vector<std::string>& documentWords,
+                                  bool withKnownWords, std::size_t most);
 
 }  // namespace companion::completion
