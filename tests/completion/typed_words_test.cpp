@@ -123,6 +123,10 @@ const std::vector<TypedTable>& tables() {
              {"vdvmp", "வடிவமைப்பு"},
              {"vlthlm", "வலைதளம்"},
              {"mrl", "மாறிலி"},
+             {"prnt", "அச்சிடு"},
+             {"fnctn", "செயல்"},
+             {"whl", "சுற்று"},
+             {"rtrn", "திரும்பு"},
              // Words of other languages
              {"if", "எனில்"},
              {"print", "அச்சிடு"},

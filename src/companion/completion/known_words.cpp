@@ -205,7 +205,7 @@ std::vector<std::string> tamilFor(std::string_view typed,
                                   const std::vector<std::string>& documentWords,
                                   bool withKnownWords, std::size_t most) {
     const auto isJoint = [](char byte) { return joinsWords(byte); };
-    const auto joint = std::find_if(typed.begin(), typed.end(), isJoint);
+    const auto* joint = std::find_if(typed.begin(), typed.end(), isJoint);
     const auto end = static_cast<std::size_t>(joint - typed.begin());
     auto candidates = tamilForLetters(typed.substr(0, end), documentWords, withKnownWords, most);
     if (joint == typed.end()) return candidates;

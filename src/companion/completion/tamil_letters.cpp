@@ -198,6 +198,7 @@ public:
 private:
     void readConsonant();
     void readVowel();
+    bool endsPlural() const;
     void preferLongEnd(std::string_view vowel, Choices& choices) const;
     void glide(std::string_view before);
     bool atEnd() const { return at >= typed.size(); }
@@ -242,10 +243,25 @@ void SpelledWord::readConsonant() {
     for (const Choice& choice : row->choices) {
         if (!choice.letters.empty()) choices.emplace_back(choice.letters, choice.cost);
     }
+    if (row->typed == "l" && endsPlural()) std::swap(choices[0].first, choices[1].first);
     at += row->typed.size();
     lastVowel = {};
     isOpen = !choices.empty();
     if (isOpen) parts.push_back(std::move(choices));
+}
+
+/// கள் behind a consonant or a second vowel: மரங்கள், விடைகள், but பகல்.
+bool SpelledWord::endsPlural() const {
+    constexpr std::size_t kEnding = 2;
+    if (at < kEnding + 1) return false;
+    const std::string_view ending = typed.substr(at - kEnding, kEnding);
+    if (ending != "ga" && ending != "ka") return false;
+    const std::string_view stem = typed.substr(0, at - kEnding);
+    int vowels = 0;
+    for (std::size_t letter = 0; letter < stem.size(); letter++) {
+        if (isVowel(stem[letter]) && (letter == 0 || !isVowel(stem[letter - 1]))) vowels++;
+    }
+    return vowels > 1 || (vowels == 1 && !isVowel(stem.back()));
 }
 
 void SpelledWord::readVowel() {

@@ -77,7 +77,16 @@ Closeness TypedWord::closenessTo(const FoundBy& word) const {
     return closenessOfConsonants(word);
 }
 
+/// "prnt" is print as "achdu" is அச்சிடு.
 Closeness TypedWord::closenessOfConsonants(const FoundBy& word) const {
+    const std::string letters = consonantsOf(lower);
+    const auto isMeant = [&](const std::string& name) {
+        return letters.size() >= kFewestConsonants && name.substr(0, 1) == lower.substr(0, 1) &&
+               consonantsOf(name) == letters;
+    };
+    if (std::any_of(word.english.begin(), word.english.end(), isMeant)) {
+        return Closeness::Consonants;
+    }
     if (!beginAlike(word.sound, sounds.front())) return Closeness::None;
     Closeness closeness = Closeness::None;
     for (const std::string& typed : consonants) {
