@@ -1,7 +1,7 @@
 # Writes a header that holds the programs which descriptions show:
 #   cmake -DOUTPUT=header -DFOLDER=src/companion/descriptions -P embed_programs.cmake
 # programs/NAME.பொழில் becomes `shown_programs::NAME`, with NAME.out, what it prints; so does one of
-# unprinted/, an application or one that asks, without. codes/NNN/wrong.பொழில் and right.பொழில் become one row of `kCodePrograms`.
+# unprinted/, an application or one that asks, without. codes/NNN/wrong.பொழில் and right.பொழில் become, with wrong.report, one row of `kCodePrograms`.
 function(read_optional file variable)
     set(content "")
     if(EXISTS "${file}")
@@ -27,7 +27,8 @@ foreach(folder IN LISTS codes)
     get_filename_component(code "${folder}" NAME)
     read_optional("${folder}/wrong.பொழில்" wrong)
     read_optional("${folder}/right.பொழில்" right)
-    string(APPEND text "    {\"${code}\", ${wrong},\n${right}},\n")
+    read_optional("${folder}/wrong.report" report)
+    string(APPEND text "    {\"${code}\", ${wrong},\n${right},\n${report}},\n")
 endforeach()
 string(APPEND text "};\n\n}  // namespace companion::shown_programs\n")
 file(WRITE "${OUTPUT}.new" "${text}")

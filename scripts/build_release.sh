@@ -18,11 +18,19 @@ may_write_here() {
 
 stands_ready() { [ -x பொழில் ] && [ -f திரட்டு/error_handler_native_linux.o ]; }
 
+# The companion's language server speaks JSON. The header may lie wherever g++ looks.
+has_json_header() {
+    [ -f /usr/include/nlohmann/json.hpp ] ||
+        printf '#if !__has_include(<nlohmann/json.hpp>)\n#error\n#endif\n' |
+            g++ -x c++ -E - >/dev/null 2>&1
+}
+
 install_tools() {
     local packages=()
     command -v g++ >/dev/null || packages+=(g++)
     command -v cmake >/dev/null || packages+=(cmake)
     command -v ninja >/dev/null || packages+=(ninja-build)
+    has_json_header || packages+=(nlohmann-json3-dev)
     [ ${#packages[@]} -eq 0 ] || scripts/install_packages.sh "${packages[@]}"
 }
 

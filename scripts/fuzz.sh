@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# fuzz.sh [SECONDS]: feeds scanner, parser and generator, and then the companion, with made-up sources
-# under the address and undefined-behaviour sanitizers, starting from the test programs; each gets half
-# of the time. Tells how many inputs were tried; fails at the first crash, hang, leak or broken promise
-# and keeps the input that caused it in build/fuzz/findings.
+# fuzz.sh [SECONDS]: feeds scanner, parser and generator, then the companion, then the language server,
+# with made-up sources under the address and undefined-behaviour sanitizers, starting from the test
+# programs; each gets a third of the time. Tells how many inputs were tried; fails at the first crash, hang,
+# leak or broken promise and keeps the input that caused it in build/fuzz/findings.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -14,9 +14,9 @@ cd "$root"
 seconds=${1:-60}
 [[ "$seconds" =~ ^[1-9][0-9]*$ ]] || refuse "எத்தனை வினாடிகள்? பயன்பாடு: scripts/fuzz.sh வினாடிகள்"
 
-scripts/install_packages.sh g++ cmake ninja-build clang libclang-rt-dev
-configure fuzz
-run_quietly "சோதனை நிரலைக் கட்ட முடியவில்லை." cmake --build --preset fuzz --target fuzzers
+scripts/install_packages.sh g++ cmake ninja-build clang libclang-rt-dev libgtest-dev nlohmann-json3-dev
+configure sanitize
+run_quietly "சோதனை நிரலைக் கட்ட முடியவில்லை." cmake --build --preset sanitize --target fuzzers
 
 corpus="$root/build/fuzz/corpus"
 seeds="$root/build/fuzz/seeds"
@@ -35,7 +35,7 @@ trap 'rm -rf "$empty" "$log"' EXIT
 # run_fuzzer NAME SECONDS
 run_fuzzer() {
     local fuzzer status=0 tried
-    fuzzer=$(find "$root/build/fuzz" -name "$1" -type f | head -n 1)
+    fuzzer=$(find "$root/build/sanitize" -name "$1" -type f | head -n 1)
     (cd "$empty" && "$fuzzer" -max_total_time="$2" -timeout=20 -rss_limit_mb=4096 \
         -max_len=4096 -dict="$root/tests/fuzz/words.dict" -print_final_stats=1 \
         -artifact_prefix="$findings/" "$corpus" "$seeds") >"$log" 2>&1 || status=$?
@@ -50,6 +50,7 @@ run_fuzzer() {
     [ "${tried:-0}" -gt 0 ] || refuse "எந்த உள்ளீடும் சோதிக்கப்படவில்லை."
 }
 
-half=$(((seconds + 1) / 2))
-run_fuzzer front_end_fuzzer "$half"
-run_fuzzer companion_fuzzer "$half"
+third=$(((seconds + 2) / 3))
+for fuzzer in front_end_fuzzer companion_fuzzer language_server_fuzzer; do
+    run_fuzzer "$fuzzer" "$third"
+done

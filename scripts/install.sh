@@ -8,8 +8,6 @@ set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # shellcheck source=scripts/messages.sh
 . "$root/scripts/messages.sh"
-# shellcheck source=scripts/build_directory.sh
-. "$root/scripts/build_directory.sh"
 
 if [ "$(id -u)" -eq 0 ]; then prefix=/usr/local; else prefix=${HOME:-}/.local; fi
 prefix=$(realpath -m -- "${1:-$prefix}")
@@ -18,11 +16,7 @@ prefix=$(realpath -m -- "${1:-$prefix}")
 
 cd "$root"
 scripts/build_release.sh
-# The compiler at the root looks for the library in this checkout, the installed one beside itself.
-configure install "-DCMAKE_INSTALL_PREFIX=$prefix" "-DPOZHIL_LIBRARY_DIR=$prefix/lib/pozhil/"
-build_with_progress "பொழிலைக் கட்ட முடியவில்லை." "🔨 பொழில் கட்டப்படுகிறது:" \
-    cmake --build --preset install --target pozhil companion
-run_quietly "'$prefix' கோப்புறையில் நிறுவ முடியவில்லை." cmake --install build/install
+run_quietly "'$prefix' கோப்புறையில் நிறுவ முடியவில்லை." cmake --install build/release --prefix "$prefix"
 # What it prepares for em++ knows the folder in which it lies, so it is made there.
 installed="$prefix/lib/pozhil"
 [ ! -f "$installed/திரட்டு/error_handler_web.o" ] || scripts/warm_web.sh "$installed" || true

@@ -3,12 +3,33 @@
 
 passed=0 failed=0 skipped=0
 failures=()
-durations=() # of steps, one a line: seconds and name
+durations=() # of steps, one a line: seconds of the clock and of processors, and name
 
-begin() { say "▶ $1 (${SECONDS} s)"; }
+# Sets `processor`: the hundredths of a second that the commands of this shell took of processors, theirs
+# included.
+processor=0
+note_processor() {
+    local fields
+    read -r -a fields <"/proc/$BASHPID/stat"
+    processor=$((fields[15] + fields[16]))
+}
 
-# end NAME START: the step that began at that second is over.
-end() { durations+=("$(printf '%6d s  %s' $((SECONDS - $2)) "$1")"); }
+# in_seconds HUNDREDTHS: with one decimal.
+in_seconds() { printf '%d.%d' $(($1 / 100)) $(($1 / 10 % 10)); }
+
+begun_at=0 # what `processor` was
+begin() {
+    say "▶ $1 (${SECONDS} s)"
+    note_processor
+    begun_at=$processor
+}
+
+# end NAME START: the step that began last, and at that second, is over.
+end() {
+    note_processor
+    durations+=("$(printf '%6d s %8s s  %s' $((SECONDS - $2)) \
+        "$(in_seconds $((processor - begun_at)))" "$1")")
+}
 
 # check NAME COMMAND...: a step that counts as one check.
 check() {
@@ -46,6 +67,8 @@ run_aside() {
     renice -n 19 "$BASHPID" >/dev/null 2>&1 || true
     "$1"
     declare -p passed failed skipped failures durations >"$aside_folder/counted"
+    # Its processor time becomes this shell's when it ends: not in the middle of a step.
+    until [ -e "$aside_folder/joined" ]; do sleep 0.1; done
 }
 
 # start_aside FUNCTION: what it prints is kept until it is joined. In a process group of its own, so
@@ -61,8 +84,11 @@ start_aside() {
 # join_aside NAME: waits for it, and adds what it printed and counted. One that broke off has failed.
 join_aside() {
     local start=$SECONDS status=0
+    touch "$aside_folder/joined"
     wait "$aside" || status=$?
     aside=0
+    note_processor
+    begun_at=$processor # its steps told what they took
     cat "$aside_folder/printed" >&2
     if [ "$status" -eq 0 ] && [ -f "$aside_folder/counted" ]; then
         add_counted
@@ -86,7 +112,8 @@ add_counted() {
 
 # summary: the durations, what failed, and the counts. Holds if something passed and nothing failed.
 summary() {
-    printf '⏱ %d வினாடிகள்:\n' "$SECONDS"
+    note_processor
+    printf '⏱ %d வினாடிகள், செயலிகளில் %s:\n' "$SECONDS" "$(in_seconds "$processor")"
     printf '%s\n' "${durations[@]}"
     [ ${#failures[@]} -eq 0 ] || printf '✗ %s\n' "${failures[@]}"
     echo "$passed passed, $failed failed$([ "$skipped" -eq 0 ] || echo ", $skipped skipped")"

@@ -76,7 +76,8 @@ check_looks() {
         skipped=$((skipped + 2))
     fi
     check "நிரல் துணுக்குகள் (shellcheck)" shellcheck -x scripts/*.sh bench/*.sh \
-        tests/support/*.sh .ci/run
+        tests/support/*.sh tests/package/*.sh tests/language_server/neovim/*.sh \
+        packaging/completion/pozhil packaging/debian/{postinst,prerm} .ci/run
 }
 
 # What the processor does while tests wait.
@@ -91,17 +92,19 @@ check_aside() {
 
 case "${1:-all}" in
     fast)
-        scripts/install_packages.sh g++ cmake ninja-build libgtest-dev
+        scripts/install_packages.sh g++ cmake ninja-build libgtest-dev nlohmann-json3-dev
         check "கட்டுதல்" build tests fast_tests
         run_tests "விரைவுச் சோதனைகள்" tests -L fast
         ;;
     all)
         scripts/install_packages.sh g++ cmake ninja-build libgtest-dev clang clang-format \
-            clang-tidy libclang-rt-dev shellcheck util-linux
+            clang-tidy libclang-rt-dev nlohmann-json3-dev shellcheck util-linux lintian dpkg-dev file \
+            curl man-db python3
         check "துணைக் கோப்புகள்" scripts/prepare_objects.sh
         check "வலைதளங்களின் துணைக் கோப்புகள்" scripts/setup_web.sh
         check "கட்டுதல்" build tests
         check "உலாவிச் சோதனையின் கருவிகள்" scripts/setup_browser_tests.sh
+        check "மொழிவழங்கிச் சோதனையின் கருவிகள்" scripts/setup_editor_tests.sh
         # Tests that compare times want the machine for themselves.
         start_aside check_aside
         run_tests "எல்லாச் சோதனைகளும்" tests -LE '^(scaling|timed)$'

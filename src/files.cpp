@@ -1,5 +1,7 @@
 #include "files.h"
 
+#include <unistd.h>
+
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -9,6 +11,13 @@ namespace fs = std::filesystem;
 bool hasEnding(const std::string& text, const std::string& ending) {
     return text.size() >= ending.size() &&
            text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
+}
+
+std::string executableDirectory() {
+    char buffer[4096];
+    const ssize_t length = readlink("/proc/self/exe", buffer, sizeof(buffer));
+    const std::string executable(buffer, length < 0 ? 0 : static_cast<std::size_t>(length));
+    return executable.substr(0, executable.find_last_of("/\\"));
 }
 
 bool fileExists(const std::string& name) {

@@ -41,7 +41,7 @@ async function open(browser, program) {
             const response = await route.fetch();
             await route.fulfill({response, headers: {...response.headers(), ...isolated}});
         });
-    }, 0);
+    }, {isOnDemand: false});
     await page.goto(server.address);
     await until(() => page.evaluate(() => window.times.length > 10).catch(() => false), 'frames', 60)
         .catch(() => { throw new Error(`no frames: ${page.problems.join('; ')}`); });

@@ -18,11 +18,15 @@ struct Command {
     int (*run)(const Arguments& arguments);
 };
 
+/// All commands, in the order in which they are shown.
+const std::vector<Command>& commands();
+
 int runCheck(const Arguments& arguments);
 int runFormat(const Arguments& arguments);
 int runRun(const Arguments& arguments);
 int runNew(const Arguments& arguments);
 int runExplain(const Arguments& arguments);
 int runPublish(const Arguments& arguments);
+int runLanguageServer(const Arguments& arguments);
 
 }  // namespace companion

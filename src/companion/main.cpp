@@ -8,25 +8,11 @@
 namespace {
 
 using companion::Command;
-
-const Command kCommands[] = {
-    {"சரிபார்", "check", "கோப்பு...", "நிரலைப் படித்து, பிழைகளையும் தீர்வுகளையும் சொல்லும்",
-     companion::runCheck},
-    {"வடிவமை", "format", "[--check] கோப்பு...", "நிரலின் இடைவெளிகளையும் வரிகளையும் சீராக்கும்",
-     companion::runFormat},
-    {"இயக்கு", "run", "[--quiet] கோப்பு",
-     "நிரலைச் சரிபார்த்து, தொகுத்து இயக்கும்; --quiet: நிரலின் சொற்கள் மட்டும்", companion::runRun},
-    {"புதிது", "new", "[--web] பெயர்", "புதிய நிரலுக்கான கோப்புறையை உருவாக்கும்; --web: வலைதளம்",
-     companion::runNew},
-    {"விளக்கு", "explain", "[சொல் அல்லது பிழை எண்]", "ஒரு சொல்லையோ பிழையையோ எடுத்துக்காட்டோடு விளக்கும்",
-     companion::runExplain},
-    {"வெளியிடு", "publish", "கோப்பு கோப்புறை", "வலைதளத்தை எந்த வழங்கியிலும் இயங்கும் கோப்புறையாக எழுதும்",
-     companion::runPublish},
-};
+using companion::commands;
 
 void printUsage(std::ostream& out) {
     out << "பயன்பாடு: பொழில்-துணை கட்டளை ...\n\n";
-    for (const Command& command : kCommands) {
+    for (const Command& command : commands()) {
         out << "  " << command.name << " (" << command.latinName << ") " << command.parameters
             << "\n      " << command.summary << "\n";
     }
@@ -42,7 +28,7 @@ int main(int argc, char** argv) {
         printUsage(std::cout);
         return 0;
     }
-    for (const Command& command : kCommands) {
+    for (const Command& command : commands()) {
         if (name != command.name && name != command.latinName) continue;
         return command.run({argv + 2, argv + argc});
     }

@@ -71,7 +71,7 @@ bool hasRoom(const std::string& directory) {
 std::optional<std::string> prepareCacheDirectory() {
     const fs::path temporary = fs::temp_directory_path();
     if (!keepsWhatIsOurs(temporary)) return refuse(temporary);
-    const fs::path cache = fs::u8path(getSafeMinGWPath((temporary / "Pozhil_Cache").u8string()));
+    const fs::path cache = fs::u8path(getSafeMinGWPath((temporary / kCacheName).u8string()));
     if (fs::is_symlink(cache)) return refuse(cache);
     if (fs::create_directories(cache)) {
         fs::permissions(cache, fs::perms::others_write, fs::perm_options::remove);

@@ -6,6 +6,9 @@
 #include <string>
 #include <vector>
 
+/// The cache's name in the temporary directory.
+constexpr const char* kCacheName = "Pozhil_Cache";
+
 /// The compiler's cache in the system's temporary directory, made if it isn't there. What lies in
 /// it is run: so nothing, behind a line on standard error, if others could put something there.
 /// Throws std::filesystem::filesystem_error if it can't be made.

@@ -1,21 +1,21 @@
 #include "driver/command_line.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 
 #include "driver/console_texts.h"
 #include "driver/paths.h"
 
 namespace {
 
-const char* const kDefaultSource = "முதன்மை.பொழில்";
-const char* const kExtension = ".பொழில்";
-
 bool defaultSourceOpens() { return std::ifstream(std::filesystem::u8path(kDefaultSource)).good(); }
 
 bool isVersionArgument(const std::string& argument) {
-    return argument == "--பதிப்பு" || argument == "--version" || argument == "-v";
+    return std::any_of(std::begin(kVersionOptions), std::end(kVersionOptions),
+                       [&](const char* option) { return argument == option; });
 }
 
 }  // namespace
@@ -33,9 +33,9 @@ std::optional<int> readCommandLine(const std::vector<std::string>& arguments, Ru
             printVersionScreen();
             return 0;
         }
-        if (argument == "--வலை") {
+        if (argument == kWebOption) {
             run.webMode = true;
-        } else if (argument == "--கண்காணி") {
+        } else if (argument == kWatchOption) {
             run.watchMode = true;
         } else if (hasEnding(argument, kExtension)) {
             run.sourcePath = argument;

@@ -5,6 +5,14 @@
 #include <string>
 #include <vector>
 
+/// The source that is taken where none is named, and how the name of one ends.
+constexpr const char* kDefaultSource = "முதன்மை.பொழில்";
+constexpr const char* kExtension = ".பொழில்";
+
+constexpr const char* kWebOption = "--வலை";
+constexpr const char* kWatchOption = "--கண்காணி";
+constexpr const char* kVersionOptions[] = {"--பதிப்பு", "--version", "-v"};
+
 struct RunState {
     std::string sourcePath;
     bool webMode = false;

@@ -1,7 +1,5 @@
 #include "driver/paths.h"
 
-#include <unistd.h>
-
 #include <string_view>
 
 namespace {
@@ -34,12 +32,7 @@ bool isOneWord(const std::string& text) {
 
 }  // namespace
 
-std::string getAppDirectory() {
-    char buffer[4096];
-    const ssize_t length = readlink("/proc/self/exe", buffer, sizeof(buffer));
-    const std::string executable(buffer, length < 0 ? 0 : static_cast<std::size_t>(length));
-    return executable.substr(0, executable.find_last_of("/\\"));
-}
+std::string getAppDirectory() { return executableDirectory(); }
 
 std::string getSafeMinGWPath(const std::string& path) { return path; }
 

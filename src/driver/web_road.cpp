@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr int kPort = 6931;
-
 void openBrowser(const std::string& address) {
     std::cout << "🌍 பிரவுசர் தானாகவே திறக்கப்படுகிறது..." << std::endl;
     run_command("xdg-open " + address + " > /dev/null 2>&1 &");
@@ -42,13 +40,13 @@ void takeWebRoad(const Program& program, const std::string& code, const std::str
                  const WebBuild& build) {
     printWebBuildStart();
     if (buildWebApplication(program, code, build)) {
-        const std::string address = "http://localhost:" + std::to_string(kPort) + "/";
+        const std::string address = "http://localhost:" + std::to_string(kServerPort) + "/";
         printWebSuccess(address);
         // Before the server listens: the browser's first request may come a moment early. Meant.
         openBrowser(address);
     } else {
         printWebFailure();
     }
-    std::thread(startLocalServer, kPort).detach();
+    std::thread(startLocalServer, kServerPort).detach();
     watchWebApplication(sourcePath, build);
 }

@@ -6,6 +6,9 @@
 #include "driver/web_build.h"
 #include "syntax/node.h"
 
+/// Where the development server answers.
+constexpr int kServerPort = 6931;
+
 /// The web road's handler of SIGINT: ends em++ if it runs, says goodbye and ends the process with
 /// status 0. Whichever thread it interrupts, it waits for none and takes nothing down that another
 /// may be using.

@@ -132,6 +132,13 @@ std::vector<std::string_view> builtinNames() {
     return names;
 }
 
+std::string_view builtinText(std::string_view name) {
+    for (const BuiltinRow& row : kBuiltins) {
+        if (name == row.name) return row.text;
+    }
+    return "";
+}
+
 /// The text of a built-in call; false if `name` is none. Raises 331 for a wrong number of
 /// arguments.
 bool Generator::writeBuiltin(const CallExpression& call, const std::string& name) {

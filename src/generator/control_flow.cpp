@@ -1,13 +1,7 @@
 // Conditions, loops, switch and try.
 #include "generator/generator.h"
+#include "generator/limits.h"
 #include "static_error.h"
-
-namespace {
-
-/// A list walk writes its body twice, so walks inside each other double the text every time.
-constexpr int kMaxCollectionLoops = 12;
-
-}  // namespace
 
 /// { ... } behind what stands on the line already.
 void Generator::writeBraces(const BlockStatement* block) {

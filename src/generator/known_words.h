@@ -7,6 +7,8 @@
 
 /// The built-in calls, in the order in which they are searched.
 std::vector<std::string_view> builtinNames();
+/// The C++ text of a built-in call, with $A, $B, $C for its arguments; empty for any other name.
+std::string_view builtinText(std::string_view name);
 /// Members of an input widget that are called, and those that are read.
 std::vector<std::string_view> inputCallNames();
 std::vector<std::string_view> inputPropertyNames();

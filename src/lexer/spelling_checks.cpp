@@ -1,9 +1,10 @@
 // The checks of a plain word's spelling: a keyword split by a blank, a keyword off by one letter.
 #include <algorithm>
-#include <cstddef>
+#include <iterator>
 
 #include "lexer/characters.h"
 #include "lexer/lexer.h"
+#include "lexer/spelling.h"
 #include "lexer/utf8.h"
 #include "lexer/word_tables.h"
 
@@ -17,9 +18,6 @@ const char* const kSpelledWords[] = {
     "ஒவ்வொன்றாக", "தேர்வு",  "நிலை",  "மற்றவை",    "கட்டமைப்பு", "வடிவமைப்பு", "முயற்சி",
     "பிடி",     "வலைதளம்", "தலைமை", "குமரி",    "வரையறை",
 };
-
-/// Words of up to three code points are free, whatever they look like.
-constexpr std::size_t kFreeLength = 3;
 
 const std::vector<CodePoints>& spelledWords() {
     static const std::vector<CodePoints> words = [] {
@@ -42,6 +40,20 @@ bool isOneEditApart(const CodePoints& a, const CodePoints& b) {
 
 }  // namespace
 
+std::vector<std::string_view> spelledKeywords() {
+    return {std::begin(kSpelledWords), std::end(kSpelledWords)};
+}
+
+std::string_view misspeltKeyword(std::string_view word) {
+    const CodePoints letters = splitCodePoints(word);
+    if (letters.size() <= kFreeLength) return {};
+    const std::vector<CodePoints>& keywords = spelledWords();
+    for (std::size_t at = 0; at < keywords.size(); at++) {
+        if (isOneEditApart(letters, keywords[at])) return kSpelledWords[at];
+    }
+    return {};
+}
+
 /// The cursor stands behind `word` and stays there. A line end between the halves ends the look.
 void Lexer::checkKeywordSpacing(std::string_view word) {
     int at = position;
@@ -59,9 +71,5 @@ void Lexer::checkKeywordSpacing(std::string_view word) {
 
 /// A name within one edit of a spelled word is refused, with no way around it. Meant.
 void Lexer::checkKeywordTypo(std::string_view word) {
-    const CodePoints letters = splitCodePoints(word);
-    if (letters.size() <= kFreeLength) return;
-    for (const CodePoints& keyword : spelledWords()) {
-        if (isOneEditApart(letters, keyword)) பிழை("பொழில்-113");
-    }
+    if (!misspeltKeyword(word).empty()) பிழை("பொழில்-113");
 }

@@ -7,8 +7,12 @@
 
 namespace {
 
-/// The second place where a module is looked for; set by the build.
-const char* const kLibraryDirectory = POZHIL_LIBRARY_DIR;
+/// The second place where a module is looked for; set by the build. One that begins with "./" lies
+/// beside the executable, so an installation can be moved.
+std::string libraryDirectory() {
+    const std::string directory = POZHIL_LIBRARY_DIR;
+    return directory.rfind("./", 0) == 0 ? executableDirectory() + directory.substr(1) : directory;
+}
 
 /// The file that an import's text names.
 std::string moduleFile(std::string path) {
@@ -27,7 +31,7 @@ void mergeAbsent(Table& into, const Table& from) {
 
 std::vector<std::string> moduleFilesOf(const std::string& path) {
     const std::string file = moduleFile(path);
-    return {file, kLibraryDirectory + file};
+    return {file, libraryDirectory() + file};
 }
 
 /// import = "நூஇறக்கி" string
@@ -56,7 +60,7 @@ std::unique_ptr<Statement> Parser::parseImportStatement() {
 /// file's own directory isn't consulted. Meant.
 std::string Parser::readModule(const std::string& path, int line) {
     std::string text;
-    for (const std::string& candidate : {path, kLibraryDirectory + path}) {
+    for (const std::string& candidate : {path, libraryDirectory() + path}) {
         if (readModuleText(candidate, text)) return text;
     }
     பிழை("பொழில்-281", line);

@@ -6,6 +6,7 @@ import {join} from 'node:path';
 import {after, before, test} from 'node:test';
 import {PNG} from 'pngjs';
 import {launch, openPage, photograph, pixel, press, until} from './support/browser.mjs';
+import {nextFrames} from './support/frames.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const source = `வலைதளம் பொத்தான்கள்(
@@ -126,8 +127,6 @@ function noteTexts() {
     };
 }
 
-const nextFrames = () => page.evaluate(() =>
-    new Promise(done => requestAnimationFrame(() => requestAnimationFrame(done))));
 const moveAway = () => page.mouse.move(1000, 650);
 const placeOf = text => until(() => page.evaluate(text => window.texts[text], text), `the text ${text}`);
 
@@ -186,7 +185,7 @@ test('a click runs its handler once, and what it changed shows', async () => {
         await press(page, middle.x, middle.y);
         await placeOf(value);
     }
-    await nextFrames();
+    await nextFrames(page);
     assert.equal(await page.evaluate(() => window.texts['3']), undefined);
 });
 

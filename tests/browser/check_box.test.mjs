@@ -2,6 +2,7 @@
 import assert from 'node:assert/strict';
 import {after, before, test} from 'node:test';
 import {launch, openPage, photograph, pixel, press, until} from './support/browser.mjs';
+import {nextFrames} from './support/frames.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const source = `வலைதளம் படிவம்(
@@ -62,7 +63,7 @@ const forget = () => page.evaluate(() => {
 });
 const drawsText = text => until(async () => {
     await forget();
-    await page.evaluate(() => new Promise(done => requestAnimationFrame(() => requestAnimationFrame(done))));
+    await nextFrames(page);
     return page.evaluate(wanted => window.drawnTexts.has(wanted), text);
 }, `the text ${text}`);
 
@@ -95,7 +96,7 @@ test('a click on its label toggles it too', async () => {
 test('a disabled box takes no click and shows no hand', async () => {
     await page.mouse.move(disabled.x + 9, disabled.y);
     await press(page, disabled.x + 9, disabled.y);
-    await page.evaluate(() => new Promise(done => requestAnimationFrame(() => requestAnimationFrame(done))));
+    await nextFrames(page);
     assert.equal(await page.evaluate(() => document.body.style.cursor), 'default');
     await shows(disabled, green);
 });

@@ -5,7 +5,8 @@ import {after, before, test} from 'node:test';
 import {launch, openPage, until} from './support/browser.mjs';
 import {databasePeer, serveDatabaseScripts} from './support/database_peer.mjs';
 import {copyFonts} from './support/fonts.mjs';
-import {nextFrames, noteTexts, pressText} from './support/widget_screen.mjs';
+import {nextFrames} from './support/frames.mjs';
+import {noteTexts, pressText} from './support/widget_screen.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 // What each button does.

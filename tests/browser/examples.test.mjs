@@ -7,8 +7,9 @@ import {basename, dirname, join} from 'node:path';
 import {fileURLToPath} from 'node:url';
 import {after, before, describe, test} from 'node:test';
 import {launch, openPage, photograph, press, until} from './support/browser.mjs';
+import {nextFrames} from './support/frames.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
-import {nextFrames, noteTexts, resize, texts} from './support/widget_screen.mjs';
+import {noteTexts, resize, texts} from './support/widget_screen.mjs';
 
 const folder = join(dirname(fileURLToPath(import.meta.url)), '..', '..', 'examples', 'web');
 const sources = readdirSync(folder, {recursive: true}).filter(name => name.endsWith('.பொழில்'));

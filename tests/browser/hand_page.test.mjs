@@ -2,6 +2,7 @@
 import assert from 'node:assert/strict';
 import {after, before, test} from 'node:test';
 import {desk, launch, openPage, photograph, pixel, until} from './support/browser.mjs';
+import {giveFrames} from './support/frames.mjs';
 import {serveHandPage} from './support/hand_page.mjs';
 
 const background = [0xff, 0xf3, 0xe0];
@@ -25,7 +26,10 @@ async function openHandPage(options = desk, prepare) {
     return page;
 }
 
-const framesDrawn = (page, count) => page.waitForFunction(n => window.framesDrawn > n, count);
+const framesDrawn = (page, count) => until(async () => {
+    giveFrames(count, page);
+    return page.evaluate(wanted => window.framesDrawn > wanted, count);
+}, `${count} frames`);
 
 test('draws, with the title, icon and background of its head', async () => {
     const page = await openHandPage();

@@ -3,9 +3,10 @@
 import assert from 'node:assert/strict';
 import {after, before, describe, test} from 'node:test';
 import {launch, openPage, photograph, pixel, press, until} from './support/browser.mjs';
+import {nextFrames} from './support/frames.mjs';
 import {inputs} from './support/inputs.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
-import {nextFrames, noteTexts, texts} from './support/widget_screen.mjs';
+import {noteTexts, texts} from './support/widget_screen.mjs';
 
 const source = `வலைதளம் படிவம்(
     தலைமை(

@@ -8,12 +8,13 @@ import {fileURLToPath} from 'node:url';
 import {gzipSync} from 'node:zlib';
 import {desk, launch, openPage, photograph, until} from './support/browser.mjs';
 import {copyFonts} from './support/fonts.mjs';
+import {nextFrames} from './support/frames.mjs';
 import {compare, readPicture} from './support/golden.mjs';
 import {readProgram} from './support/hand_page.mjs';
 import {filesOf, host, named, publish} from './support/publish.mjs';
 import {standIn} from './support/stand_in.mjs';
 import {address, makeWorkplace, startCompiler} from './support/tool.mjs';
-import {nextFrames, noteTexts, pressText, texts} from './support/widget_screen.mjs';
+import {noteTexts, pressText, texts} from './support/widget_screen.mjs';
 
 const examples = join(dirname(fileURLToPath(import.meta.url)), '..', '..', 'examples', 'web');
 const patience = 300;  // seconds, on a machine that does much else

@@ -6,7 +6,7 @@ import {tmpdir} from 'node:os';
 import {dirname, join} from 'node:path';
 import {after, test} from 'node:test';
 import {fileURLToPath} from 'node:url';
-import {lossOfDrawing} from './support/browser.mjs';
+import {lossOfDrawing} from './support/loss.mjs';
 
 const runner = join(dirname(fileURLToPath(import.meta.url)), 'run.mjs');
 const folder = mkdtempSync(join(tmpdir(), 'pozhil-runner-'));

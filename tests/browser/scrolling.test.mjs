@@ -2,6 +2,7 @@
 import assert from 'node:assert/strict';
 import {after, before, test} from 'node:test';
 import {launch, openPage, photograph, pixels, until} from './support/browser.mjs';
+import {nextFrames} from './support/frames.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const source = (title, body) => `வலைதளம் அடுக்கு(
@@ -44,7 +45,7 @@ after(() => tidyUp(browser, compiler, workplace));
 /** Saves a page and waits until the browser shows it. */
 async function show(title, body) {
     workplace.write('நிரல்.பொழில்', source(title, body));
-    await until(async () => (await page.title().catch(() => '')) === title, `the page ${title}`, 120);
+    await until(async () => (await page.title().catch(() => '')) === title, `the page ${title}`, 120, 0);
 }
 
 const isEach = (colours, marks) => Object.entries(marks).every(([at, colour]) => colours[at].join() === colour.join());
@@ -56,9 +57,7 @@ const seesDown = (x, marks) => until(() => showsDown(x, marks), `${JSON.stringif
 const showsAcross = async (y, marks) =>
     isEach(await pixels(page, {x: 0, y, width: page.viewportSize().width, height: 1}), marks);
 const seesAcross = (y, marks) => until(() => showsAcross(y, marks), `${JSON.stringify(marks)} across ${y}`);
-const frames = count => page.evaluate(async wanted => {
-    for (let i = 0; i < wanted; i++) await new Promise(requestAnimationFrame);
-}, count);
+const frames = count => nextFrames(page, count);
 const goTo = id => page.evaluate(name => Module['நகர்த்து'](name), id);
 
 test('the wheel scrolls a column, which stops at both ends', async () => {

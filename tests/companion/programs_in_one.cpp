@@ -71,7 +71,8 @@ ProcessResult runNativeCompiler(const std::vector<std::string>& arguments) {
     return runCommand(command, options);
 }
 
-ProgramsInOne::ProgramsInOne(const std::string& name) : folder(kAllPrograms + name + "/") {
+ProgramsInOne::ProgramsInOne(const std::string& name, Build build)
+    : folder(kAllPrograms + name + "/"), kind(build) {
     fs::remove_all(fs::u8path(folder));
     fs::create_directories(fs::u8path(folder));
     const std::string text = generate("", kProgramName);
@@ -123,17 +124,19 @@ std::map<int, std::string> ProgramsInOne::leaveOutRefused() {
 
 std::string ProgramsInOne::build() const {
     writeTo(folder + "programs.cpp", wholeText());
+    ProcessOptions options;
+    options.timeoutSeconds = 250;
     const ProcessResult built =
-        runNativeCompiler({"-I" POZHIL_ROOT "/உள்ளடக்கம்/nanovg", folder + "programs.cpp",
-                           kAllPrograms + "error_handler_native_linux.o", "-o", folder + "programs",
-                           "-static", "-static-libstdc++", "-static-libgcc", "-lm"});
+        runCommand(buildCommand(folder + "programs.cpp", folder + "programs", kind), options);
     return built.exitCode == 0 ? "" : "g++: " + built.err;
 }
 
-ProcessResult ProgramsInOne::run(int number, const std::string& input, double seconds) const {
+ProcessResult ProgramsInOne::run(int number, const std::string& input, double seconds,
+                                 const std::vector<std::string>& environment) const {
     ProcessOptions options;
     options.input = input;
     options.timeoutSeconds = seconds;
+    options.environment = environment;
     options.directory = runFolder(number);
     return runCommand({folder + "programs", std::to_string(number)}, options);
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "support/native_program.h"
 #include "support/subprocess.h"
 
 /// The name under which the sources must be compiled, so that all texts begin alike.
@@ -17,7 +18,7 @@ ProcessResult runNativeCompiler(const std::vector<std::string>& arguments);
 class ProgramsInOne {
 public:
     /// `name` is that of its folder below the build directory, which is emptied.
-    explicit ProgramsInOne(const std::string& name);
+    explicit ProgramsInOne(const std::string& name, Build build = Build::AsTheDriver);
 
     /// Adds the program of `source` with the text that was generated of it; its number is how it is
     /// asked for.
@@ -29,8 +30,9 @@ public:
     /// What g++ says when it builds what is not left out; empty if it takes all.
     std::string build() const;
 
-    /// A program in a folder of its own that holds its source.
-    ProcessResult run(int number, const std::string& input, double seconds) const;
+    /// A program in a folder of its own that holds its source, with `environment` added to ours.
+    ProcessResult run(int number, const std::string& input, double seconds,
+                      const std::vector<std::string>& environment = {}) const;
 
     /// That folder, with a slash at its end.
     std::string runFolder(int number) const;
@@ -39,6 +41,7 @@ private:
     std::string wholeText() const;
 
     std::string folder;
+    Build kind;
     std::string common;
     std::map<int, std::string> programs;
     int count = 0;

@@ -102,6 +102,17 @@ TEST_F(BuildScript, ConfiguresAgainWhenThePresetsChange) {
     EXPECT_EQ(configured(), "first\nsecond\n");
 }
 
+TEST_F(BuildScript, ForgetsWhatFormerPresetsSaid) {
+    expectBuilt();
+    std::string presets = presetsThatNote("second");
+    presets.replace(presets.find("NOTE"), 4, "OTHER");
+    writeFileText(home / "CMakePresets.json", presets);
+    fs::last_write_time(home / "CMakePresets.json",
+                        fs::file_time_type::clock::now() + std::chrono::seconds(1));
+    expectBuilt();
+    EXPECT_EQ(configured(), "first\n\n");
+}
+
 TEST_F(BuildScript, KeepsWhatWasConfiguredByHand) {
     const ProcessResult byHand = runCommand({"cmake", "--preset", "release", "-DNOTE=my own"},
                                             {home.u8string(), {}, "", 60});
@@ -214,6 +225,10 @@ TEST_F(LibraryFolder, IsTheCheckoutForAUser) {
     const std::string commands = readFileText(directory / "compile_commands.json");
     EXPECT_NE(commands.find("POZHIL_LIBRARY_DIR=\\\\\\\"" POZHIL_ROOT "/\\\\\\\""),
               std::string::npos);
+}
+
+TEST_F(LibraryFolder, LiesBesideAnInstalledCompilerWhereverThatIsMoved) {
+    EXPECT_EQ(libraryFolder(root / "build", {"cmake", "--preset", "install"}), "./");
 }
 
 TEST_F(LibraryFolder, IsAFixedOneForWhoeverAsksForNothing) {

@@ -1,6 +1,8 @@
 // The steps of the tests' script: what they count and tell, also of those that run aside.
 #include <sys/wait.h>
 
+#include <regex>
+
 #include "driver/live_process.h"
 #include "driver/workplace.h"
 
@@ -40,11 +42,36 @@ TEST_F(StepsScript, CountStepsAsideAndTellHowLongEachTook) {
             "summary");
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_TRUE(shows(result.out, "✗ d\n✗ b\n4 passed, 2 failed, 3 skipped\n")) << result.out;
-    EXPECT_FALSE(shows(result.out, "     0 s  first\n")) << result.out;
+    EXPECT_TRUE(std::regex_search(result.out, std::regex("\n *[1-9]\\d* s +0\\.\\d s  first\n")))
+        << result.out;
     for (const char* row :
          {" s  first\n", " s  c\n", " s  d\n", " s  a (", " s  b (", " s  last\n"}) {
         EXPECT_TRUE(shows(result.out, row)) << row << result.out;
     }
+}
+
+/// Tenths of a second of processor time in the row of that step.
+int processorTime(const std::string& printed, const std::string& row) {
+    std::smatch found;
+    if (!std::regex_search(printed, found, std::regex("(\\d+)\\.(\\d) s  " + row))) return -1;
+    return 10 * std::stoi(found[1]) + std::stoi(found[2]);
+}
+
+TEST_F(StepsScript, TellTheProcessorTimeOfEachAndOfAll) {
+    const std::string counting =  // four tenths of a second
+        "bash -c 'until read -ra f </proc/$$/stat && ((f[13] + f[14] >= 41)); do :; done'";
+    const ProcessResult result =
+        run("beside() { check aside " + counting + "; }\nstart_aside beside\ncheck first " +
+            counting + "\ncheck waiting sleep 1\njoin_aside others\nsummary");
+    const int first = processorTime(result.out, "first");
+    const int aside = processorTime(result.out, "aside");
+    EXPECT_GE(first, 4) << result.out;
+    EXPECT_GE(aside, 4) << result.out;
+    EXPECT_LE(processorTime(result.out, "waiting"), 2) << result.out;
+    EXPECT_LE(processorTime(result.out, "others"), 2) << result.out;
+    std::smatch all;
+    ASSERT_TRUE(std::regex_search(result.out, all, std::regex("செயலிகளில் (\\d+)\\.(\\d):")));
+    EXPECT_GE(10 * std::stoi(all[1]) + std::stoi(all[2]), first + aside) << result.out;
 }
 
 TEST_F(StepsScript, AllThatPassedIsASuccess) {

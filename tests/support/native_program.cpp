@@ -59,10 +59,27 @@ int statusAsAShellTells(const ProcessResult& ran) {
 
 }  // namespace
 
-std::string generateFile(const std::string& sourcePath) {
+std::string generateFile(const std::string& sourcePath, const std::string& name) {
     const fs::path path = fs::absolute(fs::u8path(sourcePath));
     const WorkingDirectory here(path.parent_path());
-    return generate(readText(path.u8string()), path.filename().u8string());
+    return generate(readText(path.u8string()), name.empty() ? path.filename().u8string() : name);
+}
+
+std::vector<std::string> buildCommand(const std::string& text, const std::string& program,
+                                      Build build) {
+    const std::string report =
+        build == Build::Sanitized ? "sanitized/error_handler.o" : "error_handler_native_linux.o";
+    std::vector<std::string> command = {"g++", text, kBuildDirectory + report, "-o", program};
+    for (const std::string& option : includeOptions(build)) command.push_back(option);
+    for (const std::string& option : linkOptions(build)) command.push_back(option);
+    return command;
+}
+
+// An object with a method owns itself and lives to the end of its program: a leak that is meant.
+// Programs without objects must free all they take.
+std::vector<std::string> programEnvironment(const std::string& text) {
+    const bool makesObjects = text.find("std::make_shared<") != std::string::npos;
+    return {makesObjects ? "ASAN_OPTIONS=detect_leaks=0" : "ASAN_OPTIONS=detect_leaks=1"};
 }
 
 NativeProgram::NativeProgram(const std::string& name, const std::string& sourcePath, Build build)
@@ -73,20 +90,14 @@ NativeProgram::NativeProgram(const std::string& name, const std::string& sourceP
     const fs::path source = fs::u8path(sourcePath);
     fs::copy_file(source, fs::u8path(runDirectory()) / source.filename());
     const std::string text = generateFile(sourcePath);
-    makesObjects = text.find("std::make_shared<") != std::string::npos;
+    environment = programEnvironment(text);
     std::ofstream(fs::u8path(folder + "generated.cpp")) << text;
 }
 
 ProcessResult NativeProgram::compile() const {
-    const std::string report =
-        build == Build::Sanitized ? "sanitized/error_handler.o" : "error_handler_native_linux.o";
-    std::vector<std::string> command = {"g++", folder + "generated.cpp", kBuildDirectory + report,
-                                        "-o", folder + "program"};
-    for (const std::string& option : includeOptions(build)) command.push_back(option);
-    for (const std::string& option : linkOptions(build)) command.push_back(option);
     ProcessOptions options;
     options.timeoutSeconds = 200;
-    return runCommand(command, options);
+    return runCommand(buildCommand(folder + "generated.cpp", folder + "program", build), options);
 }
 
 ProcessResult NativeProgram::checkSyntax(const std::vector<std::string>& furtherOptions) const {
@@ -106,24 +117,26 @@ ProcessResult NativeProgram::run(const std::string& input,
     ProcessOptions options;
     options.input = input;
     options.directory = runDirectory();
-    // An object with a method owns itself and lives to the end of its program: a leak that is
-    // meant. Programs without objects must free all they take.
-    options.environment = {makesObjects ? "ASAN_OPTIONS=detect_leaks=0"
-                                        : "ASAN_OPTIONS=detect_leaks=1"};
+    options.environment = environment;
     return runCommand(command, options);
 }
 
 void NativeProgram::removeExecutable() const { fs::remove(fs::u8path(folder + "program")); }
+
+std::string inputOf(const CaseFile& file) { return readOptional(besides(file, ".in"), ""); }
+
+void expectOutcome(const CaseFile& file, const ProcessResult& ran) {
+    EXPECT_FALSE(ran.timedOut) << file.source;
+    EXPECT_EQ(statusAsAShellTells(ran), std::stoi(readOptional(besides(file, ".status"), "0")));
+    EXPECT_EQ(ran.err, readOptional(besides(file, ".err"), ""));
+    expectGolden(file, maskSaying(ran.out));
+}
 
 void expectProgram(const CaseFile& file, Build build) {
     const NativeProgram program(file.name, file.source, build);
     const ProcessResult built = program.compile();
     ASSERT_EQ(built.exitCode, 0) << file.source << "\n" << built.err;
 
-    const ProcessResult ran = program.run(readOptional(besides(file, ".in"), ""));
-    EXPECT_FALSE(ran.timedOut) << file.source;
-    EXPECT_EQ(statusAsAShellTells(ran), std::stoi(readOptional(besides(file, ".status"), "0")));
-    EXPECT_EQ(ran.err, readOptional(besides(file, ".err"), ""));
-    expectGolden(file, maskSaying(ran.out));
+    expectOutcome(file, program.run(inputOf(file)));
     if (!testing::Test::HasFailure()) program.removeExecutable();
 }

@@ -13,9 +13,16 @@ enum class Build {
     Sanitized,  ///< The same text under the address and undefined-behaviour sanitizers.
 };
 
-/// The generated text of the source file, which is named in it by its bare name. Imports are
-/// looked for in the file's folder.
-std::string generateFile(const std::string& sourcePath);
+/// The generated text of the source file, which is named in it by its bare name, or as `name` says.
+/// Imports are looked for in the file's folder.
+std::string generateFile(const std::string& sourcePath, const std::string& name = "");
+
+/// The command that builds the generated text of the file `text` as `program`.
+std::vector<std::string> buildCommand(const std::string& text, const std::string& program,
+                                      Build build);
+
+/// What a program of that text is to find in its environment.
+std::vector<std::string> programEnvironment(const std::string& text);
 
 /// One program. Its folder, below build/programs/, is emptied by the constructor and holds the
 /// generated text, the executable and, as the program's working directory, a folder `run` with a
@@ -42,10 +49,16 @@ public:
 private:
     std::string folder;
     Build build;
-    bool makesObjects = false;
+    std::vector<std::string> environment;
 };
 
-/// Builds and runs the case and compares what it prints with its expectation, each report's saying
-/// masked. Beside a source may stand its standard input (.in), its exit status as a shell tells it
-/// (.status, 0 if there is none, 134 for an abort) and what it writes to standard error (.err).
+/// The standard input of the case: what stands beside it in a file `.in`.
+std::string inputOf(const CaseFile& file);
+
+/// Compares what the case's program did with its expectation, each report's saying masked. Beside a
+/// source may stand its exit status as a shell tells it (.status, 0 if there is none, 134 for an
+/// abort) and what it writes to standard error (.err).
+void expectOutcome(const CaseFile& file, const ProcessResult& ran);
+
+/// Builds and runs the case, and holds its outcome.
 void expectProgram(const CaseFile& file, Build build = Build::AsTheDriver);

@@ -40,13 +40,14 @@ void addUnknown(const CallCheck& check, const NearNames& near, const std::string
     }
     if (const EnglishWord* word = englishWord(name)) {
         return check.findings.add("துணை-202", range,
-                                  {name, std::string(word->tamil), std::string(word->form)});
+                                  {name, std::string(word->tamil), std::string(word->form)},
+                                  {range, std::string(word->tamil)});
     }
     if (lookUpWord(name) == TokenType::KEYWORD) {
         return check.findings.add("துணை-205", range, {name});
     }
     if (const auto nearest = near.to(name)) {
-        return check.findings.add("துணை-201", range, {name, *nearest});
+        return check.findings.add("துணை-201", range, {name, *nearest}, {range, *nearest});
     }
     check.findings.add("துணை-203", range, {name});
 }

@@ -12,6 +12,9 @@ namespace companion {
 /// What stands wrong in `source`, in the order of the places. Whatever the text holds, it returns.
 std::vector<Finding> checkSource(const SourceText& source, const ModuleReader& readModule);
 
+/// The same for a source that went through the compiler already.
+std::vector<Finding> checkSource(const CompiledSource& compiled);
+
 // The families of rules.
 void checkMarks(const SourceText& source, Findings& findings);
 /// For a source that the scanner took.

@@ -34,12 +34,18 @@ void Findings::add(std::string_view code, Range range, const std::vector<std::st
     if (rule.severity != Severity::Error) {
         message += " (தெரிந்தே எழுதியதா? வரியின் முடிவில்: ஃ " + std::string(code) + ")";
     }
-    entries.push_back({range, rule.severity, std::string(code), std::move(message)});
+    entries.push_back({range, rule.severity, std::string(code), std::move(message), {}});
+}
+
+void Findings::add(std::string_view code, Range range, const std::vector<std::string>& parts,
+                   Correction correction) {
+    add(code, range, parts);
+    entries.back().correction = std::move(correction);
 }
 
 void Findings::add(Severity severity, const std::string& code, Range range,
-                   const std::string& message) {
-    entries.push_back({range, severity, code, message});
+                   const std::string& message, std::optional<Correction> correction) {
+    entries.push_back({range, severity, code, message, std::move(correction)});
 }
 
 bool Findings::hasErrors() const {
@@ -75,8 +81,9 @@ std::vector<Finding> Findings::inOrder() const {
         if (isToldNearby(sorted, at)) continue;
         const Place begin = source.placeOf(entry->range.begin);
         const Place end = source.placeOf(std::max(entry->range.begin, entry->range.end));
+        const Range range{entry->range.begin, std::max(entry->range.begin, entry->range.end)};
         findings.push_back({begin.line, begin.column, end.line, end.column, entry->severity,
-                            entry->code, entry->message});
+                            entry->code, entry->message, range, entry->correction});
     }
     return findings;
 }
@@ -117,11 +124,18 @@ bool Findings::isLeftOutFor(const Entry& entry, const Entry& other) {
 /// can't be silenced.
 bool Findings::isSilenced(const Entry& entry) const {
     if (entry.code.rfind(kOwnCodes, 0) != 0) return false;
-    const Range line = source.rangeOfLine(source.placeOf(entry.range.begin).line);
-    const std::string_view text = source.slice(line);
-    const std::size_t comment = text.rfind(kCommentMark);
-    return comment != std::string_view::npos &&
-           text.find(entry.code, comment) != std::string_view::npos;
+    return commentBehind(entry.range.begin).find(entry.code) != std::string_view::npos;
+}
+
+/// The comment at the end of the line of `offset`. A line may hold thousands of findings.
+std::string_view Findings::commentBehind(std::size_t offset) const {
+    const bool isKnown = lastLine && lastLine->begin <= offset && offset <= lastLine->end;
+    if (!isKnown) {
+        lastLine = source.rangeOfLine(source.placeOf(offset).line);
+        const std::string_view text = source.slice(*lastLine);
+        lastComment = text.substr(std::min(text.rfind(kCommentMark), text.size()));
+    }
+    return lastComment;
 }
 
 }  // namespace companion

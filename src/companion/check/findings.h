@@ -1,6 +1,7 @@
 // Gathers what the rules find in one source.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,8 +18,12 @@ public:
 
     /// A finding of the rule `code`; `parts` fill the marks of its message.
     void add(std::string_view code, Range range, const std::vector<std::string>& parts = {});
+    /// The same for a slip that can be put right by `correction` alone.
+    void add(std::string_view code, Range range, const std::vector<std::string>& parts,
+             Correction correction);
     /// One in other words: a refusal of the compiler.
-    void add(Severity severity, const std::string& code, Range range, const std::string& message);
+    void add(Severity severity, const std::string& code, Range range, const std::string& message,
+             std::optional<Correction> correction = std::nullopt);
 
     /// True if an error stands there that no comment silences.
     bool hasErrors() const;
@@ -35,13 +40,17 @@ private:
         Severity severity;
         std::string code;
         std::string message;
+        std::optional<Correction> correction;
     };
     bool isSilenced(const Entry& entry) const;
+    std::string_view commentBehind(std::size_t offset) const;
     static bool isToldNearby(const std::vector<const Entry*>& sorted, std::size_t at);
     static bool isLeftOutFor(const Entry& entry, const Entry& other);
 
     const SourceText& source;
     std::vector<Entry> entries;
+    mutable std::optional<Range> lastLine;  ///< The one that was looked at last.
+    mutable std::string_view lastComment;
 };
 
 }  // namespace companion

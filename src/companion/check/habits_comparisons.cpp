@@ -28,7 +28,7 @@ bool isKindName(const std::string& text) {
 
 std::string kindAdvice(const std::string& text) {
     if (isKindName(text + " ")) {
-        return "முடிவில் ஓர் இடைவெளியோடு எழுதுங்கள்: \"" + text + " \"";
+        return "முடிவில் ஓர் இடைவெளியோடு எழுது: \"" + text + " \"";
     }
     return "அது சொல்பவை: \"எண் \" (முடிவில் இடைவெளி), \"தசம_எண்\", \"உரை\", \"பட்டியல்\", \"அகராதி\" முதலியன.";
 }

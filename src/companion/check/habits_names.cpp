@@ -33,7 +33,7 @@ void addEmptyName(const HabitCheck& check, const NearNames& near, const std::str
     } else if (check.uses.parameters.count(name) != 0) {
         check.add("துணை-504", range, {name});
     } else if (const auto nearest = near.to(name)) {
-        check.add("துணை-501", range, {name, *nearest});
+        if (range) check.findings.add("துணை-501", *range, {name, *nearest}, {*range, *nearest});
     } else {
         check.add("துணை-502", range, {name});
     }

@@ -32,13 +32,13 @@ bool isAMember(const CompiledSource& compiled, const std::string& name) {
 std::string inputAdvice(const HabitCheck& check, const std::string& object,
                         const std::string& member) {
     if (isAMember(check.compiled, member)) {
-        return "பண்பின் '" + member + "' என்ற பெயரை மாற்றுங்கள்.";
+        return "பண்பின் '" + member + "' என்ற பெயரை மாற்று.";
     }
-    if (member == "நீளம்") return "நீளத்தைப் பார்க்க 'நீளம்(" + object + ")' என்று எழுதுங்கள்.";
+    if (member == "நீளம்") return "நீளத்தைப் பார்க்க 'நீளம்(" + object + ")' என்று எழுது.";
     if (const auto near = nearestName(object, check.uses.inputs)) {
         return "'" + *near + "' என்று எழுத நினைத்தீர்களா?";
     }
-    return "உரைபெட்டி(அடையாளம்: \"" + object + "\") என்று ஒரு பெட்டியைக் 'குமரி' பகுதியில் சேருங்கள்.";
+    return "உரைபெட்டி(அடையாளம்: \"" + object + "\") என்று ஒரு பெட்டியைக் 'குமரி' பகுதியில் சேர்.";
 }
 
 /// True for a name that is none of a page elsewhere: a file of functions alone may be meant for

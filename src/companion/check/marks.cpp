@@ -27,54 +27,53 @@ const RuleTable& markRules() {
          "வரிகளின் முடிவில் கண்ணுக்குத் தெரியாத கூடுதல் குறி உள்ளது. 'பொழில்-துணை வடிவமை' அதை நீக்கிவிடும்."},
         {"துணை-104", Severity::Warning,
          "இங்கே வரி முடிவதுபோல் தெரிந்தாலும் பொழிலுக்கு முடியவில்லை; அடுத்த வரியும் இதே வரிதான். "
-         "வரியை இங்கே உடைத்து மீண்டும் எழுதுங்கள்."},
+         "வரியை இங்கே உடைத்து மீண்டும் எழுது."},
         {"துணை-105", Severity::Error,
          "வரியின் தொடக்கத்தில் தாவல் இடைவெளி உள்ளது; பொழில் அதன்பின் வரும் எழுத்துகளையும் விழுங்கிவிடும். "
-         "ஒவ்வொரு தாவலுக்கும் நான்கு வெற்றிடம் இடுங்கள், அல்லது 'பொழில்-துணை வடிவமை' இயக்குங்கள்."},
+         "ஒவ்வொரு தாவலுக்கும் நான்கு இடைவெளி இடு, அல்லது 'பொழில்-துணை வடிவமை' இயக்கு."},
         {"துணை-106", Severity::Error,
-         "கோப்பின் கடைசி வரியில் வெற்றிடம் மட்டுமே உள்ளது; பொழில் அதை உள்ளே தள்ளிய வரியாக எண்ணும். "
-         "அந்த வெற்றிடங்களை அழியுங்கள்."},
+         "கோப்பின் கடைசி வரியில் இடைவெளி மட்டுமே உள்ளது; பொழில் அதை உள்ளே தள்ளிய வரியாக எண்ணும். "
+         "அந்த இடைவெளிகளை அழி."},
         {"துணை-107", Severity::Error,
          "இங்கே கண்ணுக்குத் தெரியாத குறி ஒன்று உள்ளது; அதனால் இது வேறு சொல்லாகிவிடும். "
-         "இந்தச் சொல்லை அழித்துவிட்டு மீண்டும் எழுதுங்கள்."},
+         "இந்தச் சொல்லை அழித்துவிட்டு மீண்டும் எழுது."},
         {"துணை-108", Severity::Error,
-         "இது வெற்றிடம்போல் தெரியும் வேறு குறி; பொழில் இதைச் சொல்லின் எழுத்தாக எண்ணும். "
-         "இதை அழித்துவிட்டு இயல்பான வெற்றிடம் இடுங்கள்."},
+         "இது இடைவெளிபோல் தெரியும் வேறு குறி; பொழில் இதைச் சொல்லின் எழுத்தாக எண்ணும். "
+         "இதை அழித்துவிட்டு இயல்பான இடைவெளி இடு."},
         {"துணை-109", Severity::Error,
-         "இங்கே நிரலை முடித்துவிடும் குறி ஒன்று உள்ளது; இதன்பின் இருப்பதைப் பொழில் படிக்காது. இந்தக் குறியை அழியுங்கள்."},
-        {"துணை-110", Severity::Error,
-         "'$0' என்பது '$1' போல் தெரியும் வேறு குறி. இங்கே '$1' என எழுதுங்கள்."},
-        {"துணை-111", Severity::Error, "'$0' என்பதைப் பொழில் எண்ணாகப் படிக்காது. '$1' என எழுதுங்கள்."},
+         "இங்கே நிரலை முடித்துவிடும் குறி ஒன்று உள்ளது; இதன்பின் இருப்பதைப் பொழில் படிக்காது. இந்தக் குறியை அழி."},
+        {"துணை-110", Severity::Error, "'$0' என்பது '$1' போல் தெரியும் வேறு குறி. இங்கே '$1' என எழுது."},
+        {"துணை-111", Severity::Error, "'$0' என்பதைப் பொழில் எண்ணாகப் படிக்காது. '$1' என எழுது."},
         {"துணை-112", Severity::Error,
-         "'$0' உரையைத் தொடங்கும் மேற்கோள் குறி அன்று. உரையின் இரு பக்கமும் \" இடுங்கள்."},
+         "'$0' உரையைத் தொடங்கும் மேற்கோள் குறி அன்று. உரையின் இரு பக்கமும் \" இடு."},
         {"துணை-113", Severity::Error,
-         "உரை இந்த மேற்கோளோடு முடிந்துவிடுகிறது; உரைக்குள் \" வராது. உள்ளே ‘ ’ அல்லது “ ” இடுங்கள்."},
+         "உரை இந்த மேற்கோளோடு முடிந்துவிடுகிறது; உரைக்குள் \" வராது. உள்ளே ‘ ’ அல்லது “ ” இடு."},
         {"துணை-114", Severity::Error,
-         "இங்கே தொடங்கும் உரை இந்த வரியிலேயே முடியவில்லை. வரி முடியுமுன் \" இட்டு மூடுங்கள்; உரைக்குள் புது வரி "
-         "வேண்டுமென்றால் \\n என எழுதுங்கள்."},
+         "இங்கே தொடங்கும் உரை இந்த வரியிலேயே முடியவில்லை. வரி முடியுமுன் \" இட்டு மூடு; உரைக்குள் புது வரி "
+         "வேண்டுமென்றால் \\n என எழுது."},
         {"துணை-115", Severity::Error,
-         "பொழிலில் '$0' என்ற குறி இல்லை. அதற்குப் பதில் '$1' எனத் தனிச் சொல்லாக எழுதுங்கள்."},
-        {"துணை-116", Severity::Error, "'$0' பொழிலில் குறிப்பைத் தொடங்காது. குறிப்புக்கு 'ஃ' இடுங்கள்."},
+         "பொழிலில் '$0' என்ற குறி இல்லை. அதற்குப் பதில் '$1' எனத் தனிச் சொல்லாக எழுது."},
+        {"துணை-116", Severity::Error, "'$0' பொழிலில் குறிப்பைத் தொடங்காது. குறிப்புக்கு 'ஃ' இடு."},
         {"துணை-117", Severity::Warning,
-         "'ஃ' குறிப்பைத் தொடங்குவதால் '$0' முதல் வரி முடியும்வரை பொழில் படிக்காது. பெயரை 'ஃ' இல்லாமல் எழுதுங்கள்."},
+         "'ஃ' குறிப்பைத் தொடங்குவதால் '$0' முதல் வரி முடியும்வரை பொழில் படிக்காது. பெயரை 'ஃ' இல்லாமல் எழுது."},
         {"துணை-118", Severity::Error,
-         "இந்த 'ஃ' முன்னுள்ள சொல்லோடு ஒட்டியிருப்பதால் குறிப்பைத் தொடங்காது. அதன் முன் ஒரு வெற்றிடம் இடுங்கள்."},
+         "இந்த 'ஃ' முன்னுள்ள சொல்லோடு ஒட்டியிருப்பதால் குறிப்பைத் தொடங்காது. அதன் முன் ஒரு இடைவெளி இடு."},
         {"துணை-119", Severity::Error,
          "'$0' என்ற சொல்லின் எழுத்துகள் பிரிந்து எழுதப்பட்டுள்ளன; பார்க்க ஒன்றுபோல் இருந்தாலும் '$1' வேறு சொல். "
-         "இதை அழித்துவிட்டு மீண்டும் எழுதுங்கள், அல்லது 'பொழில்-துணை வடிவமை' இயக்குங்கள்."},
+         "இதை அழித்துவிட்டு மீண்டும் எழுது, அல்லது 'பொழில்-துணை வடிவமை' இயக்கு."},
         {"துணை-120", Severity::Hint,
          "'$0' என்ற சொல்லின் எழுத்துகள் பிரிந்து எழுதப்பட்டுள்ளன; வேறு இடத்தில் சேர்த்து எழுதினால் வேறு சொல்லாகும். "
          "'பொழில்-துணை வடிவமை' இவற்றைச் சேர்க்கும்."},
         {"துணை-121", Severity::Warning,
          "'$0' என்ற சொல்லில் உயிர்க்குறி ஒன்று எழுத்தில்லாமல் நிற்கிறது; 'ர', 'ள' போன்ற எழுத்தாக இருக்கவேண்டியதோ? "
-         "அந்த எழுத்தை மீண்டும் எழுதுங்கள்."},
-        {"துணை-122", Severity::Error, "'$0' என்பது '$1' போல் தெரியும் வேறு சொல். '$1' என எழுதுங்கள்."},
+         "அந்த எழுத்தை மீண்டும் எழுது."},
+        {"துணை-122", Severity::Error, "'$0' என்பது '$1' போல் தெரியும் வேறு சொல். '$1' என எழுது."},
         {"துணை-123", Severity::Warning,
          "'$0' என்ற சொல்லில் '$1' வேறு மொழியின் எழுத்து; பார்க்க ஒன்றுபோல் இருந்தாலும் இது வேறு சொல்லாகும். "
-         "அந்த எழுத்தை மீண்டும் எழுதுங்கள்."},
-        {"துணை-124", Severity::Error, "நிறத்தின் எண் மேற்கோளுக்குள் இருக்கவேண்டும். \"$0\" என எழுதுங்கள்."},
+         "அந்த எழுத்தை மீண்டும் எழுது."},
+        {"துணை-124", Severity::Error, "நிறத்தின் எண் மேற்கோளுக்குள் இருக்கவேண்டும். \"$0\" என எழுது."},
         {"துணை-125", Severity::Error,
-         "பெயருக்குள் '$0' வராது. ஒரே பெயர் என்றால் '_' இடுங்கள்; கழித்தல் என்றால் 'கழி' எனத் தனிச் சொல்லாக எழுதுங்கள்."},
+         "பெயருக்குள் '$0' வராது. ஒரே பெயர் என்றால் '_' இடு; கழித்தல் என்றால் 'கழி' எனத் தனிச் சொல்லாக எழுது."},
     };
     return rules;
 }
@@ -138,7 +137,8 @@ private:
     bool lookAtSign(const Piece& word, std::size_t at, CodePoint point);
     void lookAtDigits(const Piece& word, std::size_t at);
     SignKind kindBefore(const Piece& word, std::size_t at) const;
-    void passQuoted(std::size_t quote, std::size_t width);
+    Range rowFrom(const Piece& word, std::size_t at) const;
+    void tellQuote(Range quote);
     void lookForOtherScript(const Piece& word);
     void lookAtSpelling(const Piece& word);
     void lookAtNumber(const Piece& number);
@@ -149,6 +149,7 @@ private:
     void lookAtComment(const Piece& piece);
     void lookAtMark(const Piece& mark);
     void tellOperator(Range sign, bool isAtWord, std::string_view word);
+    std::string apartFromNeighbours(Range sign, std::string word) const;
     bool passForeignComment(const Piece& mark);
     bool passColour(const Piece& mark);
 
@@ -227,22 +228,19 @@ bool MarkCheck::lookAtSign(const Piece& word, std::size_t at, CodePoint point) {
     const bool isInRow = sign.kind == kindBefore(word, at);
     switch (sign.kind) {
         case SignKind::Invisible:
-            if (!isInRow) findings.add("துணை-107", range);
+            if (!isInRow) findings.add("துணை-107", range, {}, {rowFrom(word, at), ""});
             return false;
         case SignKind::Blank:
-            if (!isInRow) findings.add("துணை-108", range);
+            if (!isInRow) findings.add("துணை-108", range, {}, {rowFrom(word, at), " "});
             return false;
         case SignKind::Digit:
             if (!isInRow) lookAtDigits(word, at);
             return false;
         case SignKind::Punctuation:
-            findings.add("துணை-110", range, {shown, sign.meant});
+            findings.add("துணை-110", range, {shown, sign.meant}, {range, sign.meant});
             return false;
         case SignKind::Operator: tellOperator(range, at > word.begin, sign.meant); return false;
-        case SignKind::Quote:
-            findings.add("துணை-112", range, {shown});
-            passQuoted(at, point.width);
-            return true;
+        case SignKind::Quote: tellQuote(range); return true;
         default: return false;
     }
 }
@@ -258,7 +256,8 @@ void MarkCheck::lookAtDigits(const Piece& word, std::size_t at) {
         meant += sign.meant;
         end += point.width;
     }
-    findings.add("துணை-111", {at, end}, {std::string(source.slice({at, end})), meant});
+    const Range digits{at, end};
+    findings.add("துணை-111", digits, {std::string(source.slice(digits)), meant}, {digits, meant});
 }
 
 /// The kind of the character before the one at `at`, in the same word.
@@ -269,16 +268,38 @@ SignKind MarkCheck::kindBefore(const Piece& word, std::size_t at) const {
     return signOf(codePointAt(text, last).value).kind;
 }
 
-/// Goes on behind the sign that closes a text in such quotes, if its line holds one.
-void MarkCheck::passQuoted(std::size_t quote, std::size_t width) {
-    const std::size_t lineEnd = lineEndBehind(quote);
-    for (std::size_t at = quote + width; at < lineEnd;) {
-        const CodePoint point = codePointAt(text, at);
-        at += point.width;
-        const bool closes = point.value == '"' ||
-                            (point.value >= 0x80 && signOf(point.value).kind == SignKind::Quote);
-        if (closes) return reader.continueAt(at);
+/// Those of the same kind as the character at `at` that follow it in its word.
+Range MarkCheck::rowFrom(const Piece& word, std::size_t at) const {
+    const SignKind kind = signOf(codePointAt(text, at).value).kind;
+    std::size_t end = at;
+    while (end < word.end) {
+        const CodePoint point = codePointAt(text, end);
+        if (signOf(point.value).kind != kind) break;
+        end += point.width;
     }
+    return {at, end};
+}
+
+/// A quote of another kind. Goes on behind the sign that closes a text in such quotes, if its line
+/// holds one; else nobody knows where the text was to end.
+void MarkCheck::tellQuote(Range quote) {
+    const std::vector<std::string> parts = {std::string(source.slice(quote))};
+    const std::size_t lineEnd = lineEndBehind(quote.begin);
+    const bool isFence = text.substr(quote.begin, 2) == "``";  // of code that was copied
+    for (std::size_t at = quote.end; at < lineEnd && !isFence;) {
+        const CodePoint point = codePointAt(text, at);
+        const bool closes = point.value == '"' ||
+                            (point.value == '`' && text[quote.begin] == '`') ||
+                            (point.value >= 0x80 && signOf(point.value).kind == SignKind::Quote);
+        if (closes) {
+            const Range whole{quote.begin, at + point.width};
+            const std::string inside(source.slice({quote.end, at}));
+            findings.add("துணை-112", quote, parts, {whole, '"' + inside + '"'});
+            return reader.continueAt(whole.end);
+        }
+        at += point.width;
+    }
+    findings.add("துணை-112", quote, parts);
     reader.continueAt(lineEnd);
 }
 
@@ -312,7 +333,7 @@ void MarkCheck::lookAtSpelling(const Piece& word) {
     if (spelling.isSplit) {
         const std::string whole = composed(written);
         const bool isAnother = isWordOfLanguage(whole) || isNamed(whole);
-        findings.add(isAnother ? "துணை-119" : "துணை-120", range, {shown, whole});
+        findings.add(isAnother ? "துணை-119" : "துணை-120", range, {shown, whole}, {range, whole});
     }
     if (spelling.strayAt != std::string_view::npos) {
         const std::size_t at = word.begin + spelling.strayAt;
@@ -321,7 +342,7 @@ void MarkCheck::lookAtSpelling(const Piece& word) {
     if (spelling.isLookAlike) {
         const std::string usual = withUsualLetters(written);
         if (isWordOfLanguage(usual) || isNamed(usual)) {
-            findings.add("துணை-122", range, {shown, usual});
+            findings.add("துணை-122", range, {shown, usual}, {range, usual});
         }
     }
 }
@@ -340,7 +361,8 @@ void MarkCheck::lookForGluedComment(const Piece& word) {
     if (letters.size() <= kCommentSign.size()) return;
     const std::size_t sign = letters.size() - kCommentSign.size();
     if (letters.substr(sign) != kCommentSign) return;
-    findings.add("துணை-118", {word.begin + sign, word.end});
+    const Range glued{word.begin + sign, word.end};
+    findings.add("துணை-118", glued, {}, {{glued.begin, glued.begin}, " "});
     reader.continueAt(lineEndBehind(word.end));
 }
 
@@ -370,7 +392,7 @@ void MarkCheck::lookAtComment(const Piece& piece) {
     if (rest.substr(0, kTamilWidth) != "ப") {
         if (before && before->kind == PieceKind::Number && before->end == piece.begin &&
             text[piece.begin - 1] != '%') {
-            findings.add("துணை-118", {piece.begin, from});
+            findings.add("துணை-118", {piece.begin, from}, {}, {{piece.begin, piece.begin}, " "});
         }
         return;
     }
@@ -394,15 +416,14 @@ void MarkCheck::lookAtMark(const Piece& mark) {
     const char byte = text[mark.begin];
     const Range range{mark.begin, mark.end};
     if (mark.end - mark.begin > 1) {
-        findings.add("துணை-101", range);
+        findings.add("துணை-101", range, {}, {range, ""});
     } else if (byte == '\0') {
-        findings.add("துணை-109", range);
+        findings.add("துணை-109", range, {}, {range, ""});
         reader.continueAt(text.size());
     } else if (byte == '`') {
-        findings.add("துணை-112", range, {"`"});
-        passQuoted(mark.begin, 1);
+        tellQuote(range);
     } else if (static_cast<unsigned char>(byte) < ' ' || byte == '\x7F') {
-        findings.add("துணை-107", range);
+        findings.add("துணை-107", range, {}, {range, ""});
     } else if (!passColour(mark) && !passForeignComment(mark)) {
         const AsciiOperator found = asciiOperatorAt(text.substr(mark.begin));
         if (found.sign.empty()) return;
@@ -422,7 +443,16 @@ void MarkCheck::tellOperator(Range sign, bool isAtWord, std::string_view word) {
                               !isAsciiMark(static_cast<unsigned char>(text[sign.end]));
     if (word == "கழி" && isAtWord && isBeforeWord) return findings.add("துணை-125", sign, {shown});
     const std::string_view meant = isAtWord || isBehindValue() ? word : wordInFrontOf(word);
-    findings.add("துணை-115", sign, {shown, std::string(meant)});
+    findings.add("துணை-115", sign, {shown, std::string(meant)},
+                 {sign, apartFromNeighbours(sign, std::string(meant))});
+}
+
+/// `word` with blanks where the neighbours of `sign` would run into it.
+std::string MarkCheck::apartFromNeighbours(Range sign, std::string word) const {
+    const auto isBlank = [](char byte) { return byte == ' ' || byte == '\t' || byte == '\n'; };
+    if (sign.begin > 0 && !isBlank(text[sign.begin - 1])) word = ' ' + word;
+    if (sign.end < text.size() && !isBlank(text[sign.end])) word += ' ';
+    return word;
 }
 
 bool MarkCheck::passForeignComment(const Piece& mark) {
@@ -432,7 +462,12 @@ bool MarkCheck::passForeignComment(const Piece& mark) {
         if (rest.substr(0, known.size()) == known) sign = known;
     }
     if (sign.empty()) return false;
-    findings.add("துணை-116", {mark.begin, mark.begin + sign.size()}, {std::string(sign)});
+    const Range range{mark.begin, mark.begin + sign.size()};
+    if (sign == "/*") {
+        findings.add("துணை-116", range, {std::string(sign)});
+    } else {
+        findings.add("துணை-116", range, {std::string(sign)}, {range, std::string(kCommentSign)});
+    }
     const std::size_t end = sign == "/*" ? rest.find("*/") : std::string_view::npos;
     reader.continueAt(end == std::string_view::npos ? lineEndBehind(mark.begin)
                                                     : mark.begin + end + 2);
@@ -447,7 +482,9 @@ bool MarkCheck::passColour(const Piece& mark) {
     while (end < text.size() && isHexDigit(text[end])) end++;
     const std::size_t count = end - mark.end;
     if (count != 3 && count != 6 && count != 8) return false;
-    findings.add("துணை-124", {mark.begin, end}, {std::string(source.slice({mark.begin, end}))});
+    const Range colour{mark.begin, end};
+    const std::string written(source.slice(colour));
+    findings.add("துணை-124", colour, {written}, {colour, '"' + written + '"'});
     reader.continueAt(end);
     return true;
 }

@@ -4,6 +4,20 @@
 
 namespace companion {
 
+/// The blanks of `range` with each tab drawn out to the next multiple of four.
+std::string LayoutMarks::withoutTabs(Range range) const {
+    constexpr std::size_t kTabWidth = 4;
+    std::string blanks;
+    for (const char byte : source.slice(range)) {
+        if (byte == '\t') {
+            blanks.append(kTabWidth - blanks.size() % kTabWidth, ' ');
+        } else {
+            blanks += byte;
+        }
+    }
+    return blanks;
+}
+
 void LayoutMarks::look(const Piece& piece) {
     const Range range{piece.begin, piece.end};
     switch (piece.kind) {
@@ -58,7 +72,7 @@ void LayoutMarks::beginCodeLine() {
 }
 
 void LayoutMarks::finish() {
-    if (firstTab) findings.add("துணை-105", *firstTab);
+    if (firstTab) findings.add("துணை-105", *firstTab, {}, {*firstTab, withoutTabs(*firstTab)});
     if (loneReturn) findings.add("துணை-104", *loneReturn);
     if (brokenBlock) {
         findings.add("துணை-102", *brokenBlock);
@@ -68,7 +82,7 @@ void LayoutMarks::finish() {
     // Blanks at the end that no line end follows are a line of code of their width.
     const bool isCode = isAtLineStart && leading && leading->end == source.text.size();
     if (isCode && !firstTab && width > 0) {
-        findings.add("துணை-106", *leading);
+        findings.add("துணை-106", *leading, {}, {*leading, ""});
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "companion/check/findings.h"
@@ -23,6 +24,7 @@ private:
     void lookAtReturns(Range blank);
     void endBlankLine();
     void beginCodeLine();
+    std::string withoutTabs(Range range) const;
 
     const SourceText& source;
     Findings& findings;

@@ -18,8 +18,15 @@ Place SourceText::placeOf(std::size_t offset) const {
     offset = std::min(offset, text.size());
     const auto next = std::upper_bound(lineStarts.begin(), lineStarts.end(), offset);
     const std::size_t start = *(next - 1);
-    return {static_cast<int>(next - lineStarts.begin()),
-            countCodePoints(std::string_view(text).substr(start, offset - start)) + 1};
+    if (reached.start != start || reached.offset > offset) reached = {start, start, 1};
+    const auto line = static_cast<int>(next - lineStarts.begin());
+    while (reached.offset < offset) {
+        const auto width = static_cast<std::size_t>(getUTF8SequenceLength(text[reached.offset]));
+        if (reached.offset + width > offset) return {line, reached.column + 1};
+        reached.offset += width;
+        reached.column++;
+    }
+    return {line, reached.column};
 }
 
 int SourceText::lineCount() const {

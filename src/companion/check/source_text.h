@@ -25,6 +25,7 @@ public:
     /// `path` is shown as it stands; `text` is the whole source, UTF-8 as a rule.
     SourceText(std::string path, std::string text);
 
+    /// Offsets that are asked for in their order cost no more than the text between them.
     Place placeOf(std::size_t offset) const;
 
     /// The number of lines; a line end at the end of the text opens no further one.
@@ -45,7 +46,15 @@ public:
     const std::string text;
 
 private:
+    /// A place that was asked for, from which the next in its line is reached sooner.
+    struct Reached {
+        std::size_t start;  ///< Of its line.
+        std::size_t offset;
+        int column;
+    };
+
     std::vector<std::size_t> lineStarts;
+    mutable Reached reached = {0, 0, 1};
 };
 
 /// The number of code points in `text`; a byte that belongs to none counts as one.

@@ -36,7 +36,8 @@ void checkDigits(const WordCheck& check) {
         if (check.at(i).type != TokenType::NUMBER) continue;
         const std::string digits = westernDigits(check.at(i).text);
         if (digits.empty()) continue;
-        check.findings.add("துணை-208", check.compiled.rangeOfToken(i), {check.at(i).text, digits});
+        const Range range = check.compiled.rangeOfToken(i);
+        check.findings.add("துணை-208", range, {check.at(i).text, digits}, {range, digits});
     }
 }
 
@@ -65,8 +66,10 @@ void checkStatementWords(const WordCheck& check) {
         const EnglishWord* word = englishWord(token.text);
         if (word == nullptr || !word->isStatement || goesOnAsName(check, i)) continue;
         if (depth > 0 && token.line != check.refusedLine()) continue;
-        check.findings.add("துணை-217", check.compiled.rangeOfToken(i),
-                           {token.text, std::string(word->tamil), std::string(word->form)});
+        const Range range = check.compiled.rangeOfToken(i);
+        check.findings.add("துணை-217", range,
+                           {token.text, std::string(word->tamil), std::string(word->form)},
+                           {range, std::string(word->tamil)});
     }
 }
 

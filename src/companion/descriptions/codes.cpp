@@ -23,8 +23,8 @@ const std::vector<CodeDescription>& codeDescriptions() {
         for (const auto* texts : {&codesOfWriting(), &codesOfMeaning()}) {
             for (const CodeText& text : *texts) {
                 const CodePrograms programs = programsOf(text.digits);
-                codes.push_back(
-                    {text.digits, text.moment, text.text, programs.wrong, programs.right});
+                codes.push_back({text.digits, text.moment, text.text, programs.wrong,
+                                 programs.right, programs.report});
             }
         }
         return codes;

@@ -27,6 +27,7 @@ struct CodeDescription {
     std::string_view text;
     std::string_view wrong;  ///< A whole program; empty for a code that nothing raises.
     std::string_view right;
+    std::string_view report;  ///< What the wrong one meets, without colours and saying.
 };
 
 /// All codes, in their order.

@@ -110,9 +110,9 @@ const std::vector<ValueDescription>& valueDescriptions() {
         {ValueGroup::Curve, "easeInCubic", "கன_தொடக்கம் என்பதன் ஆங்கிலப் பெயர்.", "cubic in"},
         {ValueGroup::Curve, "ease_out_cubic", "கன_முடிவு என்பதன் ஆங்கிலப் பெயர்.", "cubic out"},
         {ValueGroup::Curve, "easeOutCubic", "கன_முடிவு என்பதன் ஆங்கிலப் பெயர்.", "cubic out"},
-        {ValueGroup::Curve, "ease_in_out_cubic",
-         "நடுவில் பின்னோக்கித் தாவும்; கன_மாற்றத்தைப் பயன்படுத்துங்கள்.", "cubic in out"},
-        {ValueGroup::Curve, "easeInOutCubic", "நடுவில் பின்னோக்கித் தாவும்; கன_மாற்றத்தைப் பயன்படுத்துங்கள்.",
+        {ValueGroup::Curve, "ease_in_out_cubic", "நடுவில் பின்னோக்கித் தாவும்; கன_மாற்றத்தைப் பயன்படுத்து.",
+         "cubic in out"},
+        {ValueGroup::Curve, "easeInOutCubic", "நடுவில் பின்னோக்கித் தாவும்; கன_மாற்றத்தைப் பயன்படுத்து.",
          "cubic in out"},
     };
     return values;

@@ -16,6 +16,7 @@ struct CodePrograms {
     std::string_view digits;  ///< "101"
     std::string_view wrong;
     std::string_view right;
+    std::string_view report;  ///< What the wrong one meets, without colours and saying.
 };
 
 }  // namespace companion

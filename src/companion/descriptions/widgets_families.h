@@ -1,6 +1,7 @@
 // The words of web applications, a table a family.
 #pragma once
 
+#include <string_view>
 #include <vector>
 
 #include "companion/descriptions/description.h"
@@ -8,6 +9,15 @@
 namespace companion {
 
 using ApplicationWords = std::vector<Description>;
+
+/// A family as a reader looks for it.
+struct WidgetFamily {
+    std::string_view title;
+    const ApplicationWords& words;
+};
+
+/// All families; their words together are widgetDescriptions().
+const std::vector<WidgetFamily>& widgetFamilies();
 
 const ApplicationWords&
 applicationSections();  ///< The application, its sections, what they are told.

@@ -1,5 +1,6 @@
 #include "companion/explain/pages.h"
 
+#include "companion/descriptions/names.h"
 #include "error_codes.h"
 #include "parser/operator_levels.h"
 
@@ -8,37 +9,6 @@ namespace companion {
 namespace {
 
 constexpr std::size_t kMostRelated = 10;
-
-const char* nameOf(WordKind kind) {
-    switch (kind) {
-        case WordKind::Keyword: return "திறவுச்சொல்";
-        case WordKind::Operator: return "செயற்குறி";
-        case WordKind::BuiltIn: return "உள்ளமைந்த செயல்";
-        case WordKind::Member: return "புள்ளியின் பின்னே வரும் சொல்";
-        case WordKind::Widget: return "உறுப்பு";
-        case WordKind::Property: return "பண்பு";
-        case WordKind::Application: return "வலைதளத்தின் சொல்";
-        case WordKind::Mark: return "குறி";
-    }
-    return "";
-}
-
-const char* nameOf(ValueGroup group) {
-    switch (group) {
-        case ValueGroup::Colour: return "நிறம்";
-        case ValueGroup::Alignment: return "சீரமைப்பு";
-        case ValueGroup::Curve: return "அசைவூட்டத்தின் வகை";
-        case ValueGroup::Trigger: return "அசைவூட்டத்தின் நிலைமை";
-    }
-    return "";
-}
-
-/// Where a property stands, if not in the widget's own parentheses.
-std::string placeOf(const PropertyDescription& property) {
-    if (property.block.empty()) return "";
-    if (property.block == "()") return "உறுப்பின் முதல் அடைப்பு";
-    return std::string(property.block) + "(...)";
-}
 
 /// The words separated by commas, each once.
 class WordList {
@@ -89,11 +59,6 @@ std::string propertiesOf(const Description& widget) {
     return read.text();
 }
 
-bool isPrefix(const Description& word) {
-    return word.kind == WordKind::Operator && levelOfOperator(word.word) == 0 &&
-           word.form.substr(0, word.word.size()) == word.word;
-}
-
 /// The operators with two sides from `tightest` to `loosest`.
 std::string operatorsBetween(int tightest, int loosest) {
     WordList found;
@@ -108,7 +73,7 @@ std::string operatorsBetween(int tightest, int loosest) {
 }
 
 void addOrder(Page& page, const Description& word) {
-    if (isPrefix(word)) {
+    if (isPrefixOperator(word)) {
         page.addProse("எது முதலில்?",
                       "இரண்டு பக்கமுள்ள எல்லாக் கணக்குக்கும் முன்பே, தன் வலப்பக்கத்தை மட்டும் எடுக்கும்.");
         return;
@@ -125,16 +90,6 @@ void addOrder(Page& page, const Description& word) {
     tell("இதோடு, இடமிருந்து வலமாக", operatorsBetween(level, level));
     tell("இதற்குப் பின் நடப்பவை", operatorsBetween(level - 1, kLogicalOr));
     page.addProse("எது முதலில்?", text);
-}
-
-const char* momentOf(CodeMoment moment) {
-    switch (moment) {
-        case CodeMoment::Never: return "எந்த நிரலும் காட்டாத எண்";
-        case CodeMoment::Reading: return "நிரலைப் படிக்கும்போது";
-        case CodeMoment::Unshown: return "நிரலைப் படிக்கும்போது, பெட்டி இல்லாமல்";
-        case CodeMoment::Running: return "நிரல் ஓடும்போது";
-    }
-    return "";
 }
 
 const char* nameOfSeverity(Severity severity) {

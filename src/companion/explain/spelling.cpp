@@ -9,11 +9,6 @@ namespace companion {
 
 namespace {
 
-struct SoundRow {
-    std::string_view letter;
-    std::string_view sound;
-};
-
 constexpr SoundRow kConsonants[] = {
     {"க", "k"}, {"ங", "n"}, {"ச", "s"}, {"ஞ", "n"}, {"ட", "t"}, {"ண", "n"}, {"த", "t"}, {"ந", "n"},
     {"ப", "p"}, {"ம", "m"}, {"ய", "y"}, {"ர", "r"}, {"ல", "l"}, {"வ", "v"}, {"ழ", "l"}, {"ள", "l"},
@@ -173,6 +168,11 @@ std::string consonantsOf(std::string_view sound) {
     }
     return consonants;
 }
+
+SoundRows consonantSounds() { return {std::begin(kConsonants), std::end(kConsonants)}; }
+SoundRows vowelSounds() { return {std::begin(kVowels), std::end(kVowels)}; }
+SoundRows signSounds() { return {std::begin(kSigns), std::end(kSigns)}; }
+SoundRows latinSounds() { return {std::begin(kLatin), std::end(kLatin)}; }
 
 int editDistance(std::string_view one, std::string_view other) {
     const auto left = splitCodePoints(one);

@@ -21,6 +21,21 @@ std::string fullSoundOf(std::string_view word);
 /// The consonants of a sound, for words that were typed without vowels.
 std::string consonantsOf(std::string_view sound);
 
+/// A letter, or letters that are written for one, and how it sounds.
+struct SoundRow {
+    std::string_view letter;
+    std::string_view sound;
+};
+using SoundRows = std::vector<SoundRow>;
+
+/// The rows that soundOf goes by, for those who tell sounds without it. A consonant sounds with an
+/// `a` unless a sign follows; Latin letters are replaced row by row, in this order; of equal
+/// letters side by side one is left.
+SoundRows consonantSounds();
+SoundRows vowelSounds();
+SoundRows signSounds();
+SoundRows latinSounds();
+
 /// The least number of letters to put in, leave out or change.
 int editDistance(std::string_view one, std::string_view other);
 

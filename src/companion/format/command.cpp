@@ -51,7 +51,7 @@ int formatFile(const std::string& path, bool onlyLooks) {
     switch (replaceFile(path, text, *result)) {
         case Written::Yes: return 0;
         case Written::IsChanged:
-            std::cerr << "'" << path << "' இதற்கிடையில் மாறிவிட்டது; மீண்டும் இயக்குங்கள்.\n";
+            std::cerr << "'" << path << "' இதற்கிடையில் மாறிவிட்டது; மீண்டும் இயக்கு.\n";
             return kFailed;
         default:
             std::cerr << "'" << path << "' என்ற கோப்பை எழுத முடியவில்லை; அது முன்பிருந்தபடியே உள்ளது.\n";

@@ -20,7 +20,6 @@ namespace companion {
 namespace {
 
 constexpr int kNewMisused = 2;
-constexpr const char* kLibrary = "தொகுப்புகள்";
 
 struct NewRequest {
     std::string path;
@@ -36,7 +35,7 @@ std::optional<NewRequest> readNewRequest(const Arguments& arguments) {
             std::cerr << "'" << argument << "' என்ற விருப்பம் இல்லை. பெயர் '-' குறியில் தொடங்கக் கூடாது.\n";
             return std::nullopt;
         } else if (!request.path.empty()) {
-            std::cerr << "ஒரு பெயரே தர வேண்டும். பெயரில் இடைவெளி இருந்தால் மேற்கோளுக்குள் எழுதுக: \""
+            std::cerr << "ஒரு பெயரே தர வேண்டும். பெயரில் இடைவெளி இருந்தால் மேற்கோளுக்குள் எழுது: \""
                       << request.path << " " << argument << "\"\n";
             return std::nullopt;
         } else {
@@ -92,19 +91,6 @@ bool isLibraryFound() {
     }
 }
 
-/// A compiler that was told of no library has it beside itself: then a link in the project leads
-/// there, which is nobody else's. True if the project's programs find the library.
-bool reachLibrary(const fs::path& folder) {
-    if (isLibraryFound()) return true;
-    const fs::path library = fs::u8path(getAppDirectory()) / fs::u8path(kLibrary);
-    std::error_code problem;
-    if (!fs::is_directory(library, problem)) return false;
-    fs::create_directory_symlink(library, folder / fs::u8path(kLibrary), problem);
-    std::ofstream ignored(folder / ".gitignore", std::ios::app);
-    ignored << "/" << kLibrary << "\n";
-    return !problem && ignored.flush();
-}
-
 std::string withName(std::string_view text, const std::string& name) {
     std::string filled(text);
     const std::size_t mark = filled.find("$0");
@@ -127,8 +113,8 @@ bool writeFiles(const fs::path& folder, const std::string& name,
 bool writeProject(const fs::path& folder, const std::string& name, bool isForWeb) {
     if (!writeFiles(folder, name, kCommonFiles)) return false;
     if (isForWeb) return writeFiles(folder, name, kWebFiles);
-    return reachLibrary(folder) ? writeFiles(folder, name, kLibraryFiles)
-                                : writeFiles(folder, name, kConsoleFiles);
+    return isLibraryFound() ? writeFiles(folder, name, kLibraryFiles)
+                            : writeFiles(folder, name, kConsoleFiles);
 }
 
 void tellNextSteps(const std::string& path) {
@@ -143,20 +129,20 @@ int runNew(const Arguments& arguments) {
     if (!request) return kNewMisused;
     const std::string name = nameOfProject(request->path);
     if (const char* problem = problemOfName(name)) {
-        std::cerr << "'" << name << "': " << problem << ". வேறு பெயர் தருக.\n";
+        std::cerr << "'" << name << "': " << problem << ". வேறு பெயர் கொடு.\n";
         return kNewMisused;
     }
     const fs::path folder = fs::u8path(request->path);
     if (!isFree(folder)) {
         std::cerr << "'" << request->path
-                  << "' ஏற்கெனவே உள்ளது, அதில் கோப்புகள் உள்ளன. வேறு பெயர் தருக.\n";
+                  << "' ஏற்கெனவே உள்ளது, அதில் கோப்புகள் உள்ளன. வேறு பெயர் கொடு.\n";
         return 1;
     }
     std::error_code problem;
     fs::create_directories(folder, problem);
     if (problem) {
         std::cerr << "'" << request->path
-                  << "' கோப்புறையை உருவாக்க முடியவில்லை. இங்கே எழுத உமக்கு உரிமை உள்ளதா எனப் பாருங்கள்.\n";
+                  << "' கோப்புறையை உருவாக்க முடியவில்லை. இங்கே எழுத உனக்கு உரிமை உள்ளதா எனப் பார்.\n";
         return 1;
     }
     if (!writeProject(folder, name, request->isForWeb)) return 1;

@@ -62,7 +62,7 @@ void refuseMistakes(const SourceText& source) {
     const char* refused = std::getenv("NO_COLOR");
     const bool inColour = isatty(STDERR_FILENO) != 0 && (refused == nullptr || *refused == '\0');
     printForPeople(std::cerr, errors, inColour);
-    throw PublishFailure("வெளியிடப்படவில்லை. மேலே உள்ள பிழைகளைத் திருத்திவிட்டு மீண்டும் வெளியிடுக.");
+    throw PublishFailure("வெளியிடப்படவில்லை. மேலே உள்ள பிழைகளைத் திருத்திவிட்டு மீண்டும் வெளியிடு.");
 }
 
 /// Only the name of the source goes into the text: visitors needn't know where it lies.
@@ -81,7 +81,7 @@ void refuseAssets(const std::string& folder) {
         if (path == assets) {
             throw PublishFailure(
                 "பிழை: assets கோப்புறைக்குள் வெளியிட முடியாது: அதில் உள்ள அனைத்தும் தளத்திலேயே சேர்க்கப்படும். "
-                "வேறு கோப்புறையைத் தருக.");
+                "வேறு கோப்புறையைக் கொடு.");
         }
         if (path == path.parent_path()) return;
     }
@@ -93,7 +93,7 @@ void place(const std::string& folder, const std::vector<PublishedFile>& files) {
         placeFiles(folder, files);
     } catch (const fs::filesystem_error& problem) {
         throw PublishFailure("பிழை: '" + problem.path1().u8string() +
-                             "' எழுத முடியவில்லை. எழுதும் உரிமையும் இடமும் உள்ளனவா எனப் பாருங்கள்.");
+                             "' எழுத முடியவில்லை. எழுதும் உரிமையும் இடமும் உள்ளனவா எனப் பார்.");
     } catch (const PublishFailure& failure) {
         if (*failure.what() != '\0') throw;
         throw PublishFailure("வெளியிடப்படவில்லை. '" + folder + "' இருந்தபடியே உள்ளது.");
@@ -135,7 +135,7 @@ void printDatabase(const Program& program, const std::vector<std::string>& scrip
     } else {
         std::cout << "   தளம் " << address << " உடன் பேசும்.\n";
     }
-    std::cout << "   யார் படிக்கலாம், யார் எழுதலாம் என்பதைத் தரவுத்தளத்தின் விதிகளில் (rules) எழுதுக: "
+    std::cout << "   யார் படிக்கலாம், யார் எழுதலாம் என்பதைத் தரவுத்தளத்தின் விதிகளில் (rules) எழுது: "
                  "api_key முதலிய மதிப்புகளைத் தளத்துக்கு வருபவர் எவரும் பார்க்கலாம்.\n"
                  "   தரவுத்தளத்துக்கான நிரல்கள் தளத்துடன் வருவதில்லை; இணையத்திலிருந்து வரும். வழங்கி அவற்றைத் "
                  "தடுக்காமலிருக்கட்டும்:\n";
@@ -145,9 +145,9 @@ void printDatabase(const Program& program, const std::vector<std::string>& scrip
 void printNextSteps(const std::string& folder) {
     std::cout << "\n👉 இக்கணினியில் பார்க்க: python3 -m http.server -d " << asOneWord(folder)
               << " 8000   பிறகு http://localhost:8000/\n"
-              << "👉 உலகுக்குக் காட்ட: இந்தக் கோப்புறையில் உள்ள அனைத்தையும் எந்த வலை வழங்கியிலும் ஏற்றுக. முகவரி "
-                 "https://உமது-தளம்/ ஆகவும் இருக்கலாம், அதற்குக் கீழே எதுவாகவும் இருக்கலாம்.\n"
-              << "👉 நிரலை மாற்றினால் மீண்டும் இதே கோப்புறையில் வெளியிட்டு, அனைத்தையும் மீண்டும் ஏற்றுக.\n";
+              << "👉 உலகுக்குக் காட்ட: இந்தக் கோப்புறையில் உள்ள அனைத்தையும் எந்த வலை வழங்கியிலும் ஏற்று. முகவரி "
+                 "https://உன்-தளம்/ ஆகவும் இருக்கலாம், அதற்குக் கீழே எதுவாகவும் இருக்கலாம்.\n"
+              << "👉 நிரலை மாற்றினால் மீண்டும் இதே கோப்புறையில் வெளியிட்டு, அனைத்தையும் மீண்டும் ஏற்று.\n";
 }
 
 void publishApplication(const CompiledSource& compiled, const std::string& folder,
@@ -246,9 +246,8 @@ int runPublish(const Arguments& arguments) {
         if (*failure.what() != '\0') std::cerr << failure.what() << "\n";
     } catch (const fs::filesystem_error& problem) {
         std::cout.flush();
-        std::cerr
-            << "பிழை: '" << problem.path1().u8string()
-            << "' கோப்பையோ கோப்புறையையோ பயன்படுத்த முடியவில்லை. உரிமையும் இடமும் உள்ளனவா எனப் பாருங்கள்.\n";
+        std::cerr << "பிழை: '" << problem.path1().u8string()
+                  << "' கோப்பையோ கோப்புறையையோ பயன்படுத்த முடியவில்லை. உரிமையும் இடமும் உள்ளனவா எனப் பார்.\n";
     }
     return 1;
 }

@@ -30,7 +30,7 @@ public:
         if (mkdtemp(name.data()) == nullptr) {
             throw PublishFailure("பிழை: '" + pattern.parent_path().u8string() +
                                  "' கோப்புறையில் எழுத முடியவில்லை. எழுதும் உரிமையும் இடமும் உள்ளனவா எனப் "
-                                 "பாருங்கள்.");
+                                 "பார்.");
         }
     }
     ~Scaffold() {
@@ -140,13 +140,13 @@ void refuseForeignFolder(const std::string& folder) {
     if (!fs::exists(path)) return;
     if (!fs::is_directory(path)) {
         throw PublishFailure("பிழை: '" + folder +
-                             "' ஒரு கோப்பு. வெளியிட ஒரு கோப்புறையின் பெயரைத் தருக.");
+                             "' ஒரு கோப்பு. வெளியிட ஒரு கோப்புறையின் பெயரைக் கொடு.");
     }
     if (fs::is_empty(path) || isPublished(path)) return;
     throw PublishFailure(
         "பிழை: '" + folder +
         "' கோப்புறையில் வேறு கோப்புகள் உள்ளன. அவை கெடாமலிருக்க, புதிய அல்லது காலியான கோப்புறை "
-        "ஒன்றைத் தருக.");
+        "ஒன்றைக் கொடு.");
 }
 
 void placeFiles(const std::string& folder, const std::vector<PublishedFile>& files) {

@@ -46,7 +46,7 @@ void replaceServer(std::string& page, const std::string& visitors) {
         page.find(kHeadEnd) == std::string::npos) {
         throw PublishFailure(
             "பிழை: பக்கத்தின் வார்ப்பு (template.html) இந்தப் பதிப்புக்கு உரியதல்ல. பொழிலை "
-            "மீண்டும் நிறுவுக.");
+            "மீண்டும் நிறுவு.");
     }
     page.replace(from, to - from, visitors);
 }

@@ -45,7 +45,7 @@ std::string readCompanionFile(const BuildPlaces& places, const char* name) {
     std::string text;
     if (!readFile(companionFile(places, name), text)) {
         throw PublishFailure("பிழை: '" + companionFile(places, name) +
-                             "' கிடைக்கவில்லை. பொழிலை மீண்டும் நிறுவுக.");
+                             "' கிடைக்கவில்லை. பொழிலை மீண்டும் நிறுவு.");
     }
     return text;
 }
@@ -54,7 +54,7 @@ void refuseWithoutObjects(const BuildPlaces& places) {
     for (const char* name : {"error_handler_web.o", "nanovg_web.o"}) {
         if (fileExists(places.appDirectory + "/திரட்டு/" + name)) continue;
         throw PublishFailure(
-            "பிழை: வலைதளங்களுக்கான துணைக் கோப்புகள் இல்லை. முதலில் இதை இயக்குக: "
+            "பிழை: வலைதளங்களுக்கான துணைக் கோப்புகள் இல்லை. முதலில் இதை இயக்கு: "
             "scripts/setup_web.sh");
     }
 }
@@ -180,7 +180,7 @@ std::vector<PublishedFile> buildWebRelease(const Program& program, const std::st
     if (fonts.empty()) {
         std::cout
             << "▷ Noto Sans Tamil எழுத்துரு இந்தக் கணினியில் இல்லை: தளம் அதை இணையத்திலிருந்து எடுக்கும். "
-               "தளத்துடனேயே வர, நிறுவுக: sudo apt install fonts-noto-core\n";
+               "தளத்துடனேயே வர, நிறுவு: sudo apt install fonts-noto-core\n";
     }
     compile(program, releaseText(code, fonts.empty() ? TamilFont::OfNet : TamilFont::OfPage),
             places);

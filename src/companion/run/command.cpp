@@ -81,7 +81,7 @@ int runConsoleProgram(const SourceText& source, ProjectFolder& folder, bool isQu
 int runWebApplication(const SourceText& source, const ProjectFolder& folder, bool isQuiet) {
     if (isQuiet) {
         std::cerr << "வலைதளத்தை அமைதியாக இயக்க முடியாது: அதன் முகவரியைச் சொல்ல வேண்டும். --quiet இல்லாமல் "
-                     "இயக்குக.\n";
+                     "இயக்கு.\n";
         return kMisused;
     }
     const std::string path = enterApplicationFolder(source.path, source.text);
@@ -118,7 +118,7 @@ int runRun(const Arguments& arguments) {
     if (!folder) {
         std::cerr
             << "நிரலைத் தொகுக்க ஒரு கோப்புறையை உருவாக்க முடியவில்லை. எழுதக்கூடிய கோப்புறை ஒன்றை TMPDIR-ல் "
-               "குறிப்பிடவும்.\n";
+               "குறிப்பிடு.\n";
         return 1;
     }
     const SourceText source(request->path, std::move(text));

@@ -53,7 +53,7 @@ int runByCompiler(const SourceText& source, const ProjectFolder& folder) {
     const std::string compiler = getAppDirectory() + "/பொழில்";
     const WatchedEnd end = runWatched({compiler, source.path}, {"TMPDIR=" + folder.path()});
     if (end.status < 0) {
-        std::cerr << "'" << compiler << "' என்ற தொகுப்பானை இயக்க முடியவில்லை. பொழிலை மீண்டும் நிறுவுக.\n";
+        std::cerr << "'" << compiler << "' என்ற தொகுப்பானை இயக்க முடியவில்லை. பொழிலை மீண்டும் நிறுவு.\n";
         return 1;
     }
     if (end.wasInterrupted) endByInterrupt();

@@ -66,7 +66,7 @@ bool tellOfMissingWebParts(const std::string& appDirectory) {
         if (fileExists(appDirectory + "/" + part)) continue;
         std::cerr << "வலைதளத்தைத் தொகுக்கத் தேவையான '" << appDirectory << "/" << part
                   << "' இல்லை. பொழிலின் மூலக் கோப்புறையில் scripts/setup_web.sh இயக்கி, பிறகு "
-                     "scripts/install.sh இயக்குக.\n";
+                     "scripts/install.sh இயக்கு.\n";
         return true;
     }
     return false;

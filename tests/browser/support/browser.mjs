@@ -2,6 +2,8 @@
 import {mkdirSync} from 'node:fs';
 import {join} from 'node:path';
 import {chromium} from 'playwright-core';
+import {drawOnDemand, giveFrames} from './frames.mjs';
+import {lossOfDrawing} from './loss.mjs';
 
 const output = process.env.POZHIL_BROWSER_OUTPUT ?? 'browser-output';
 
@@ -9,8 +11,9 @@ const flags = [
     '--no-sandbox', '--disable-quic', '--no-first-run', '--disable-background-networking',
     '--disable-component-update', '--disable-sync',
 ];
-// Mesa draws a frame in half the time that the browser's own drawing without a GPU takes.
-const mesa = ['--use-gl=angle', '--use-angle=gl-egl', '--ignore-gpu-blocklist'];
+// Mesa draws a frame in half the time that the browser's own drawing without a GPU takes. To put the layers of
+// a page together, and to photograph it, is quicker without.
+const mesa = ['--use-gl=angle', '--use-angle=gl-egl', '--ignore-gpu-blocklist', '--disable-gpu-compositing'];
 
 /** A screen larger than the viewport, as on a desk. */
 export const desk = {viewport: {width: 1280, height: 720}, screen: {width: 1920, height: 1080}};
@@ -22,19 +25,6 @@ export function launch(extraFlags = []) {
     });
 }
 
-/**
- * Without a GPU a frame takes a tenth of a second of processor time: a pause between frames leaves it to the
- * other tests, or two open pages would take all of it while nobody looks at them.
- */
-function slowFrames(milliseconds) {
-    const request = window.requestAnimationFrame;
-    window.requestAnimationFrame = callback =>
-        setTimeout(() => request.call(window, callback), milliseconds);
-}
-
-/** What a page says when the browser took its drawing back: no program does that. */
-export const lossOfDrawing = 'the browser lost its drawing';
-
 function noteLoss(words) {
     window.addEventListener('webglcontextlost', event => {
         if (event.target.id === 'canvas') console.error(words);
@@ -44,13 +34,12 @@ function noteLoss(words) {
 /**
  * A page of a context of its own. `page.problems` collects errors of console and scripts,
  * `page.printed` what programs print; warnings are the driver's. Nothing outside this machine is reached.
- * Between frames lie `pause` milliseconds.
+ * Frames are drawn on demand, if it isn't said otherwise.
  */
-export async function openPage(browser, options = desk, prepare = async () => {}, pause = 150) {
+export async function openPage(browser, options = desk, prepare = async () => {}, {isOnDemand = true} = {}) {
     const context = await browser.newContext(options);
     await context.route(url => url.hostname !== 'localhost', route => route.abort());
     const page = await context.newPage();
-    if (pause > 0) await page.addInitScript(slowFrames, pause);
     await page.addInitScript(noteLoss, lossOfDrawing);
     page.problems = [];
     page.printed = [];
@@ -62,6 +51,7 @@ export async function openPage(browser, options = desk, prepare = async () => {}
     });
     page.on('pageerror', error => page.problems.push(String(error)));
     await prepare(page);
+    if (isOnDemand) await drawOnDemand(page);
     return page;
 }
 
@@ -93,13 +83,17 @@ export async function press(page, x, y) {
     await until(() => page.evaluate(() => !window.mouseClicked), 'a frame to take the click');
 }
 
-/** Waits until `holds` answers something true, and returns it. */
-export async function until(holds, what, seconds = 180) {
+/**
+ * Waits until `holds` answers something true, and returns it. Each look that was in vain asks open pages for
+ * `frames` more; a wait for what no frame brings about, such as a build, asks for none.
+ */
+export async function until(holds, what, seconds = 180, frames = 1) {
     const deadline = Date.now() + seconds * 1000;
-    for (;;) {
+    for (let milliseconds = 40; ; milliseconds = Math.min(1.1 * milliseconds, 300)) {
         const answer = await holds();
         if (answer) return answer;
         if (Date.now() > deadline) throw new Error(`not within ${seconds} s: ${what}`);
-        await new Promise(resolve => setTimeout(resolve, 50));
+        if (frames > 0) giveFrames(frames);
+        await new Promise(resolve => setTimeout(resolve, milliseconds));
     }
 }

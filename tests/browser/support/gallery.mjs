@@ -10,9 +10,10 @@ import {fileURLToPath} from 'node:url';
 import {PNG} from 'pngjs';
 import {openPage, press, until} from './browser.mjs';
 import {copyFonts} from './fonts.mjs';
+import {nextFrames} from './frames.mjs';
 import {readPicture} from './golden.mjs';
 import {address, makeWorkplace, startCompiler} from './tool.mjs';
-import {nextFrames, noteTexts, texts} from './widget_screen.mjs';
+import {noteTexts, texts} from './widget_screen.mjs';
 
 const root = join(dirname(fileURLToPath(import.meta.url)), '..', '..', '..');
 const examples = join(root, 'examples', 'web');

@@ -9,6 +9,7 @@ import {after, before, test} from 'node:test';
 import {fileURLToPath} from 'node:url';
 import {launch, openPage, photograph, press, until} from './browser.mjs';
 import {copyFonts} from './fonts.mjs';
+import {nextFrames} from './frames.mjs';
 import {holdPicture, readPicture, shapes} from './golden.mjs';
 import {inputs} from './inputs.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './tool.mjs';
@@ -80,18 +81,13 @@ export function widgetScreen(family, prepare = () => {}) {
     return {family, open};
 }
 
-export async function nextFrames(page, count = 2) {
-    const seen = await page.evaluate(() => window.frames);
-    await page.waitForFunction(wanted => window.frames >= wanted, seen + count);
-}
-
 /** Sets the window's size, and waits for frames that were drawn for it. */
 export async function resize(page, size) {
     await page.setViewportSize(size);
-    await page.waitForFunction(({width, height}) => {
+    await until(() => page.evaluate(({width, height}) => {
         const {width: w, height: h} = document.getElementById('textCanvas').getBoundingClientRect();
         return w === width && h === height;
-    }, size);
+    }, size), 'the text layer to follow the window');
     await nextFrames(page);
 }
 

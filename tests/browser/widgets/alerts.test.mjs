@@ -4,8 +4,9 @@ import assert from 'node:assert/strict';
 import {test} from 'node:test';
 import {photograph, pixel, press, until} from '../support/browser.mjs';
 import {stopClock} from '../support/clock.mjs';
+import {nextFrames} from '../support/frames.mjs';
 import {tap, telephone} from '../support/telephone.mjs';
-import {nextFrames, resize, standsAsMeasured, texts, widgetScreen, windows} from '../support/widget_screen.mjs';
+import {resize, standsAsMeasured, texts, widgetScreen, windows} from '../support/widget_screen.mjs';
 
 const behind = [255, 243, 224], blue = [33, 150, 243], slate = [69, 90, 100], red = [198, 40, 40];
 const yellow = [255, 235, 59], white = [255, 255, 255];

@@ -2,7 +2,8 @@
 import assert from 'node:assert/strict';
 import {test} from 'node:test';
 import {pixel, press, until} from '../support/browser.mjs';
-import {nextFrames, resize, standsAsMeasured, texts, widgetScreen, windows} from '../support/widget_screen.mjs';
+import {nextFrames} from '../support/frames.mjs';
+import {resize, standsAsMeasured, texts, widgetScreen, windows} from '../support/widget_screen.mjs';
 
 const blue = [33, 150, 243], red = [198, 40, 40], white = [255, 255, 255], yellow = [255, 235, 59];
 const screen = widgetScreen('buttons');

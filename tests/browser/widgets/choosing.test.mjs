@@ -3,8 +3,9 @@
 import assert from 'node:assert/strict';
 import {test} from 'node:test';
 import {pixels, press, until} from '../support/browser.mjs';
+import {nextFrames} from '../support/frames.mjs';
 import {holdPicture, shapes} from '../support/golden.mjs';
-import {nextFrames, texts, widgetScreen} from '../support/widget_screen.mjs';
+import {texts, widgetScreen} from '../support/widget_screen.mjs';
 
 const blue = [33, 150, 243], white = [255, 255, 255], grey = [224, 224, 224], hovered = [240, 240, 240];
 const chosenInk = '#2196f3', ink = '#333333';

@@ -4,9 +4,10 @@ import assert from 'node:assert/strict';
 import {test} from 'node:test';
 import {photograph, press, until} from '../support/browser.mjs';
 import {passTime, stopClock} from '../support/clock.mjs';
+import {giveFrames, nextFrames} from '../support/frames.mjs';
 import {readPicture, shapes} from '../support/golden.mjs';
 import {tap, telephone} from '../support/telephone.mjs';
-import {inkIn, near, nextFrames, resize, standsAsMeasured, texts, widgetScreen, windows} from '../support/widget_screen.mjs';
+import {inkIn, near, resize, standsAsMeasured, texts, widgetScreen, windows} from '../support/widget_screen.mjs';
 
 const dark = [51, 51, 51], green = [46, 125, 50], blue = [33, 150, 243], behind = [224, 247, 250];
 const white = [255, 255, 255];
@@ -23,13 +24,22 @@ const comes = (page, text) => until(async () => {
 }, `the message '${text}'`);
 const goes = page => until(async () => !await barText(page), 'the end of the message');
 
+/** Waits for the message in a window whose frames are quick: a bar needs forty to come to rest. */
+async function comesToRest(page, text) {
+    const size = page.viewportSize();
+    await page.setViewportSize({width: 320, height: 160});
+    giveFrames(40, page);
+    await comes(page, text);
+    await resize(page, size);
+}
+
 /** Shows the message of the button at that height, and takes the pointer away. */
 async function show(page, button, text) {
     const {width} = page.viewportSize();
     await stopClock(page);
     await press(page, width / 2, button);
     await page.mouse.move(5, 590);
-    await comes(page, text);
+    await comesToRest(page, text);
 }
 
 standsAsMeasured(screen, ({width, scale}) => {
@@ -135,7 +145,7 @@ test('comes anew from above when it is asked for while another goes', async () =
     await show(page, save, 'சேமிக்கப்பட்டது');
     await follow(page, {y: 20, click: [200, finish]});
     await passTime(page, stays + 1);
-    await comes(page, 'முடிந்தது');
+    await comesToRest(page, 'முடிந்தது');
     const bars = await followed(page);
     const start = bars.findIndex(bar => bar?.text === 'முடிந்தது');
     const last = bars[start - 1];
@@ -151,10 +161,10 @@ test('comes by touch on a telephone', async () => {
     const page = await screen.open(2, telephone());
     await stopClock(page);
     await tap(page, 195, explain);
-    await comes(page, 'இந்தச்');
+    await comesToRest(page, 'இந்தச்');
     await photograph(page, 'message_on_telephone');
     await tap(page, 195, save);
-    await comes(page, 'சேமிக்கப்பட்டது');
+    await comesToRest(page, 'சேமிக்கப்பட்டது');
     await passTime(page, stays + 1);
     await goes(page);
     assert.deepEqual(page.problems.filter(line => !line.includes('ERR_FAILED')), []);

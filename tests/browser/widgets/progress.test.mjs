@@ -4,7 +4,8 @@
 import assert from 'node:assert/strict';
 import {test} from 'node:test';
 import {pixels, press, until} from '../support/browser.mjs';
-import {nextFrames, resize, standsAsMeasured, widgetScreen} from '../support/widget_screen.mjs';
+import {nextFrames} from '../support/frames.mjs';
+import {resize, standsAsMeasured, widgetScreen} from '../support/widget_screen.mjs';
 
 const blue = [33, 150, 243], green = [46, 125, 50], white = [255, 255, 255], grey = [224, 224, 224];
 const darkMessage = [70, 70, 70], purple = [106, 27, 154], cream = [255, 243, 224], sky = [227, 242, 253];

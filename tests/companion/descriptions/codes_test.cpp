@@ -58,12 +58,19 @@ TEST(CodeDescriptions, DifferInWhatTheyTell) {
     }
 }
 
-TEST(CodeDescriptions, SayWhichCodesNothingRaises) {
+TEST(CodeDescriptions, SayWhichCodesNothingRaisesAndShowTheReportsOfOthers) {
     std::set<std::string> never;
     for (const CodeDescription& code : codeDescriptions()) {
         if (code.moment == CodeMoment::Never) never.insert(std::string(code.digits));
         EXPECT_EQ(code.wrong.empty(), code.moment == CodeMoment::Never) << code.digits;
         EXPECT_EQ(code.right.empty(), code.moment == CodeMoment::Never) << code.digits;
+        const bool isReported =
+            code.moment == CodeMoment::Reading || code.moment == CodeMoment::Running;
+        EXPECT_EQ(
+            code.report.find(kCompilersPrefix + std::string(code.digits)) != std::string_view::npos,
+            isReported)
+            << code.digits << "\n"
+            << code.report;
     }
     EXPECT_EQ(never, codesThatNothingRaises());
 }

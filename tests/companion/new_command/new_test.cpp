@@ -59,7 +59,6 @@ TEST_F(New, ConsoleProgramUsesTheLibraryWhereItIsFound) {
     make("ஒன்று");
     expectGoodProgram();
     EXPECT_TRUE(holds(readFileText(from / "முதன்மை.பொழில்"), "நூஇறக்கி \"தொகுப்புகள்/"));
-    EXPECT_TRUE(holds(readFileText(from / ".gitignore"), "/வெளியீடு/\n/தளம்/\n/தொகுப்புகள்\n"));
     const ProcessResult result = companion({"run", "--quiet"});
     EXPECT_EQ(result.out, "வணக்கம்!\nமொத்தம்: 255\n") << result.err;
 }
@@ -119,7 +118,7 @@ TEST_F(New, LeavesAloneWhatIsThere) {
 
 TEST_F(New, RefusesOddNames) {
     expectRefused({}, 2, "என்ன பெயர்?");
-    expectRefused({"ஒரு", "பெயர்"}, 2, "மேற்கோளுக்குள் எழுதுக: \"ஒரு பெயர்\"");
+    expectRefused({"ஒரு", "பெயர்"}, 2, "மேற்கோளுக்குள் எழுது: \"ஒரு பெயர்\"");
     expectRefused({"--பெரிது", "அ"}, 2, "'--பெரிது' என்ற விருப்பம் இல்லை");
     expectRefused({"-அ"}, 2, "'-' குறியில் தொடங்கக் கூடாது");
     expectRefused({"."}, 2, "இது ஒரு பெயர் அல்ல");

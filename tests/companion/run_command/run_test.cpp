@@ -274,7 +274,7 @@ TEST_F(Run, TellsOfACompilerThatIsMissing) {
     const ProcessResult result = companion({"run", "a.பொழில்"});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.err, "'" + compiler.u8string() +
-                              "' என்ற தொகுப்பானை இயக்க முடியவில்லை. பொழிலை மீண்டும் நிறுவுக.\n");
+                              "' என்ற தொகுப்பானை இயக்க முடியவில்லை. பொழிலை மீண்டும் நிறுவு.\n");
 }
 
 }  // namespace

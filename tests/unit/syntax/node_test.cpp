@@ -13,6 +13,15 @@
 #include "syntax/node_memory.h"
 #include "syntax/statements.h"
 
+// g++ tells of the sanitizer by a macro, clang by a feature.
+#if defined(__SANITIZE_ADDRESS__)
+#define HAS_ADDRESS_SANITIZER 1
+#elif defined(__has_feature)
+#define HAS_ADDRESS_SANITIZER __has_feature(address_sanitizer)
+#else
+#define HAS_ADDRESS_SANITIZER 0
+#endif
+
 namespace {
 
 TEST(NodeAs, GivesTheNodeOfThatClassAlone) {
@@ -24,7 +33,7 @@ TEST(NodeAs, GivesTheNodeOfThatClassAlone) {
 }
 
 TEST(NodeMemory, IsTakenAgainWhenItIsFreed) {
-#if defined(__SANITIZE_ADDRESS__)
+#if HAS_ADDRESS_SANITIZER
     GTEST_SKIP() << "each node has memory of its own there";
 #endif
     void* const first = takeNodeMemory(40);

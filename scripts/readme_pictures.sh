@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# readme_pictures.sh: makes the README's pictures from what is really printed: docs/report.png, the report of
+# docs/ஒருபிழை.பொழில், and docs/program.png, a program of the guide beside its output.
+set -euo pipefail
+root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root"
+# shellcheck source=scripts/messages.sh
+. scripts/messages.sh
+scripts/build_release.sh
+scripts/install_packages.sh aha chromium fonts-noto-core fonts-noto-mono fonts-noto-color-emoji imagemagick
+scripts/install_node_packages.sh site
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+# photograph NAME WIDTH HEIGHT: the page NAME.html as NAME.png.
+photograph() {
+    chromium --headless --no-sandbox --disable-gpu --disable-quic --no-first-run \
+        --disable-background-networking --disable-component-update --disable-sync \
+        --user-data-dir="$work/profile" --hide-scrollbars --force-device-scale-factor=1 \
+        --window-size="$2,$3" --screenshot="$work/$1.png" "file://$work/$1.html" \
+        >/dev/null 2>&1 || refuse "படம் எடுக்க முடியவில்லை (chromium)."
+}
+
+# frame NAME COLOUR SOURCE...: its edges in the page's colour, and a note of what it was made from.
+frame() {
+    local name=$1 colour=$2
+    shift 2
+    convert "$work/$name.png" -trim -bordercolor "$colour" -border 16 +repage -colors 128 \
+        -set made-from "$(cat -- "$@" | cksum)" "PNG8:docs/$name.png"
+}
+
+style='body{margin:18px;background:#1b1b22!important}pre{color:#eee;font:17px/1.5 "Noto Sans Mono",'
+style+='"Noto Sans Tamil","Noto Color Emoji",monospace}'
+# A report ends with status 1. aha knows neither bright gold nor dim white.
+{ (cd docs && "$root/பொழில்" ஒருபிழை.பொழில்) || true; } |
+    sed 's/\x1b\[1;93m/\x1b[33m/g; s/\x1b\[2;37m/\x1b[90m/g' |
+    aha --black --title report |
+    sed "s|</head>|<style>$style</style></head>|" >"$work/report.html"
+photograph report 1150 620
+frame report '#1b1b22' docs/ஒருபிழை.பொழில்
+
+program=docs/நிரல்கள்/07/சீட்டு
+node site/picture.mjs "$program" >"$work/program.html"
+photograph program 1200 700
+frame program '#fcfbf8' "$program.பொழில்" "$program.out"

@@ -1,0 +1,32 @@
+// What the answers to requests share: the open documents and what the client told of itself.
+#pragma once
+
+#include "companion/language_server/features.h"
+#include "companion/language_server/json.h"
+#include "companion/language_server/workspace.h"
+
+namespace companion::language_server {
+
+struct Session {
+    Workspace workspace;
+    bool knowsNestedSymbols = false;
+    bool knowsCodeActions = false;
+    bool preparesRenames = false;
+    bool registersWatchers = false;
+    Moment now;  ///< Of the message that is being answered.
+};
+
+/// A request that the server answers, and how: another is another row.
+struct Question {
+    const char* method;
+    Json (*answer)(Session& session, const Json& params);
+};
+const std::vector<Question>& questions();
+
+/// The server's part of `initialize`.
+Json answerInitialize(Session& session, const Json& params);
+
+/// A finding as editors show it.
+Json diagnosticOf(const Analysis& analysis, const Finding& finding);
+
+}  // namespace companion::language_server

@@ -1,0 +1,80 @@
+// Frames are drawn only until the drawing rests: without a GPU each takes the processor's time. A frame
+// is told by what it hands to the graphics card and to the text layer.
+import assert from 'node:assert/strict';
+import {until} from './browser.mjs';
+
+/** Frames that are drawn alike before the drawing counts as resting. */
+const alikeAtRest = 2;
+
+/**
+ * In the page, before its scripts: its clock stands, by which pages draw, and its frames stop when they are
+ * alike. `window.goOn(milliseconds)` lets time pass, and frames be drawn until they are alike again.
+ */
+function drawUntilAtRest(wanted) {
+    let now = 400, sum = 0, last = null, alike = 0, isFrame = false, drawing = null, held = null;
+    performance.now = () => now;
+
+    const mix = value => { sum = Math.imul(sum ^ value, 16777619) | 0; };
+    const mixText = text => { for (let i = 0; i < text.length; i++) mix(text.charCodeAt(i)); };
+    function mixBytes(view) {
+        const words = new Uint32Array(view.buffer.slice(view.byteOffset, view.byteOffset + (view.byteLength & ~3)));
+        for (const word of words) mix(word);
+    }
+    function note(owner, name, take) {
+        const original = owner[name];
+        owner[name] = function(...words) {
+            take(...words);
+            return original.apply(this, words);
+        };
+    }
+    const card = WebGLRenderingContext.prototype;
+    note(card, 'bufferData', (target, data) => { if (ArrayBuffer.isView(data)) mixBytes(data); });
+    note(card, 'uniform4fv', (place, data) => { if (ArrayBuffer.isView(data)) mixBytes(data); });
+    const layer = CanvasRenderingContext2D.prototype;
+    note(layer, 'clearRect', () => { isFrame = true; });
+    const {fillText} = layer;
+    layer.fillText = function(text, x, y) {
+        mixText([text, x, y, this.font, this.fillStyle, this.globalAlpha].join('|'));
+        return fillText.call(this, text, x, y);
+    };
+
+    const request = window.requestAnimationFrame;
+    window.requestAnimationFrame = callback => {
+        const frame = time => {
+            [sum, isFrame] = [0, false];
+            callback(time);
+            if (!isFrame) return;
+            drawing = callback;
+            alike = sum === last ? alike + 1 : 0;
+            last = sum;
+        };
+        if (callback !== drawing || alike < wanted) return request.call(window, frame);
+        held = frame;
+        return 0;
+    };
+    window.isAtRest = () => held !== null;
+    window.goOn = milliseconds => {
+        now += milliseconds;
+        alike = 0;
+        if (held) request.call(window, held);
+        held = null;
+    };
+}
+
+/** For a page that isn't open yet. */
+export const restWhenDrawn = page => page.addInitScript(drawUntilAtRest, alikeAtRest);
+
+/** What went wrong on the page; files that only the net has are not asked for. */
+export const problems = page => page.problems.filter(line => !line.includes('ERR_FAILED'));
+
+/** Waits until nothing on the page changes any more. A program that ended draws nothing, but it says why. */
+export const rest = page => until(() => {
+    assert.deepEqual(problems(page), []);
+    return page.evaluate(() => window.isAtRest?.());
+}, 'the page to come to rest', 120);
+
+/** Lets so much of the page's time go by, has it draw what came of that, and waits until it rests. */
+export async function goOn(page, milliseconds = 0) {
+    await page.evaluate(more => window.goOn(more), milliseconds);
+    await rest(page);
+}

@@ -1,0 +1,1 @@
+// Nothing but the headers: see test_headers.h.
