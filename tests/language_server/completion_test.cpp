@@ -81,6 +81,21 @@ TEST(CompletionAnswer, WritesPlainTextForOneThatKnowsNoSnippets) {
     EXPECT_EQ(Completed(Json::object()).first("if", 0, 2)["textEdit"]["newText"], "எனில்");
 }
 
+TEST(CompletionAnswer, AQuoteOpensNoListWhereItEndsAText) {
+    Completed completed;
+    const auto countAt = [&](int character, const Json& context) {
+        Json params = Client::at(kOpened, 0, character);
+        params["context"] = context;
+        return completed.client.ask("textDocument/completion", params)["items"].size();
+    };
+    completed.client.open(kOpened, "நிகழ்(\"அ\"");
+    const Json quote = {{"triggerKind", 2}, {"triggerCharacter", "\""}};
+    EXPECT_EQ(countAt(9, quote), 0U);
+    EXPECT_GT(countAt(9, {{"triggerKind", 1}}), 0U);
+    completed.client.open(kOpened, "பெட்டி(பெட்டி_பாணி(நிறம்: \"", 2);
+    EXPECT_GT(countAt(27, quote), 0U);
+}
+
 TEST(CompletionAnswer, TransliterationIsASetting) {
     const std::string text = "ஃ vanakkam";
     EXPECT_EQ(Completed().first(text, 0, 10)["label"], "வணக்கம்");

@@ -80,6 +80,7 @@ private:
 
 std::vector<CompletionItem> List::make(const ModuleReader& readModule) {
     if (place.kind == PlaceKind::Nothing) return {};
+    if (settings.inTextsAlone && !place.isQuoted) return {};
     const bool isProse = place.kind == PlaceKind::Comment || place.kind == PlaceKind::Text;
     if (place.kind == PlaceKind::Comment && typed.empty()) return {};
     DocumentNames names = namesOf(text, place.typed);

@@ -46,7 +46,8 @@ struct CompletionItem {
 
 struct CompletionSettings {
     bool transliterates = true;
-    std::size_t most = 80;  ///< Items of a list.
+    bool inTextsAlone = false;  ///< A quote was typed: one that ends a text asks for nothing.
+    std::size_t most = 80;      ///< Items of a list.
     /// What imports may name; asked for in an import alone. May be empty.
     std::function<std::vector<std::string>()> modulePaths;
 };

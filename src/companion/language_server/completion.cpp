@@ -14,6 +14,7 @@ using completion::CompletionItem;
 using completion::CompletionSettings;
 using completion::ItemKind;
 
+constexpr const char* kQuote = "\"";
 constexpr int kSnippetFormat = 2;
 constexpr int kAdjustIndentation = 2;
 /// A list of folders is read at most so often.
@@ -92,6 +93,13 @@ const Json* fieldIn(const Json& object, const char* name) {
     return found == object.end() ? nullptr : &*found;
 }
 
+/// True if the list opens because of the character `typed`.
+bool wasOpenedBy(const Json& params, const char* typed) {
+    const Json* context = fieldIn(params, "context");
+    const Json* character = context == nullptr ? nullptr : fieldIn(*context, "triggerCharacter");
+    return character != nullptr && *character == typed;
+}
+
 }  // namespace
 
 /// The text alone is asked, not the compiler: an answer has to be there before the next letter.
@@ -107,6 +115,7 @@ Json answerCompletion(Session& session, const Json& params) {
 
     CompletionSettings settings;
     settings.transliterates = session.completion.transliterates;
+    settings.inTextsAlone = wasOpenedBy(params, kQuote);
     settings.modulePaths = [&] { return keptModulePaths(session, path); };
     Json items = Json::array();
     for (const CompletionItem& item : completion::completionsAt(
@@ -117,7 +126,7 @@ Json answerCompletion(Session& session, const Json& params) {
 }
 
 /// A colon or parenthesis would open a list where the next key is the line's end, which chooses.
-Json completionCapability() { return {{"triggerCharacters", {".", "\""}}}; }
+Json completionCapability() { return {{"triggerCharacters", {".", kQuote}}}; }
 
 void readCompletionOptions(Session& session, const Json& params) {
     const Json* item = &params;
