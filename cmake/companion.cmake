@@ -32,7 +32,7 @@ target_compile_options(language_server PRIVATE -O1)
 compile_together(language_server)
 set_target_properties(language_server PROPERTIES UNITY_BUILD_MODE GROUP)
 set_source_files_properties(${language_server_sources} PROPERTIES UNITY_GROUP plain)
-foreach(source IN ITEMS answers json server)
+foreach(source IN ITEMS answers completion json server)
     set_source_files_properties("${CMAKE_SOURCE_DIR}/src/companion/language_server/${source}.cpp"
                                 PROPERTIES UNITY_GROUP json)
 endforeach()

@@ -2,6 +2,7 @@
 // no node.
 #include "files.h"
 #include "lexer/lexer.h"
+#include "parser/module_files.h"
 #include "parser/parser.h"
 
 namespace {
@@ -27,6 +28,11 @@ void mergeAbsent(Table& into, const Table& from) {
 }
 
 }  // namespace
+
+std::vector<std::string> moduleFilesOf(const std::string& path) {
+    const std::string file = moduleFile(path);
+    return {file, libraryDirectory() + file};
+}
 
 /// import = "நூஇறக்கி" string
 /// A file that was imported before is passed over, so circular imports end. Raises 281 for an

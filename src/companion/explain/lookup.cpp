@@ -144,9 +144,13 @@ std::vector<Page> pagesFor(std::string_view asked) {
     pages =
         pagesWhere([&](const auto& described) { return namesInclude(described.english, lower); });
     if (!pages.empty()) return pages;
-    const std::string sound = soundOf(lower);
-    return pagesWhere(
-        [&](const auto& described) { return !sound.empty() && soundOf(described.word) == sound; });
+    for (const std::string& sound : soundsOf(lower)) {
+        pages = pagesWhere([&](const auto& described) {
+            return !sound.empty() && soundOf(described.word) == sound;
+        });
+        if (!pages.empty()) break;
+    }
+    return pages;
 }
 
 std::vector<std::string> nearestTo(std::string_view asked) {

@@ -25,11 +25,46 @@ constexpr SoundRow kSigns[] = {
     {"ே", "e"}, {"ை", "ai"}, {"ொ", "o"}, {"ோ", "o"}, {"ௌ", "au"}, {"்", ""},
 };
 
-/// In Latin letters, in the order in which they are put in the place of others.
+/// In Latin letters, in the order in which they are put in the place of others. What follows a
+/// vowel as ய is as often written i, so both are one.
 constexpr SoundRow kLatin[] = {
-    {"zh", "l"},  {"sh", "s"}, {"ch", "s"}, {"th", "t"}, {"dh", "t"}, {"ndr", "nr"}, {"ttr", "rr"},
-    {"tr", "rr"}, {"ng", "n"}, {"oo", "u"}, {"ee", "i"}, {"d", "t"},  {"g", "k"},    {"b", "p"},
-    {"w", "v"},   {"c", "s"},  {"j", "s"},  {"h", ""},   {"_", ""},   {"-", ""},
+    {"zh", "l"},   {"sh", "s"},  {"ch", "s"}, {"th", "T"}, {"dh", "T"}, {"ndr", "nr"}, {"ng", "nk"},
+    {"ttr", "rr"}, {"tr", "rr"}, {"oo", "u"}, {"ee", "i"}, {"ae", "e"}, {"ea", "e"},   {"oa", "o"},
+    {"ou", "au"},  {"ow", "au"}, {"d", "t"},  {"T", "t"},  {"g", "k"},  {"q", "k"},    {"x", "ks"},
+    {"b", "p"},    {"f", "p"},   {"w", "v"},  {"c", "s"},  {"j", "s"},  {"z", "l"},    {"h", ""},
+    {"_", ""},     {"-", ""},    {"y", "i"},  {"uv", "u"},
+};
+
+/// The same where nothing is passed over. Capital T is த, which Latin letters tell from ட.
+constexpr SoundRow kFullLatin[] = {
+    {"gn", "n"},   {"zh", "z"},    {"sh", "s"},  {"ch", "s"},  {"th", "T"},   {"dh", "T"},
+    {"ndr", "nr"}, {"tTr", "TTr"}, {"tT", "TT"}, {"ng", "nk"}, {"nkk", "nk"}, {"ttr", "rr"},
+    {"tr", "rr"},  {"cs", "ss"},   {"ee", "ii"}, {"oo", "uu"}, {"ae", "EE"},  {"ea", "EE"},
+    {"oa", "OO"},  {"d", "t"},     {"g", "k"},   {"b", "p"},   {"f", "p"},    {"w", "v"},
+    {"c", "s"},    {"j", "s"},     {"h", ""},    {"_", ""},    {"-", ""},
+};
+
+/// Letters that sound in two ways, the likelier first.
+struct TwoSounds {
+    std::string_view letters;
+    std::string_view first;
+    std::string_view second;
+};
+constexpr TwoSounds kTwoSounds[] = {
+    {"ee", "i", "e"},     {"oo", "u", "o"},   {"aha", "aa", "aka"}, {"ahu", "au", "aku"},
+    {"uhu", "uu", "uku"}, {"oh", "o", "oku"}, {"tr", "tr", "t-r"},  {"aai", "ai", "ay"},
+};
+constexpr std::size_t kMostSounds = 8;
+
+/// Beginnings that are heard otherwise than they are written.
+constexpr SoundRow kBeginnings[] = {
+    {"ye", "e"}, {"vo", "o"}, {"gn", "n"}, {"jn", "n"}, {"ny", "n"}, {"nj", "n"},
+};
+
+/// Vowels that are long, and consonants, for a sound that tells them apart.
+constexpr SoundRow kFullLetters[] = {
+    {"ழ", "z"},  {"த", "T"},  {"ஆ", "aa"}, {"ா", "aa"}, {"ஈ", "ii"}, {"ீ", "ii"},
+    {"ஊ", "uu"}, {"ூ", "uu"}, {"ஏ", "EE"}, {"ே", "EE"}, {"ஓ", "OO"}, {"ோ", "OO"},
 };
 
 template <std::size_t count>
@@ -40,8 +75,16 @@ const SoundRow* soundRow(const SoundRow (&rows)[count], std::string_view letter)
     return nullptr;
 }
 
+/// The row of `letter`, those of a full sound first if it is asked for.
+template <std::size_t count>
+const SoundRow* soundRow(const SoundRow (&rows)[count], std::string_view letter, bool isFull) {
+    const SoundRow* row = soundRow(rows, letter);
+    const SoundRow* full = row != nullptr && isFull ? soundRow(kFullLetters, letter) : nullptr;
+    return full != nullptr ? full : row;
+}
+
 /// A consonant sounds with an `a` unless a sign follows.
-std::string soundOfTamil(std::string_view word) {
+std::string soundOfTamil(std::string_view word, bool isFull) {
     std::string sound;
     bool isOpen = false;
     const auto close = [&] {
@@ -49,16 +92,16 @@ std::string soundOfTamil(std::string_view word) {
         isOpen = false;
     };
     for (const std::string_view letter : splitCodePoints(word)) {
-        if (const SoundRow* sign = soundRow(kSigns, letter)) {
+        if (const SoundRow* sign = soundRow(kSigns, letter, isFull)) {
             isOpen = false;
             sound += sign->sound;
             continue;
         }
         close();
-        if (const SoundRow* consonant = soundRow(kConsonants, letter)) {
+        if (const SoundRow* consonant = soundRow(kConsonants, letter, isFull)) {
             sound += consonant->sound;
             isOpen = true;
-        } else if (const SoundRow* vowel = soundRow(kVowels, letter)) {
+        } else if (const SoundRow* vowel = soundRow(kVowels, letter, isFull)) {
             sound += vowel->sound;
         } else if (letter.size() == 1) {
             sound += letter;
@@ -78,10 +121,52 @@ void replaceSounds(std::string& text, std::string_view from, std::string_view to
 }  // namespace
 
 std::string soundOf(std::string_view word) {
-    std::string sound = soundOfTamil(word);
+    std::string sound = soundOfTamil(word, false);
     for (const SoundRow& row : kLatin) replaceSounds(sound, row.letter, row.sound);
     sound.erase(std::unique(sound.begin(), sound.end()), sound.end());
     return sound;
+}
+
+std::vector<std::string> soundsOf(std::string_view typed) {
+    std::vector<std::string> ways = {std::string(typed)};
+    for (const TwoSounds& row : kTwoSounds) {
+        const std::size_t count = ways.size();
+        for (std::size_t at = 0; at < count && ways.size() < kMostSounds; at++) {
+            std::string other = ways[at];
+            replaceSounds(other, row.letters, row.second);
+            if (other != ways[at]) ways.push_back(std::move(other));
+            replaceSounds(ways[at], row.letters, row.first);
+        }
+    }
+    for (const SoundRow& row : kBeginnings) {
+        if (typed.substr(0, row.letter.size()) != row.letter) continue;
+        const std::string rest(typed.substr(row.letter.size()));
+        ways.push_back(std::string(row.sound) + rest);
+    }
+    std::vector<std::string> sounds;
+    for (const std::string& way : ways) {
+        std::string sound = soundOf(way);
+        const bool isKnown = std::find(sounds.begin(), sounds.end(), sound) != sounds.end();
+        if (!isKnown) sounds.push_back(std::move(sound));
+    }
+    return sounds;
+}
+
+std::string fullSoundOf(std::string_view word) {
+    std::string sound = soundOfTamil(word, true);
+    for (const SoundRow& row : kFullLatin) replaceSounds(sound, row.letter, row.sound);
+    return sound;
+}
+
+std::string consonantsOf(std::string_view sound) {
+    constexpr std::string_view kVowelLetters = "aeiou";
+    std::string consonants;
+    for (const char letter : sound) {
+        const bool isVowel = kVowelLetters.find(letter) != std::string_view::npos;
+        const bool isRepeated = !consonants.empty() && consonants.back() == letter;
+        if (!isVowel && !isRepeated) consonants += letter;
+    }
+    return consonants;
 }
 
 SoundRows consonantSounds() { return {std::begin(kConsonants), std::end(kConsonants)}; }

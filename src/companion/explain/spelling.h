@@ -11,6 +11,16 @@ namespace companion {
 /// word is written in Latin letters come out alike (achchidu, acchitu, acidu).
 std::string soundOf(std::string_view word);
 
+/// All the ways in which `typed`, of small Latin letters, may sound: "ee" is ஈ or ஏ, "oo" is ஊ or
+/// ஓ. The likeliest comes first.
+std::vector<std::string> soundsOf(std::string_view typed);
+
+/// How `word` sounds with all that soundOf passes over: long vowels, doubled consonants, ழ, த.
+std::string fullSoundOf(std::string_view word);
+
+/// The consonants of a sound, for words that were typed without vowels.
+std::string consonantsOf(std::string_view sound);
+
 /// A letter, or letters that are written for one, and how it sounds.
 struct SoundRow {
     std::string_view letter;

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "companion/format/format.h"
+#include "companion/language_server/completion.h"
 #include "companion/language_server/session.h"
 #include "companion/language_server/uris.h"
 
@@ -346,6 +347,7 @@ Json capabilitiesFor(const Session& session) {
         {"positionEncoding", "utf-16"},
         {"textDocumentSync", {{"openClose", true}, {"change", 2}, {"save", true}}},
         {"hoverProvider", true},
+        {"completionProvider", completionCapability()},
         {"signatureHelpProvider", {{"triggerCharacters", {"(", ","}}}},
         {"definitionProvider", true},
         {"referencesProvider", true},
@@ -371,6 +373,7 @@ Json answerInitialize(Session& session, const Json& params) {
                                                "codeActionLiteralSupport"}) != nullptr;
     session.preparesRenames =
         isTrue(params, {"capabilities", "textDocument", "rename", "prepareSupport"});
+    readCompletionOptions(session, params);
     session.registersWatchers = isTrue(
         params, {"capabilities", "workspace", "didChangeWatchedFiles", "dynamicRegistration"});
     return {{"capabilities", capabilitiesFor(session)}, {"serverInfo", {{"name", "பொழில்-துணை"}}}};
@@ -392,6 +395,7 @@ Json diagnosticOf(const Analysis& analysis, const Finding& finding) {
 const std::vector<Question>& questions() {
     static const std::vector<Question> rows = {
         {"textDocument/hover", answerHover},
+        {"textDocument/completion", answerCompletion},
         {"textDocument/signatureHelp", answerSignatureHelp},
         {"textDocument/semanticTokens/full", answerSemanticTokens},
         {"textDocument/documentSymbol", answerDocumentSymbol},

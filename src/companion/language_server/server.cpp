@@ -4,6 +4,7 @@
 #include <deque>
 #include <set>
 
+#include "companion/language_server/completion.h"
 #include "companion/language_server/json_repair.h"
 #include "companion/language_server/session.h"
 #include "companion/refusal.h"
@@ -14,6 +15,9 @@ namespace {
 
 /// More are no help, and a broken file can have hundreds of thousands.
 constexpr std::size_t kMostDiagnostics = 1000;
+
+/// The id of the question what the user's settings are.
+constexpr const char* kSettingsId = "settings";
 
 constexpr const char* kWatchedFiles = "**/*.{பொழில்,pozhil}";
 
@@ -54,6 +58,9 @@ private:
     void tellChanged(const Json& params);
     void tellClosed(const Json& params);
     void tellSaved(const Json& params);
+    void tellConfigured(const Json& params);
+    void askForSettings();
+    void takeSettings(const Json& answer);
     void tellFilesChanged(const Json& params);
     void tellFoldersChanged(const Json& params);
 
@@ -132,8 +139,9 @@ void Server::State::handle(const Json& message) {
     const Json& params = given == message.end() ? kNothing : *given;
     const bool isRequest = id != message.end();
     if (method == message.end() || !method->is_string()) {
-        // Without a method it is an answer to a question of ours, of which none matters.
+        // Without a method it is an answer to a question of ours. Only that about settings matters.
         const bool isAnswer = message.contains("result") || message.contains("error");
+        if (isRequest && *id == kSettingsId) return takeSettings(message);
         if (!isAnswer) {
             sendFailure(isRequest && isId(*id) ? *id : kNothing, codes::kInvalidRequest,
                         "no method");
@@ -185,6 +193,7 @@ const std::vector<Server::State::Notice>& Server::State::notices() {
         {"textDocument/didChange", &State::tellChanged},
         {"textDocument/didClose", &State::tellClosed},
         {"textDocument/didSave", &State::tellSaved},
+        {"workspace/didChangeConfiguration", &State::tellConfigured},
         {"workspace/didChangeWatchedFiles", &State::tellFilesChanged},
         {"workspace/didChangeWorkspaceFolders", &State::tellFoldersChanged},
     };
@@ -209,6 +218,7 @@ void Server::State::handleNotice(const std::string& method, const Json& params) 
 
 /// Asks to be told of modules that change on the disk.
 void Server::State::tellInitialized(const Json&) {
+    askForSettings();
     if (!session.registersWatchers) return;
     const Json watcher = {{"globPattern", kWatchedFiles}};
     const Json registration = {
@@ -220,6 +230,21 @@ void Server::State::tellInitialized(const Json&) {
           {"id", "register"},
           {"method", "client/registerCapability"},
           {"params", {{"registrations", Json::array({registration})}}}});
+}
+
+void Server::State::askForSettings() {
+    if (!session.completion.tellsSettings) return;
+    const Json section = {{"section", "pozhil"}};
+    send({{"jsonrpc", "2.0"},
+          {"id", kSettingsId},
+          {"method", "workspace/configuration"},
+          {"params", {{"items", Json::array({section})}}}});
+}
+
+void Server::State::takeSettings(const Json& answer) {
+    const auto result = answer.find("result");
+    if (result == answer.end() || !result->is_array() || result->empty()) return;
+    readCompletionSettings(session, result->front());
 }
 
 void Server::State::tellExit(const Json&) { hasEnded = true; }
@@ -246,6 +271,12 @@ void Server::State::tellClosed(const Json& params) {
 
 void Server::State::tellSaved(const Json& params) {
     session.workspace.fileChanged(documentUriOf(params), session.now);
+}
+
+/// Clients that are asked for their settings tell nothing here.
+void Server::State::tellConfigured(const Json& params) {
+    readCompletionSettings(session, fieldOf(params, "settings"));
+    askForSettings();
 }
 
 void Server::State::tellFilesChanged(const Json& params) {

@@ -7,8 +7,21 @@
 
 namespace companion::language_server {
 
+/// What completion knows of the client and its user, and what it keeps.
+struct CompletionState {
+    bool knowsSnippets = false;
+    bool knowsIndentation = false;  ///< The client indents further lines by itself.
+    bool tellsSettings = false;     ///< The client answers what the user's settings are.
+    bool transliterates = true;
+    std::vector<std::string> modulePaths;  ///< As they were at `listedAt`.
+    bool isListed = false;
+    Moment listedAt;
+    std::string listedFor;  ///< The document's path.
+};
+
 struct Session {
     Workspace workspace;
+    CompletionState completion;
     bool knowsNestedSymbols = false;
     bool knowsCodeActions = false;
     bool preparesRenames = false;

@@ -58,6 +58,11 @@ public:
     std::optional<std::string> takeDue(Moment now);
 
     const Documents& openDocuments() const { return documents; }
+    const std::vector<std::string>& openFolders() const { return modules.folders; }
+    /// Reads the modules of the document at `path`, which may be empty.
+    ModuleReader moduleReaderFor(const std::string& path) const {
+        return modules.readerFor(path, nullptr, nullptr);
+    }
 
 private:
     struct State {

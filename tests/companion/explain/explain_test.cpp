@@ -75,6 +75,13 @@ TEST(Explain, FindsAWordByItsSound) {
     for (const char* asked : {"suttru", "sutru", "chutru"}) {
         EXPECT_EQ(titlesFor(asked), Titles{"சுற்று"}) << asked;
     }
+    for (const char* asked : {"mei", "mey", "meyi"}) {
+        EXPECT_EQ(titlesFor(asked), Titles{"மெய்"}) << asked;
+    }
+    EXPECT_EQ(titlesFor("neelam").at(0), "நீளம்");
+    EXPECT_EQ(titlesFor("theathi"), Titles{"தேதி"});
+    EXPECT_EQ(titlesFor("theethi"), Titles{"தேதி"});
+    EXPECT_EQ(titlesFor("thangam"), Titles{"தங்கம்"});
     EXPECT_EQ(titlesFor("vazhi"), Titles{});
     EXPECT_EQ(companion::soundOf("மழை"), companion::soundOf("mazhai"));
     EXPECT_NE(companion::soundOf("மலர்"), companion::soundOf("மலை"));
