@@ -14,6 +14,12 @@ install(PROGRAMS scripts/prepare_objects.sh scripts/warm_header.sh scripts/warm_
         DESTINATION "${installed}/scripts")
 install(FILES scripts/messages.sh DESTINATION "${installed}/scripts")
 
+# Editors that look in the system's folders know the language at once.
+foreach(editor IN ITEMS vim/vimfiles nvim/site)
+    install(DIRECTORY editors/vim/ DESTINATION "share/${editor}")
+endforeach()
+install(FILES editors/kate/pozhil.xml DESTINATION share/org.kde.syntax-highlighting/syntax)
+
 # Each command has a Tamil name and a Latin one, and a page of the manual in both languages.
 set(commands "pozhil=பொழில்" "pozhil-thunai=பொழில்-துணை")
 set(links "")

@@ -35,6 +35,10 @@ cp -r /usr/lib/pozhil /opt/moved
 said=$(su learner -c 'cd && /opt/moved/பொழில் நிரல்.பொழில்' 2>&1) || fail "moved: $said"
 has "$said" '^மீதி 6$' "moved"
 
+# An editor knows the language by itself.
+known=$(su learner -c 'cd && nvim --headless "+echo &filetype" +qa! நிரல்.பொழில்' 2>&1)
+has "$known" 'pozhil' "Neovim"
+
 # Completion offers commands and sources.
 cat >/tmp/package/complete.sh <<'COMPLETE'
 cd "$HOME" && . /usr/share/bash-completion/completions/pozhil

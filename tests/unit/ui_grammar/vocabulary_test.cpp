@@ -121,7 +121,8 @@ TEST(WidgetWord, IsKnownAsAPlainWord) {
         Parser parser =
             parserOver(scanAs(TokenType::IDENTIFIER, {row.word}, row.word + groupsOf(row)));
         const auto widget = parser.parseWidget();
-        EXPECT_EQ(std::string(typeid(*widget).name()), row.nodeClass.name());
+        const Statement& node = *widget;
+        EXPECT_EQ(std::string(typeid(node).name()), row.nodeClass.name());
         EXPECT_TRUE(parser.is_at_end());
     }
 }
