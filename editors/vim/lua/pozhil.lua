@@ -16,8 +16,34 @@ local function tell_missing()
         vim.log.levels.WARN)
 end
 
+--- What the server offers at the cursor, in its order: a list of items, each with the range that it replaces.
+local function offers()
+    local answers = vim.lsp.buf_request_sync(0, "textDocument/completion", vim.lsp.util.make_position_params(0, "utf-16"), 2000)
+    local items = {}
+    for _, answer in pairs(answers or {}) do
+        local result = answer.result or {}
+        vim.list_extend(items, result.items or result)
+    end
+    table.sort(items, function(a, b) return (a.sortText or a.label) < (b.sortText or b.label) end)
+    return items
+end
+
+local function word_of(item)
+    return { word = item.textEdit.newText, abbr = item.label, menu = item.detail, dup = 1, equal = 1 }
+end
+
+local offered = {}
+
+--- Neovim's own keeps only words that begin with what was typed; here `achchidu` finds அச்சிடு.
+function M.omnifunc(findstart)
+    if findstart == 0 then return { words = vim.tbl_map(word_of, offered), refresh = "always" } end
+    offered = vim.tbl_filter(function(item) return item.textEdit ~= nil end, offers())
+    if #offered == 0 then return -3 end
+    return vim.str_byteindex(vim.api.nvim_get_current_line(), offered[1].textEdit.range.start.character, true)
+end
+
 local function attach(_, bufnr)
-    vim.bo[bufnr].omnifunc = "v:lua.vim.lsp.omnifunc"
+    vim.bo[bufnr].omnifunc = "v:lua.require'pozhil'.omnifunc"
     vim.bo[bufnr].tagfunc = "v:lua.vim.lsp.tagfunc"
     if vim.fn.mapcheck("K", "n") == "" then
         vim.api.nvim_buf_set_keymap(bufnr, "n", "K", "<Cmd>lua vim.lsp.buf.hover()<CR>", { noremap = true })

@@ -33,7 +33,7 @@ std::string versionOptions() {
 void writeCompiler(MarkdownPage& page) {
     page.heading(2, code("பொழில்"));
     page.prose("நிரலைத் தொகுத்து இயக்கும். இதன் இன்னொரு பெயர் pozhil.");
-    page.fence("sh", std::string("./பொழில் [விருப்பம்...] [நிரல்") + kExtension + "]");
+    page.fence("sh", std::string("பொழில் [விருப்பம்...] [நிரல்") + kExtension + "]");
     page.markdown(
         "கோப்பைச் சொல்லாவிட்டால், நிற்கும் கோப்புறையில் உள்ள " + code(kDefaultSource) +
         " எடுத்துக்கொள்ளப்படும். பல கோப்புகளைச் சொன்னால் கடைசியாகச் சொன்னது மட்டும் எடுத்துக்கொள்ளப்படும். " +

@@ -53,7 +53,7 @@ MarkdownPage contentsPage() {
     MarkdownPage page(pages::kContents, "பொழிலின் குறிப்பேடு");
     page.prose(
         "மொழியின் எல்லாச் சொற்களும், எல்லாப் பிழைகளும், எல்லாக் கட்டளைகளும் ஒரே இடத்தில். முனையத்திலும் கேட்கலாம்:");
-    page.fence("sh", "./பொழில்-துணை விளக்கு எனில்");
+    page.fence("sh", "பொழில்-துணை விளக்கு எனில்");
     page.markdown("முதலிலிருந்து கற்றுக்கொள்ள: " + link("வழிகாட்டி", "../வழிகாட்டி/README.md") + ".");
     std::vector<std::vector<std::string>> rows;
     for (const Content& content : kContents) {
