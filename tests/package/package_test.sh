@@ -8,15 +8,17 @@ build=$1
 tests=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 checkout=$(CDPATH="" cd "$tests/../.." && pwd)
 
-if ! { mount -t tmpfs none /mnt && mkdir /mnt/{upper,work,root} &&
-    mount -t overlay overlay -o lowerdir=/,upperdir=/mnt/upper,workdir=/mnt/work /mnt/root; } 2>/dev/null; then
+place=$(mktemp -d)
+trap 'umount --recursive --lazy "$place" 2>/dev/null; rmdir "$place"' EXIT
+if ! { mount -t tmpfs none "$place" && mkdir "$place"/{upper,work,root} && mount -t overlay overlay \
+    -o "lowerdir=/,upperdir=$place/upper,workdir=$place/work" "$place/root"; } 2>/dev/null; then
     echo "no root of its own can be had here" >&2
     exit 77
 fi
-root=/mnt/root
+root=$place/root
 
-POZHIL_BUILD=$build "$checkout/scripts/package.sh" /mnt/package
-package=$(ls /mnt/package/pozhil_*.deb)
+POZHIL_BUILD=$build "$checkout/scripts/package.sh" "$place/package"
+package=$(ls "$place"/package/pozhil_*.deb)
 lintian --fail-on error "$package"
 
 # The package's number is the one that the compiler tells.
@@ -30,5 +32,6 @@ mount -t tmpfs none "$root/tmp" && chmod 1777 "$root/tmp"
 ip link set lo up
 mkdir "$root/tmp/package" && cp "$package" "$tests/inside.sh" "$root/tmp/package"
 # Where the checkout lies nothing is left.
+mkdir -p "$root$checkout"  # it may lie where another folder was laid over
 mount -t tmpfs none "$root$checkout"
 chroot "$root" bash /tmp/package/inside.sh "$checkout"
