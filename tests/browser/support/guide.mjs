@@ -153,7 +153,7 @@ export async function openGuide() {
             await page.addInitScript(noteTexts);
             await restWhenDrawn(page);
             await serveDatabaseScripts(page);
-        }, 0);
+        }, {isOnDemand: false});
         return page;
     }
 
