@@ -6,6 +6,8 @@ root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 # shellcheck source=scripts/messages.sh
 . scripts/messages.sh
+# shellcheck source=scripts/photograph.sh
+. scripts/photograph.sh
 scripts/build_release.sh
 scripts/install_packages.sh aha chromium fonts-noto-core fonts-noto-mono imagemagick neovim tmux
 
@@ -35,18 +37,14 @@ wait_for() {
     refuse "'$1' திரையில் வரவில்லை."
 }
 
-# photograph NAME: what the terminal shows, as docs/NAME.png.
-photograph() {
+# picture NAME: what the terminal shows, as docs/NAME.png.
+picture() {
     local style='body{margin:18px;background:#fcfbf8!important}pre{color:#23292a;font:16px/1.6 "Noto Sans Mono",'
     style+='"Noto Sans Tamil",monospace}'
     # Lines behind the text's end show nothing.
     screen | sed '/^\(\x1b\[[0-9;]*m\)*~ *\(\x1b\[[0-9;]*m\)*$/d' | aha --title editor |
         sed "s|</head>|<style>$style</style></head>|" >"$work/$1.html"
-    chromium --headless --no-sandbox --disable-gpu --disable-quic --no-first-run \
-        --disable-background-networking --disable-component-update --disable-sync \
-        --user-data-dir="$work/profile" --hide-scrollbars --force-device-scale-factor=1 \
-        --window-size=1700,620 --screenshot="$work/$1.png" "file://$work/$1.html" \
-        >/dev/null 2>&1 || refuse "படம் எடுக்க முடியவில்லை (chromium)."
+    photograph "$1" 1700 620
     convert "$work/$1.png" -trim -bordercolor '#fcfbf8' -border 16 +repage -colors 64 "PNG8:docs/$1.png"
 }
 
@@ -64,7 +62,7 @@ edit() {
 
 edit மதிப்பெண்.பொழில்
 wait_for 'தசம எண்ணை'
-photograph editor_finding
+picture editor_finding
 
 sed '$d' "$work/மதிப்பெண்.பொழில்" | head -n 2 >"$work/புதிது.பொழில்"
 edit புதிது.பொழில்
@@ -73,4 +71,4 @@ sleep 1 # the companion starts
 "${terminal[@]}" send-keys G o 'achch' C-x C-o
 wait_for 'அச்சிடு('
 sleep 1
-photograph editor_completion
+picture editor_completion

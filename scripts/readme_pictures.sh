@@ -7,21 +7,14 @@ root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 # shellcheck source=scripts/messages.sh
 . scripts/messages.sh
+# shellcheck source=scripts/photograph.sh
+. scripts/photograph.sh
 scripts/build_release.sh
 scripts/install_packages.sh aha chromium fonts-noto-core fonts-noto-mono fonts-noto-color-emoji imagemagick
 scripts/install_node_packages.sh site
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-
-# photograph NAME WIDTH HEIGHT: the page NAME.html as NAME.png.
-photograph() {
-    chromium --headless --no-sandbox --disable-gpu --disable-quic --no-first-run \
-        --disable-background-networking --disable-component-update --disable-sync \
-        --user-data-dir="$work/profile" --hide-scrollbars --force-device-scale-factor=1 \
-        --window-size="$2,$3" --screenshot="$work/$1.png" "file://$work/$1.html" \
-        >/dev/null 2>&1 || refuse "படம் எடுக்க முடியவில்லை (chromium)."
-}
 
 # frame NAME COLOUR SOURCE...: its edges in the page's colour, and a note of what it was made from.
 frame() {
