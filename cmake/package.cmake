@@ -10,9 +10,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Pozhil developers <maintainers@pozhil.example>")
 set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
-# Programs are built by g++, applications by em++, which is large and may come later. What the executables
-# are linked with scripts/package.sh finds out: cpack's own search fails at Tamil names.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "g++ (>= 4:9)")
+# Applications are built by em++, which is large and may come later. What else it needs scripts/package.sh
+# tells: cpack's own search for libraries fails at Tamil names.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-noto-core")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "emscripten (>= 3.1), bash-completion")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS OFF)
