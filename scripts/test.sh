@@ -80,7 +80,7 @@ check_looks() {
         packaging/completion/pozhil packaging/debian/{postinst,prerm} .ci/run
 }
 
-# What the processor does while tests wait.
+# What the processor does while set-up and tests wait.
 check_aside() {
     check_looks
     check "கட்டுதல் (sanitizers)" build sanitize fast_tests
@@ -100,15 +100,15 @@ case "${1:-all}" in
         scripts/install_packages.sh g++ cmake ninja-build libgtest-dev clang clang-format \
             clang-tidy libclang-rt-dev nlohmann-json3-dev shellcheck util-linux lintian dpkg-dev file \
             curl man-db python3
+        start_aside check_aside
         check "துணைக் கோப்புகள்" scripts/prepare_objects.sh
         check "வலைதளங்களின் துணைக் கோப்புகள்" scripts/setup_web.sh
         check "கட்டுதல்" build tests
         check "உலாவிச் சோதனையின் கருவிகள்" scripts/setup_browser_tests.sh
         check "மொழிவழங்கிச் சோதனையின் கருவிகள்" scripts/setup_editor_tests.sh
-        # Tests that compare times want the machine for themselves.
-        start_aside check_aside
         run_tests "எல்லாச் சோதனைகளும்" tests -LE '^(scaling|timed)$'
         join_aside "பக்கத்தில் நடந்தவை"
+        # Tests that compare times want the machine for themselves.
         run_tests "நேரத்தை ஒப்பிடும் சோதனைகள்" tests -L '^(scaling|timed)$'
         ;;
     *) refuse "பயன்பாடு: scripts/test.sh [fast]" ;;

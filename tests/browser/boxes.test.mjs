@@ -4,6 +4,7 @@ import assert from 'node:assert/strict';
 import {after, before, test} from 'node:test';
 import {PNG} from 'pngjs';
 import {launch, openPage, photograph, press, until} from './support/browser.mjs';
+import {shoot} from './support/frames.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 /** A page over the whole window, each of whose layers lies over all of it. */
@@ -176,7 +177,7 @@ for (const [width, height, deviceScaleFactor] of [[640, 400, 1], [320, 400, 2]])
     test(`an animation at its end doesn't begin again when its page returns, ${name}`, async () => {
         await goOn();
         await until(async () => (await texts()).length === 0, 'the other page');
-        const picture = PNG.sync.read(await page.screenshot());
+        const picture = PNG.sync.read(await shoot(page));
         const at = 4 * Math.round(deviceScaleFactor) * (Math.round(y + 85) * picture.width + x);
         assert.deepEqual([...picture.data.subarray(at, at + 3)], blue);
     });

@@ -6,7 +6,7 @@ import {join} from 'node:path';
 import {after, before, test} from 'node:test';
 import {PNG} from 'pngjs';
 import {launch, openPage, photograph, pixel, press, until} from './support/browser.mjs';
-import {nextFrames} from './support/frames.mjs';
+import {nextFrames, shoot} from './support/frames.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
 const source = `வலைதளம் பொத்தான்கள்(
@@ -142,7 +142,7 @@ const cursor = () => page.evaluate(() => document.body.style.cursor);
 
 /** The rectangle around all that has this colour. */
 async function boundsOf([red, green, blue]) {
-    const {data, width} = PNG.sync.read(await page.screenshot());
+    const {data, width} = PNG.sync.read(await shoot(page));
     const box = {left: Infinity, top: Infinity, right: -1, bottom: -1};
     for (let at = 0; at < data.length; at += 4) {
         if (data[at] !== red || data[at + 1] !== green || data[at + 2] !== blue) continue;

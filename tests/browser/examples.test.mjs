@@ -7,7 +7,7 @@ import {basename, dirname, join} from 'node:path';
 import {fileURLToPath} from 'node:url';
 import {after, before, describe, test} from 'node:test';
 import {launch, openPage, photograph, press, until} from './support/browser.mjs';
-import {nextFrames} from './support/frames.mjs';
+import {nextFrames, shoot} from './support/frames.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 import {noteTexts, resize, texts} from './support/widget_screen.mjs';
 
@@ -34,7 +34,7 @@ function rememberTexts() {
 
 /** Of a screenshot the number of colours, and the middle of all that has the colour [red, green, blue]. */
 async function look(page, colour = [0, 0, 0], shot = undefined) {
-    shot ??= await page.screenshot();
+    shot ??= await shoot(page);
     return page.evaluate(async ({bytes, colour: [red, green, blue]}) => {
         const image = await createImageBitmap(await (await fetch(bytes)).blob());
         const context = new OffscreenCanvas(image.width, image.height).getContext('2d');

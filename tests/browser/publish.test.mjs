@@ -207,6 +207,7 @@ async function frameTimes(pages, rounds = 3, frames = 20) {
             await page.bringToFront();
             times[i].push(...await page.evaluate(wanted => new Promise(resolve => {
                 const times = [];
+                window.isSeen = true;
                 const request = window.requestAnimationFrame;
                 window.requestAnimationFrame = callback => request.call(window, time => {
                     const start = performance.now();
@@ -214,6 +215,7 @@ async function frameTimes(pages, rounds = 3, frames = 20) {
                     times.push(performance.now() - start);
                     if (times.length < wanted) return;
                     window.requestAnimationFrame = request;
+                    window.isSeen = false;
                     resolve(times);
                 });
             }), frames));

@@ -2,7 +2,7 @@
 import {mkdirSync} from 'node:fs';
 import {join} from 'node:path';
 import {chromium} from 'playwright-core';
-import {drawOnDemand, giveFrames} from './frames.mjs';
+import {drawOnDemand, giveFrames, shoot} from './frames.mjs';
 import {lossOfDrawing} from './loss.mjs';
 
 const output = process.env.POZHIL_BROWSER_OUTPUT ?? 'browser-output';
@@ -10,6 +10,7 @@ const output = process.env.POZHIL_BROWSER_OUTPUT ?? 'browser-output';
 const flags = [
     '--no-sandbox', '--disable-quic', '--no-first-run', '--disable-background-networking',
     '--disable-component-update', '--disable-sync',
+    '--font-render-hinting=slight',  // a font of the page's own is written as the system's is
 ];
 // Mesa draws a frame in half the time that the browser's own drawing without a GPU takes. To put the layers of
 // a page together, and to photograph it, is quicker without.
@@ -20,7 +21,7 @@ export const desk = {viewport: {width: 1280, height: 720}, screen: {width: 1920,
 
 export function launch(extraFlags = []) {
     return chromium.launch({
-        executablePath: process.env.POZHIL_CHROMIUM ?? '/usr/bin/chromium',
+        executablePath: process.env.POZHIL_CHROMIUM ?? '/usr/bin/chromium-headless-shell',
         args: [...flags, ...mesa, ...extraFlags],
     });
 }
@@ -57,12 +58,12 @@ export async function openPage(browser, options = desk, prepare = async () => {}
 
 export async function photograph(page, name) {
     mkdirSync(output, {recursive: true});
-    return page.screenshot({path: join(output, `${name}.png`)});
+    return shoot(page, {path: join(output, `${name}.png`)});
 }
 
 /** The colours [red, green, blue] of what the user sees in `clip`, row by row, in the screen's pixels. */
 export async function pixels(page, clip) {
-    const shot = await page.screenshot({clip});
+    const shot = await shoot(page, {clip});
     return page.evaluate(async bytes => {
         const image = await createImageBitmap(await (await fetch(bytes)).blob());
         const context = new OffscreenCanvas(image.width, image.height).getContext('2d');

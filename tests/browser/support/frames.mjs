@@ -1,5 +1,6 @@
-// The frames of an application, drawn when something happens or a test asks. Without a GPU a frame takes a
-// tenth of a second of processor time: as many as a screen shows would take all of it while nobody looks.
+// The frames of an application, drawn when something happens or a test asks; and of these only what is
+// photographed reaches the graphics card. Without a GPU a frame takes a tenth of a second of processor time: as
+// many as a screen shows would take all of it while nobody looks.
 
 const first = 4;       // come at once when a page is opened
 const each = 2;        // after an event: one takes it, the next shows what its handler changed
@@ -8,19 +9,39 @@ const patience = 60_000;
 
 const pages = new Set();
 
+/**
+ * Runs in the page ahead of its scripts: until `window.isSeen` the graphics card gets all but the order to draw.
+ * What stands on the screen stays there meanwhile.
+ */
+function drawWhatIsSeen() {
+    window.isSeen = false;
+    for (const {prototype} of [WebGLRenderingContext, WebGL2RenderingContext]) {
+        for (const order of ['clear', 'drawArrays', 'drawElements']) {
+            const draw = prototype[order];
+            prototype[order] = function(...words) {
+                if (window.isSeen) draw.apply(this, words);
+            };
+        }
+    }
+}
+
 /** Runs in the page, behind all that wraps its frames: keeps them back, and gives them. */
 function keepFrames({first, each, pause, patience}) {
     const request = window.requestAnimationFrame;
     let due = first, kept = [], timer = 0;
-    let runs = 0, waiting = [];
+    let runs = 0, begun = 0, waiting = [];
 
     const isFrame = callback => callback.name === 'Browser_mainLoop_runner';
-    const begin = callback => request.call(window, time => {
-        callback(time);
-        runs++;
-        waiting.filter(({at}) => at <= runs).forEach(({resolve}) => resolve());
-        waiting = waiting.filter(({at}) => at > runs);
-    });
+    const begin = callback => {
+        begun++;
+        return request.call(window, time => {
+            begun--;
+            callback(time);
+            runs++;
+            waiting.filter(({at}) => at <= runs).forEach(({resolve}) => resolve());
+            waiting = waiting.filter(({at}) => at > runs);
+        });
+    };
     const goOn = () => {
         clearTimeout(timer);
         const callbacks = kept;
@@ -41,6 +62,11 @@ function keepFrames({first, each, pause, patience}) {
             setTimeout(() => reject(new Error(`no ${count} frames within ${patience} ms`)), patience);
         });
     };
+    window.drawSeenFrame = async () => {
+        if (kept.length + begun === 0) return;  // it draws no more, or not yet
+        window.isSeen = true;
+        await window.drawFrames(1).finally(() => { window.isSeen = false; });
+    };
     window.requestAnimationFrame = callback => {
         if (!isFrame(callback)) return request.call(window, callback);
         if (due > 0) {
@@ -58,9 +84,13 @@ function keepFrames({first, each, pause, patience}) {
     }
 }
 
+/** From its next document on the graphics card draws what `seeFrame` asks for, and nothing else. */
+export const drawOnlySeen = page => page.addInitScript(drawWhatIsSeen);
+
 /** From its next document on the page draws on demand. */
 export async function drawOnDemand(page) {
     await page.addInitScript(keepFrames, {first, each, pause, patience});
+    await drawOnlySeen(page);
     pages.add(page);
     page.on('close', () => pages.delete(page));
 }
@@ -70,6 +100,15 @@ export function giveFrames(count, ...some) {
     for (const page of some.length > 0 ? some : pages) {
         page.evaluate(wanted => window.giveFrames?.(wanted), count).catch(() => {});
     }
+}
+
+/** Has the graphics card draw the next frame: what is photographed is what it has drawn last. */
+export const seeFrame = page => page.evaluate(() => window.drawSeenFrame?.());
+
+/** A screenshot of the page as it is now. */
+export async function shoot(page, options) {
+    await seeFrame(page);
+    return page.screenshot(options);
 }
 
 /** Waits until so many frames were drawn; the second of two knows all that was done before. */

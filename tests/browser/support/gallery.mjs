@@ -10,7 +10,7 @@ import {fileURLToPath} from 'node:url';
 import {PNG} from 'pngjs';
 import {openPage, press, until} from './browser.mjs';
 import {copyFonts} from './fonts.mjs';
-import {nextFrames} from './frames.mjs';
+import {nextFrames, seeFrame} from './frames.mjs';
 import {readPicture} from './golden.mjs';
 import {address, makeWorkplace, startCompiler} from './tool.mjs';
 import {noteTexts, texts} from './widget_screen.mjs';
@@ -190,6 +190,7 @@ async function look(page) {
     await page.evaluate(() => document.activeElement.blur());
     await page.mouse.move(...aside);
     await nextFrames(page);
+    await seeFrame(page);
     await page.evaluate(() => window.hold());
     const shot = readPicture(await page.screenshot({animations: 'disabled'}));
     const seen = {shot, drawn: await texts(page), written: await writing(page)};

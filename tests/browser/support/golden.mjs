@@ -5,6 +5,7 @@ import {dirname, join} from 'node:path';
 import {fileURLToPath} from 'node:url';
 import pixelmatch from 'pixelmatch';
 import {PNG} from 'pngjs';
+import {shoot} from './frames.mjs';
 
 const committed = join(dirname(fileURLToPath(import.meta.url)), '..', 'golden');
 const output = join(process.env.POZHIL_BROWSER_OUTPUT ?? 'browser-output', 'golden');
@@ -24,7 +25,7 @@ export async function shapes(page, seconds = 10) {
     const deadline = Date.now() + seconds * 1000;
     let last = Buffer.alloc(0);
     for (;;) {
-        const shot = await page.screenshot({style: withoutText});
+        const shot = await shoot(page, {style: withoutText});
         if (shot.equals(last)) return shot;
         if (Date.now() > deadline) throw new Error(`still moves after ${seconds} s`);
         last = shot;

@@ -7,6 +7,7 @@ import {fileURLToPath} from 'node:url';
 import {launch, openPage, until} from './browser.mjs';
 import {databasePeer, serveDatabaseScripts} from './database_peer.mjs';
 import {copyFonts} from './fonts.mjs';
+import {shoot} from './frames.mjs';
 import {readPicture} from './golden.mjs';
 import {goOn, problems, rest, restWhenDrawn} from './rest.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './tool.mjs';
@@ -118,7 +119,7 @@ async function show(page, application) {
     await page.mouse.move(1, 1);
     await takeSteps(page, application.path);
     await page.evaluate(() => document.activeElement.blur());
-    const shot = await page.screenshot({animations: 'disabled'});
+    const shot = await shoot(page, {animations: 'disabled'});
     const seen = {picture: readPicture(shot), written: await writing(page), problems: problems(page)};
     await page.goto('about:blank');  // it would draw on, and load itself again, while the next one is built
     return seen;

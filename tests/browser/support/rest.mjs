@@ -2,6 +2,7 @@
 // is told by what it hands to the graphics card and to the text layer.
 import assert from 'node:assert/strict';
 import {until} from './browser.mjs';
+import {drawOnlySeen} from './frames.mjs';
 
 /** Frames that are drawn alike before the drawing counts as resting. */
 const alikeAtRest = 2;
@@ -52,17 +53,29 @@ function drawUntilAtRest(wanted) {
         held = frame;
         return 0;
     };
+    const drawHeld = () => {
+        if (held) request.call(window, held);
+        held = null;
+    };
     window.isAtRest = () => held !== null;
     window.goOn = milliseconds => {
         now += milliseconds;
         alike = 0;
-        if (held) request.call(window, held);
-        held = null;
+        drawHeld();
+    };
+    window.drawSeenFrame = () => {
+        if (!held) return;
+        window.isSeen = true;
+        drawHeld();
+        return new Promise(resolve => request.call(window, resolve)).then(() => { window.isSeen = false; });
     };
 }
 
 /** For a page that isn't open yet. */
-export const restWhenDrawn = page => page.addInitScript(drawUntilAtRest, alikeAtRest);
+export async function restWhenDrawn(page) {
+    await page.addInitScript(drawUntilAtRest, alikeAtRest);
+    await drawOnlySeen(page);
+}
 
 /** What went wrong on the page; files that only the net has are not asked for. */
 export const problems = page => page.problems.filter(line => !line.includes('ERR_FAILED'));
