@@ -89,12 +89,16 @@ int ProgramsInOne::add(const std::string& source, const std::string& text) {
     return count++;
 }
 
+std::string ProgramsInOne::nameInMessages(int number) {
+    return kNamespace + std::to_string(number);
+}
+
 /// The names of lines tell the programs apart in messages.
 std::string ProgramsInOne::wholeText() const {
     std::ostringstream text;
     text << common;
     for (const auto& [number, program] : programs) {
-        const std::string name = kNamespace + std::to_string(number);
+        const std::string name = nameInMessages(number);
         text << "#line 1 \"" << name << "\"\nnamespace " << name << " {\n" << program << "\n}\n";
     }
     text
@@ -122,12 +126,13 @@ std::map<int, std::string> ProgramsInOne::leaveOutRefused() {
     }
 }
 
-std::string ProgramsInOne::build() const {
+std::string ProgramsInOne::build(const std::vector<std::string>& furtherOptions) const {
     writeTo(folder + "programs.cpp", wholeText());
     ProcessOptions options;
     options.timeoutSeconds = 250;
-    const ProcessResult built =
-        runCommand(buildCommand(folder + "programs.cpp", folder + "programs", kind), options);
+    auto command = buildCommand(folder + "programs.cpp", folder + "programs", kind);
+    command.insert(command.end(), furtherOptions.begin(), furtherOptions.end());
+    const ProcessResult built = runCommand(command, options);
     return built.exitCode == 0 ? "" : "g++: " + built.err;
 }
 

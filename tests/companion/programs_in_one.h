@@ -28,7 +28,10 @@ public:
     std::map<int, std::string> leaveOutRefused();
 
     /// What g++ says when it builds what is not left out; empty if it takes all.
-    std::string build() const;
+    std::string build(const std::vector<std::string>& furtherOptions = {}) const;
+
+    /// What g++ calls the text of a program.
+    static std::string nameInMessages(int number);
 
     /// A program in a folder of its own that holds its source, with `environment` added to ours.
     ProcessResult run(int number, const std::string& input, double seconds,
