@@ -43,15 +43,17 @@ std::vector<CaseFile> casesToRun(const std::vector<CaseFile>& cases) {
 CasesInOne::CasesInOne(const std::string& name, const std::vector<CaseFile>& cases, Build build)
     : programs(name, build) {
     for (const CaseFile& file : cases) {
-        if (namesItsSource(file)) {
-            alone.emplace(file.name, NativeProgram(name + "_" + file.name, file.source, build));
-            continue;
-        }
         try {
             const std::string text = generateFile(file.source, kProgramName);
+            if (namesItsSource(file) || programs.meetsCommonName(text)) {
+                alone.emplace(file.name, NativeProgram(name + "_" + file.name, file.source, build));
+                continue;
+            }
             const int number = programs.add(readText(file.source), text);
             places[file.name] = {number, programEnvironment(text)};
-        } catch (...) {  // a thrown report, which is no exception of the library
+        } catch (const std::exception&) {
+            throw;
+        } catch (...) {  // a thrown report
             refused += file.name + " is refused\n";
         }
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,10 @@ class ProgramsInOne {
 public:
     /// `name` is that of its folder below the build directory, which is emptied.
     explicit ProgramsInOne(const std::string& name, Build build = Build::AsTheDriver);
+
+    /// Whether the text defines a name that the common text has too: g++ refuses it as a program of
+    /// its own, and takes it in a namespace.
+    bool meetsCommonName(const std::string& text) const;
 
     /// Adds the program of `source` with the text that was generated of it; its number is how it is
     /// asked for.
@@ -46,6 +51,7 @@ private:
     std::string folder;
     Build kind;
     std::string common;
+    std::set<std::string> commonNames;
     std::map<int, std::string> programs;
     int count = 0;
 };
