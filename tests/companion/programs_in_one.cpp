@@ -1,5 +1,6 @@
 #include "programs_in_one.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -60,6 +61,28 @@ std::map<int, std::string> errorsByProgram(const std::string& messages) {
     return errors;
 }
 
+/// What a line at file scope defines or declares: the function before its bracket, the structure
+/// behind its word. Empty if it is neither.
+std::string nameIn(const std::string& line) {
+    static const std::string structure = "struct ";
+    if (line.rfind(structure, 0) == 0) {
+        return line.substr(structure.size(),
+                           line.find_first_of(" {:;", structure.size()) - structure.size());
+    }
+    const std::string head = line.substr(0, line.find('('));
+    const std::size_t blank = head.rfind(' ');
+    if (head.size() == line.size() || blank == std::string::npos || head[0] == ' ') return "";
+    return head.substr(blank + 1);
+}
+
+std::set<std::string> namesAtFileScope(const std::string& text) {
+    std::set<std::string> names;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) names.insert(nameIn(line));
+    names.erase("");
+    return names;
+}
+
 }  // namespace
 
 ProcessResult runNativeCompiler(const std::vector<std::string>& arguments) {
@@ -77,6 +100,13 @@ ProgramsInOne::ProgramsInOne(const std::string& name, Build build)
     fs::create_directories(fs::u8path(folder));
     const std::string text = generate("", kProgramName);
     common = text.substr(0, text.find("void init_globals()"));
+    commonNames = namesAtFileScope(common);
+}
+
+bool ProgramsInOne::meetsCommonName(const std::string& text) const {
+    const auto names = namesAtFileScope(text.substr(common.size()));
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& name) { return commonNames.count(name) != 0; });
 }
 
 int ProgramsInOne::add(const std::string& source, const std::string& text) {
@@ -89,12 +119,16 @@ int ProgramsInOne::add(const std::string& source, const std::string& text) {
     return count++;
 }
 
+std::string ProgramsInOne::nameInMessages(int number) {
+    return kNamespace + std::to_string(number);
+}
+
 /// The names of lines tell the programs apart in messages.
 std::string ProgramsInOne::wholeText() const {
     std::ostringstream text;
     text << common;
     for (const auto& [number, program] : programs) {
-        const std::string name = kNamespace + std::to_string(number);
+        const std::string name = nameInMessages(number);
         text << "#line 1 \"" << name << "\"\nnamespace " << name << " {\n" << program << "\n}\n";
     }
     text
@@ -122,12 +156,13 @@ std::map<int, std::string> ProgramsInOne::leaveOutRefused() {
     }
 }
 
-std::string ProgramsInOne::build() const {
+std::string ProgramsInOne::build(const std::vector<std::string>& furtherOptions) const {
     writeTo(folder + "programs.cpp", wholeText());
     ProcessOptions options;
     options.timeoutSeconds = 250;
-    const ProcessResult built =
-        runCommand(buildCommand(folder + "programs.cpp", folder + "programs", kind), options);
+    auto command = buildCommand(folder + "programs.cpp", folder + "programs", kind);
+    command.insert(command.end(), furtherOptions.begin(), furtherOptions.end());
+    const ProcessResult built = runCommand(command, options);
     return built.exitCode == 0 ? "" : "g++: " + built.err;
 }
 

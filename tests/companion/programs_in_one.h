@@ -3,6 +3,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,10 @@ public:
     /// `name` is that of its folder below the build directory, which is emptied.
     explicit ProgramsInOne(const std::string& name, Build build = Build::AsTheDriver);
 
+    /// Whether the text defines a name that the common text has too: g++ refuses it as a program of
+    /// its own, and takes it in a namespace.
+    bool meetsCommonName(const std::string& text) const;
+
     /// Adds the program of `source` with the text that was generated of it; its number is how it is
     /// asked for.
     int add(const std::string& source, const std::string& text);
@@ -28,7 +33,10 @@ public:
     std::map<int, std::string> leaveOutRefused();
 
     /// What g++ says when it builds what is not left out; empty if it takes all.
-    std::string build() const;
+    std::string build(const std::vector<std::string>& furtherOptions = {}) const;
+
+    /// What g++ calls the text of a program.
+    static std::string nameInMessages(int number);
 
     /// A program in a folder of its own that holds its source, with `environment` added to ours.
     ProcessResult run(int number, const std::string& input, double seconds,
@@ -43,6 +51,7 @@ private:
     std::string folder;
     Build kind;
     std::string common;
+    std::set<std::string> commonNames;
     std::map<int, std::string> programs;
     int count = 0;
 };

@@ -29,6 +29,17 @@ TEST(ProgramsInOne, JudgesEachAsIfItStoodAlone) {
     EXPECT_NE(programs.run(2, "", 30).signal, 0);
 }
 
+TEST(ProgramsInOne, KnowsWhatANamespaceWouldHide) {
+    const ProgramsInOne programs("programs_in_one_names");
+    const auto meets = [&](const std::string& source) {
+        return programs.meetsCommonName(generate(source, kProgramName));
+    };
+    EXPECT_TRUE(meets("செயல் நீளம்(சொல்):\n    திரும்பு 5\nஅச்சிடு(நீளம்(\"அணில்\"))\n"));
+    EXPECT_TRUE(meets("கட்டமைப்பு CallTracker:\n    அ = 1\n"));
+    EXPECT_FALSE(meets("செயல் நீளமானது(சொல்):\n    திரும்பு 5\nஅச்சிடு(நீளமானது(\"அணில்\"))\n"));
+    EXPECT_FALSE(meets("கட்டமைப்பு பறவை:\n    அ = 1\nஅச்சிடு(நீளம்(\"அணில்\"))\n"));
+}
+
 TEST(ProgramsInOne, GivesEachItsInputAndAFolderWithItsSource) {
     const std::string source = "அச்சிடு(உள்ளீடு(\"\"))\nஅச்சிடு(கோப்பு_படி(\"நிரல்.பொழில்\"))\n";
     ProgramsInOne programs("programs_in_one_input");

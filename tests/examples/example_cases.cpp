@@ -11,6 +11,7 @@
 #include <regex>
 #include <sstream>
 
+#include "companion/cases_in_one.h"
 #include "staging.h"
 
 namespace fs = std::filesystem;
@@ -38,29 +39,6 @@ std::string masked(std::string text, const fs::path& maskFile) {
     return text;
 }
 
-void copyData(const NativeProgram& program) {
-    for (const auto& entry : fs::directory_iterator(kExamples)) {
-        if (entry.path().extension() == fs::u8path(".பொழில்")) continue;
-        fs::copy(entry.path(), fs::u8path(program.runDirectory()), fs::copy_options::recursive);
-    }
-}
-
-/// The text of a call sets the line it stands in inside the expression: two calls in one make g++
-/// doubt the order. Nothing else is worth a warning.
-void expectNoWarnings(const NativeProgram& program) {
-    const ProcessResult checked = program.checkSyntax({"-Wall", "-Wextra", "-Wno-sequence-point"});
-    EXPECT_EQ(checked.exitCode, 0);
-    EXPECT_EQ(checked.err, "");
-}
-
-void runExample(const CaseFile& file) {
-    const NativeProgram program = stage(file, "example");
-    expectNoWarnings(program);
-    copyData(program);
-    const std::string output = outputOf(program, readOptional(besides(file, ".in")));
-    expectGolden(file, masked(output, besides(file, ".mask")));
-}
-
 std::vector<CaseFile> findExamples() {
     std::vector<CaseFile> examples;
     for (const auto& entry : fs::directory_iterator(kExamples)) {
@@ -72,6 +50,30 @@ std::vector<CaseFile> findExamples() {
     std::sort(examples.begin(), examples.end(),
               [](const CaseFile& a, const CaseFile& b) { return a.name < b.name; });
     return examples;
+}
+
+/// The text of a call sets the line it stands in inside the expression: two calls in one make g++
+/// doubt the order. Nothing else is worth a warning.
+const std::vector<std::string> kNoWarnings = {"-Werror", "-Wall", "-Wextra", "-Wno-sequence-point"};
+
+struct Together : CasesInOne {
+    Together() : CasesInOne("examples_together", staged(casesToRun(findExamples()), "example")) {}
+    const std::string complaint = build(kNoWarnings);
+};
+
+void copyData(const std::string& folder) {
+    for (const auto& entry : fs::directory_iterator(kExamples)) {
+        if (entry.path().extension() == fs::u8path(".பொழில்")) continue;
+        fs::copy(entry.path(), fs::u8path(folder), fs::copy_options::recursive);
+    }
+}
+
+void runExample(const CaseFile& file) {
+    static const Together examples;
+    ASSERT_EQ(examples.complaint, "");
+    copyData(examples.runFolder(file));
+    const ProcessResult ran = examples.run(file, readOptional(besides(file, ".in")));
+    expectGolden(file, masked(outputOf(ran), besides(file, ".mask")));
 }
 
 class Example : public testing::Test {

@@ -1,14 +1,15 @@
-// Programs that import from the module library or read files, put where they find both.
+// Programs that import from the module library, put where they find it.
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "support/case_files.h"
-#include "support/native_program.h"
+#include "support/subprocess.h"
 
-/// Copies the case's source to a folder of its own, where the module library stands beside it as it
-/// does at the root, and generates the program there. `lane` keeps the lanes' folders apart.
-NativeProgram stage(const CaseFile& file, const std::string& lane);
+/// The cases with their sources copied to a folder of its own each, where the module library stands
+/// beside them as it does at the root. `lane` keeps the lanes' folders apart.
+std::vector<CaseFile> staged(const std::vector<CaseFile>& cases, const std::string& lane);
 
-/// Builds and runs the program; fails the running test if it doesn't build, end, or end in 0.
-std::string outputOf(const NativeProgram& program, const std::string& input);
+/// What a program printed; fails the running test if it didn't end, or didn't end in 0.
+std::string outputOf(const ProcessResult& ran);

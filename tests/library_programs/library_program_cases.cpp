@@ -3,23 +3,34 @@
 
 #include <filesystem>
 
-#include "../examples/staging.h"
+#include "companion/cases_in_one.h"
+#include "examples/staging.h"
 #include "support/front_end.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
+const char* const kLane = "library_programs";
+
+struct Together : CasesInOne {
+    Together()
+        : CasesInOne("library_together", staged(casesToRun(findCases(kLane, ".out")), "library")) {}
+    const std::string complaint = build();
+};
+
 const bool registered = [] {
-    registerCases("library_programs", ".out", [](const CaseFile& file) {
-        expectGolden(file, outputOf(stage(file, "library"), ""));
+    registerCases(kLane, ".out", [](const CaseFile& file) {
+        static const Together programs;
+        ASSERT_EQ(programs.complaint, "");
+        expectGolden(file, outputOf(programs.run(file, "")));
     });
     return true;
 }();
 
 TEST(LibraryPrograms, CallEveryFunction) {
     std::string programs;
-    for (const CaseFile& file : findCases("library_programs", ".out")) {
+    for (const CaseFile& file : findCases(kLane, ".out")) {
         programs += readText(file.source);
     }
     int functions = 0;

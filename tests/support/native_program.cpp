@@ -94,16 +94,17 @@ NativeProgram::NativeProgram(const std::string& name, const std::string& sourceP
     std::ofstream(fs::u8path(folder + "generated.cpp")) << text;
 }
 
-ProcessResult NativeProgram::compile() const {
+ProcessResult NativeProgram::compile(const std::vector<std::string>& furtherOptions) const {
+    auto command = buildCommand(folder + "generated.cpp", folder + "program", build);
+    command.insert(command.end(), furtherOptions.begin(), furtherOptions.end());
     ProcessOptions options;
     options.timeoutSeconds = 200;
-    return runCommand(buildCommand(folder + "generated.cpp", folder + "program", build), options);
+    return runCommand(command, options);
 }
 
-ProcessResult NativeProgram::checkSyntax(const std::vector<std::string>& furtherOptions) const {
+ProcessResult NativeProgram::checkSyntax() const {
     std::vector<std::string> command = {"g++", "-fsyntax-only", folder + "generated.cpp"};
     for (const std::string& option : includeOptions(build)) command.push_back(option);
-    for (const std::string& option : furtherOptions) command.push_back(option);
     ProcessOptions options;
     options.timeoutSeconds = 200;
     options.environment = {"LC_ALL=C.UTF-8"};  // else Tamil names come out as numbers
@@ -121,8 +122,6 @@ ProcessResult NativeProgram::run(const std::string& input,
     return runCommand(command, options);
 }
 
-void NativeProgram::removeExecutable() const { fs::remove(fs::u8path(folder + "program")); }
-
 std::string inputOf(const CaseFile& file) { return readOptional(besides(file, ".in"), ""); }
 
 void expectOutcome(const CaseFile& file, const ProcessResult& ran) {
@@ -130,13 +129,4 @@ void expectOutcome(const CaseFile& file, const ProcessResult& ran) {
     EXPECT_EQ(statusAsAShellTells(ran), std::stoi(readOptional(besides(file, ".status"), "0")));
     EXPECT_EQ(ran.err, readOptional(besides(file, ".err"), ""));
     expectGolden(file, maskSaying(ran.out));
-}
-
-void expectProgram(const CaseFile& file, Build build) {
-    const NativeProgram program(file.name, file.source, build);
-    const ProcessResult built = program.compile();
-    ASSERT_EQ(built.exitCode, 0) << file.source << "\n" << built.err;
-
-    expectOutcome(file, program.run(inputOf(file)));
-    if (!testing::Test::HasFailure()) program.removeExecutable();
 }

@@ -33,15 +33,12 @@ public:
     NativeProgram(const std::string& name, const std::string& sourcePath,
                   Build build = Build::AsTheDriver);
 
-    ProcessResult compile() const;
+    ProcessResult compile(const std::vector<std::string>& furtherOptions = {}) const;
     /// What g++ says of the generated text, without making an executable.
-    ProcessResult checkSyntax(const std::vector<std::string>& furtherOptions = {}) const;
+    ProcessResult checkSyntax() const;
     /// With a `wrapper`, the command that starts the program, whose path is its last argument.
     ProcessResult run(const std::string& input = "",
                       const std::vector<std::string>& wrapper = {}) const;
-
-    /// Removes the executable, the one large file of the folder.
-    void removeExecutable() const;
 
     /// The working directory, with a slash at its end.
     std::string runDirectory() const { return folder + "run/"; }
@@ -59,6 +56,3 @@ std::string inputOf(const CaseFile& file);
 /// source may stand its exit status as a shell tells it (.status, 0 if there is none, 134 for an
 /// abort) and what it writes to standard error (.err).
 void expectOutcome(const CaseFile& file, const ProcessResult& ran);
-
-/// Builds and runs the case, and holds its outcome.
-void expectProgram(const CaseFile& file, Build build = Build::AsTheDriver);

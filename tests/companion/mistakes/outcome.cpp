@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::string kSingleTexts = POZHIL_BUILD_DIR "/programs/mistakes/";
+const std::string kSingleTexts = POZHIL_BUILD_DIR "/programs/single_mistakes/";
 const char* const kWarmedHeader = "-I" POZHIL_ROOT "/உள்ளடக்கம்/nanovg";
 const char* const kBrowserStandIn = "-I" POZHIL_ROOT "/tests/emitted/widgets/stand_in";
 const char* const kTests = "-I" POZHIL_ROOT "/tests";
@@ -36,9 +36,9 @@ FrontEndOutcome compileSource(const std::string& source) {
     }
 }
 
-bool nativeCompilerTakes(const Mistake& mistake, const std::string& text, const std::string& name) {
+bool nativeCompilerTakes(const Mistake& mistake, const std::string& text) {
     fs::create_directories(fs::u8path(kSingleTexts));
-    const std::string path = kSingleTexts + name + ".cpp";
+    const std::string path = kSingleTexts + "single.cpp";
     std::ofstream(fs::u8path(path)) << text;
     const std::vector<std::string> forBrowser = {kBrowserStandIn, kTests, "-D__EMSCRIPTEN__",
                                                  "-fsyntax-only", path};

@@ -15,8 +15,8 @@ struct FrontEndOutcome {
 FrontEndOutcome compileSource(const std::string& source);
 
 /// True if g++ takes the generated text; an application's behind stand-ins for the browser's
-/// headers. `name` is that of a file that is the caller's alone.
-bool nativeCompilerTakes(const Mistake& mistake, const std::string& text, const std::string& name);
+/// headers.
+bool nativeCompilerTakes(const Mistake& mistake, const std::string& text);
 
 /// What came of a program that ran; "runs" if nothing ended it before its end.
 Truth outcomeOf(const ProcessResult& ran);

@@ -4,6 +4,7 @@
 
 #include "../../../documents/transcript.h"
 #include "../../../examples/staging.h"
+#include "../../cases_in_one.h"
 #include "companion/descriptions/codes.h"
 #include "support/native_program.h"
 
@@ -13,9 +14,7 @@ using companion::CodeDescription;
 using companion::codeDescriptions;
 using companion::CodeMoment;
 
-const char* const kDescriptions = "../src/companion/descriptions/";
-/// Memory for a program that would take all there is.
-const std::vector<std::string> kInLittleMemory = {"prlimit", "--as=400000000"};
+const char* const kShown = "../src/companion/descriptions/programs";
 
 /// The report names the source as descriptions do.
 std::string reportOf(const std::string& output) {
@@ -25,18 +24,57 @@ std::string reportOf(const std::string& output) {
     return at == std::string::npos ? report : report.replace(at, own.size(), "நிரல்.பொழில்");
 }
 
-void expectStop(const CodeDescription& code) {
+/// A program that would take all the memory there is gets little, so it is built alone.
+const char* const kOutOfMemory = "382";
+
+CaseFile stopOf(const CodeDescription& code) {
     const std::string digits(code.digits);
     const std::string stem = POZHIL_ROOT "/src/companion/descriptions/codes/" + digits + "/wrong";
-    const NativeProgram program("code_" + digits, stem + ".பொழில்");
+    return {"stops_" + digits, stem + ".பொழில்", stem + ".report"};
+}
+
+std::vector<CaseFile> findStops() {
+    std::vector<CaseFile> stops;
+    for (const CodeDescription& code : codeDescriptions()) {
+        if (code.moment == CodeMoment::Running && code.digits != kOutOfMemory)
+            stops.push_back(stopOf(code));
+    }
+    return stops;
+}
+
+/// The shown programs and those that stop, each of which may import from the library.
+std::vector<CaseFile> findPrograms() {
+    std::vector<CaseFile> programs = findCases(kShown, ".out");
+    const std::vector<CaseFile> stops = findStops();
+    programs.insert(programs.end(), stops.begin(), stops.end());
+    return staged(casesToRun(programs), "shown");
+}
+
+struct Together : CasesInOne {
+    Together() : CasesInOne("shown_together", findPrograms()) {}
+    const std::string complaint = build();
+};
+
+const Together& together() {
+    static const Together programs;
+    EXPECT_EQ(programs.complaint, "");
+    return programs;
+}
+
+ProcessResult runInLittleMemory(const CaseFile& stop) {
+    const NativeProgram program(stop.name, stop.source);
     const ProcessResult built = program.compile();
-    ASSERT_EQ(built.exitCode, 0) << digits << "\n" << built.err;
+    EXPECT_EQ(built.exitCode, 0) << built.err;
+    return program.run("", {"prlimit", "--as=400000000"});
+}
+
+void expectStop(const CodeDescription& code) {
+    const CaseFile stop = stopOf(code);
     const ProcessResult ran =
-        program.run("", digits == "382" ? kInLittleMemory : std::vector<std::string>{});
-    EXPECT_EQ(ran.exitCode, 1) << digits;
-    EXPECT_NE(ran.out.find("பொழில்-" + digits), std::string::npos) << ran.out;
-    expectGolden({digits, stem + ".பொழில்", stem + ".report"}, reportOf(ran.out));
-    if (!testing::Test::HasFailure()) program.removeExecutable();
+        code.digits == kOutOfMemory ? runInLittleMemory(stop) : together().run(stop, "");
+    EXPECT_EQ(ran.exitCode, 1) << stop.name;
+    EXPECT_NE(ran.out.find("பொழில்-" + std::string(code.digits)), std::string::npos) << ran.out;
+    expectGolden(stop, reportOf(ran.out));
 }
 
 class CodeStops : public testing::Test {
@@ -49,15 +87,13 @@ private:
 };
 
 const bool registered = [] {
-    registerCases(std::string(kDescriptions) + "programs", ".out", [](const CaseFile& file) {
-        const NativeProgram program = stage(file, "shown");
-        expectGolden(file, outputOf(program, ""));
-        if (!testing::Test::HasFailure()) program.removeExecutable();
+    registerCases(kShown, ".out", [](const CaseFile& file) {
+        expectGolden(file, outputOf(together().run(file, "")));
     });
     for (const CodeDescription& code : codeDescriptions()) {
         if (code.moment != CodeMoment::Running) continue;
-        testing::RegisterTest("CodeStops", ("stops_" + std::string(code.digits)).c_str(), nullptr,
-                              nullptr, __FILE__, __LINE__,
+        testing::RegisterTest("CodeStops", stopOf(code).name.c_str(), nullptr, nullptr, __FILE__,
+                              __LINE__,
                               [&code]() -> testing::Test* { return new CodeStops(code); });
     }
     return true;
