@@ -204,10 +204,13 @@ TEST_F(PublishCommand, EndsInOrderByCtrlC) {
         begun +
         "' ]; do sleep 0.05; done\n"
         "kill -INT $tool; wait $tool; status=$?\n"
-        "state=$(sed 's/.*) //; s/ .*//' /proc/$(cat '" +
+        "for look in $(seq 200); do\n"
+        "    state=$(sed 's/.*) //; s/ .*//' /proc/$(cat '" +
         begun +
-        "')/stat 2>/dev/null)\n[ \"${state:-Z}\" = Z ] || exit 99\n"
-        "exit $status\n";
+        "')/stat 2>/dev/null)\n"
+        "    [ \"${state:-Z}\" != Z ] || exit $status\n"
+        "    sleep 0.05\n"
+        "done\nexit 99\n";
     const ProcessResult result =
         runCommand({"sh", "-c", script, (home / "companion").u8string()}, options());
     EXPECT_EQ(result.exitCode, 130) << result.err;

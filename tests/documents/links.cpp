@@ -44,7 +44,17 @@ std::string slug(const std::string& heading) {
             name += '-';
         }
     }
-    return std::regex_replace(name, std::regex("…|–|—|→|‘|’|“|”|⋯|⌨"), "");
+    static const std::regex signs("…|–|—|→|‘|’|“|”|⋯|⌨");
+    return std::regex_replace(name, signs, "");
+}
+
+bool holds(const std::string& line, const char* text) {
+    return line.find(text) != std::string::npos;
+}
+
+/// Most lines hold none, and to search for a text is quicker than for a form.
+bool mayHoldLink(const std::string& line) {
+    return holds(line, "](") || holds(line, "src=") || holds(line, "href=");
 }
 
 }  // namespace
@@ -52,9 +62,11 @@ std::string slug(const std::string& heading) {
 std::vector<Link> linksOf(const std::string& pageText) {
     static const std::regex form(R"(\]\(<?([^)>\s]+)>?\))");
     static const std::regex attribute(R"((?:src|href)=\"([^\"]+)\")");
+    static const std::regex code("`[^`]*`");
     std::vector<Link> links;
     eachLine(pageText, [&](const std::string& line, int number) {
-        const std::string text = std::regex_replace(line, std::regex("`[^`]*`"), "");
+        if (!mayHoldLink(line)) return;
+        const std::string text = std::regex_replace(line, code, "");
         for (const std::regex& each : {form, attribute}) {
             for (std::sregex_iterator match(text.begin(), text.end(), each), end; match != end;
                  ++match) {
@@ -73,6 +85,7 @@ std::set<std::string> anchorsOf(const std::string& pageText) {
         if (marks != 0 && marks != std::string::npos && line[marks] == ' ') {
             anchors.insert(slug(line.substr(marks + 1)));
         }
+        if (!holds(line, "<a ")) return;
         for (std::sregex_iterator match(line.begin(), line.end(), id), end; match != end; ++match) {
             anchors.insert((*match)[1]);
         }
