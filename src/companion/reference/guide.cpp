@@ -77,14 +77,12 @@ bool isChapter(const fs::path& page) {
 }
 
 Chapter readChapter(const fs::path& page, const fs::path& programs) {
-    Chapter chapter;
-    chapter.file = page.filename().u8string();
-    chapter.text = textOf(page);
-    chapter.title = titleIn(chapter.text);
-    chapter.code = codeIn(chapter.text);
-    const fs::path own = programs / fs::u8path(chapter.file.substr(0, kNumberDigits));
-    for (const fs::path& program : filesIn(own, ".பொழில்")) chapter.code += textOf(program) + "\n";
-    return chapter;
+    const std::string file = page.filename().u8string();
+    const std::string text = textOf(page);
+    std::string code = codeIn(text);
+    const fs::path own = programs / fs::u8path(file.substr(0, kNumberDigits));
+    for (const fs::path& program : filesIn(own, ".பொழில்")) code += textOf(program) + "\n";
+    return {file, titleIn(text), code, text};
 }
 
 }  // namespace

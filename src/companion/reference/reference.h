@@ -16,10 +16,13 @@ struct ReferenceFile {
 
 /// A chapter of the guide, in what words can be looked for.
 struct Chapter {
+    Chapter(std::string file, std::string title, std::string code, std::string text);
+
     std::string file;   ///< Its name in the guide's folder.
     std::string title;  ///< Its first heading, in Markdown.
     std::string code;   ///< Programs that it shows or has beside it, and spans in backticks.
     std::string text;   ///< All of it.
+    std::string bare;   ///< The code without what stands in quotes and comments.
 };
 
 /// What stands around the reference in docs/.

@@ -1,5 +1,7 @@
 #include "companion/reference/where.h"
 
+#include <cstring>
+
 #include "companion/pieces.h"
 #include "companion/reference/word_bytes.h"
 
@@ -33,11 +35,20 @@ bool standsAlone(std::string_view text, std::size_t at, std::size_t length) {
            (at + length == text.size() || !isWordByte(text[at + length]));
 }
 
+/// As `text.find(word, from)`, which stops at each Tamil letter: all of them begin with the same
+/// byte.
+std::size_t placeOf(std::string_view word, std::string_view text, std::size_t from) {
+    const void* found = memmem(text.data() + from, text.size() - from, word.data(), word.size());
+    return found == nullptr
+               ? std::string_view::npos
+               : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
+}
+
 /// True if `word` stands whole in `text`, where `fits` is true of what is before and behind it.
 template <typename Fits>
 bool standsIn(std::string_view text, std::string_view word, Fits fits) {
-    for (std::size_t at = text.find(word); at != std::string_view::npos;
-         at = text.find(word, at + 1)) {
+    for (std::size_t at = placeOf(word, text, 0); at != std::string_view::npos;
+         at = placeOf(word, text, at + 1)) {
         const char before = at == 0 ? '\n' : text[at - 1];
         const std::size_t end = at + word.size();
         const char behind = end < text.size() ? text[end] : '\n';
@@ -61,7 +72,7 @@ std::string withoutTexts(const std::string& code) {
 
 bool isUsedIn(const Chapter& chapter, const Entry& entry) {
     const auto anywhere = [](char, char) { return true; };
-    const std::string bare = withoutTexts(chapter.code);
+    const std::string& bare = chapter.bare;
     switch (entry.kind) {
         case EntryKind::Mark: {
             const bool delimits =
@@ -100,14 +111,23 @@ std::string chapterLink(const Entry& entry, const std::vector<Chapter>& chapters
 
 }  // namespace
 
+Chapter::Chapter(std::string file, std::string title, std::string code, std::string text)
+    : file(std::move(file)),
+      title(std::move(title)),
+      code(std::move(code)),
+      text(std::move(text)),
+      bare(withoutTexts(this->code)) {}
+
 const Chapter* chapterOf(const Entry& entry, const std::vector<Chapter>& chapters) {
     for (const Chapter& chapter : chapters) {
         if (isUsedIn(chapter, entry)) return &chapter;
     }
     if (entry.kind == EntryKind::Mark) return nullptr;
+    const auto anywhere = [](char, char) { return true; };
     for (const Chapter& chapter : chapters) {
-        const std::string all = chapter.text + "\n" + chapter.code;
-        if (standsIn(all, entry.word, [](char, char) { return true; })) return &chapter;
+        if (standsIn(chapter.text, entry.word, anywhere) ||
+            standsIn(chapter.code, entry.word, anywhere))
+            return &chapter;
     }
     return nullptr;
 }
