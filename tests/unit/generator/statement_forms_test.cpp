@@ -11,7 +11,7 @@ namespace {
 
 using Value = std::unique_ptr<Expression>;
 
-Value number(const std::string& digits) { return std::make_unique<NumberLiteral>(digits); }
+Value numberOf(const std::string& digits) { return std::make_unique<NumberLiteral>(digits); }
 Value variableNamed(const std::string& name) { return std::make_unique<VariableAccess>(name); }
 Value noElements() { return std::make_unique<ListLiteral>(); }
 Token identifier(const std::string& text) { return {TokenType::IDENTIFIER, text, 1}; }
@@ -61,7 +61,7 @@ protected:
 class DeclarationForm : public Forms {};
 
 TEST_F(DeclarationForm, AtTopLevelIsGlobalAndRecorded) {
-    EXPECT_EQ(declared("அ", number("1")), "    global_vars[\"அ\"] = std::any(1LL);\n");
+    EXPECT_EQ(declared("அ", numberOf("1")), "    global_vars[\"அ\"] = std::any(1LL);\n");
     EXPECT_EQ(kindOf("அ"), VarType::Integer);
     EXPECT_EQ(declared("அ", noElements()), "    global_vars[\"அ\"] = std::vector<std::any>({});\n");
     EXPECT_EQ(kindOf("அ"), VarType::List);
@@ -72,25 +72,25 @@ TEST_F(DeclarationForm, AtTopLevelIsGlobalAndRecorded) {
 }
 
 TEST_F(DeclarationForm, TakesTheDeclaredKindBeforeTheInferredOne) {
-    EXPECT_EQ(declared("அ", number("1"), VarType::Time), "    global_vars[\"அ\"] = 1LL;\n");
+    EXPECT_EQ(declared("அ", numberOf("1"), VarType::Time), "    global_vars[\"அ\"] = 1LL;\n");
     EXPECT_EQ(kindOf("அ"), VarType::Time);
-    EXPECT_EQ(declared("ஆ", number("1"), VarType::List),
+    EXPECT_EQ(declared("ஆ", numberOf("1"), VarType::List),
               "    global_vars[\"ஆ\"] = std::any(1LL);\n");
     EXPECT_EQ(kindOf("ஆ"), VarType::List);
 }
 
 TEST_F(DeclarationForm, OfANewNameInAFunctionIsALocal) {
     generator->currentFunction = "சே";
-    EXPECT_EQ(declared("அ", number("1")), "    std::any அ = std::any(1LL);\n");
+    EXPECT_EQ(declared("அ", numberOf("1")), "    std::any அ = std::any(1LL);\n");
     EXPECT_EQ(generator->localVariables.count("அ"), 1U);
     EXPECT_EQ(generator->variableTypes.count("அ"), 0U);
-    EXPECT_EQ(declared("அ", number("2")), "    அ = std::any(2LL);\n");
+    EXPECT_EQ(declared("அ", numberOf("2")), "    அ = std::any(2LL);\n");
 }
 
 TEST_F(DeclarationForm, OfAKnownNameInAFunctionIsGlobal) {
     generator->currentFunction = "சே";
     generator->variableTypes["அ"] = VarType::String;
-    EXPECT_EQ(declared("அ", number("1")), "    global_vars[\"அ\"] = std::any(1LL);\n");
+    EXPECT_EQ(declared("அ", numberOf("1")), "    global_vars[\"அ\"] = std::any(1LL);\n");
     EXPECT_EQ(kindOf("அ"), VarType::String) << "a function records lists and dictionaries alone";
 }
 
@@ -110,8 +110,8 @@ TEST_F(DeclarationForm, OfAnObjectThatNoConstructorMakesIsTextThatDoesNotCompile
 }
 
 TEST_F(DeclarationForm, TakesOneNameForAConstant) {
-    declared("மாறிலி", number("1"));
-    declared("மாறிலி_அ", number("1"));
+    declared("மாறிலி", numberOf("1"));
+    declared("மாறிலி_அ", numberOf("1"));
     EXPECT_EQ(generator->constants, std::set<std::string>{"மாறிலி"});
 }
 
@@ -121,7 +121,7 @@ const char* const kAccountStructure =
 
 TEST_F(DeclarationForm, OfAnInstanceFillsAVariableOfItsOwn) {
     use(kAccountStructure);
-    EXPECT_EQ(declared("க", call("கணக்கு", number("7"))),
+    EXPECT_EQ(declared("க", call("கணக்கு", numberOf("7"))),
               "    global_vars[\"க\"] = std::any();\n"
               "    auto obj_க = std::make_shared<கணக்கு>();\n"
               "    obj_க->properties[\"இருப்பு\"] = std::any(5LL);\n"
@@ -156,7 +156,7 @@ TEST_F(DeclarationForm, OfAnInstanceDoesNotFindAnInheritedConstructor) {
     use(kAccountStructure);
     EXPECT_EQ(declared("சே", call("சேமிப்பு")).find("    fn_கணக்கு_துவக்கம்("), std::string::npos);
     try {
-        declared("சே", call("சேமிப்பு", number("7")));
+        declared("சே", call("சேமிப்பு", numberOf("7")));
         FAIL();
     } catch (const Refusal& refusal) {
         EXPECT_EQ(refusal.code, "பொழில்-333");
@@ -179,29 +179,29 @@ protected:
 
 TEST_F(SetForm, OfAnElementHasNoPlace) {
     EXPECT_EQ(
-        stored(std::make_unique<IndexExpression>(variableNamed("அ"), number("0")), number("1")),
+        stored(std::make_unique<IndexExpression>(variableNamed("அ"), numberOf("0")), numberOf("1")),
         "    fn_index_ref(global_vars[\"அ\"], std::any(0LL)) = std::any(1LL);\n");
 }
 
 TEST_F(SetForm, OfAPropertyCastsTheObject) {
     generator->variableTypes["க"] = VarType::Object;
-    EXPECT_EQ(stored(member("க", "இருப்பு"), number("1")),
+    EXPECT_EQ(stored(member("க", "இருப்பு"), numberOf("1")),
               "    std::any_cast<std::shared_ptr<_StructBase>>(global_vars[\"க\"])"
               "->properties[\"இருப்பு\"] = std::any(1LL);\n");
 }
 
 TEST_F(SetForm, OfAnythingElseWritesNothing) {
-    EXPECT_EQ(stored(variableNamed("அ"), number("1")), "    ;\n");
+    EXPECT_EQ(stored(variableNamed("அ"), numberOf("1")), "    ;\n");
 }
 
 TEST_F(SetForm, Refusals) {
     use("கட்டமைப்பு கணக்கு:\n    ரகசிய இருப்பு = 5\n");
     generator->variableTypes["நே"] = VarType::Time;
     generator->variableTypes["க"] = VarType::Object;
-    EXPECT_TRUE(refuses("பொழில்-322", 9, [&] { stored(member("நே", "ஆண்டு"), number("1")); }));
-    EXPECT_TRUE(refuses("பொழில்-321", 9, [&] { stored(member("க", "இருப்பு"), number("1")); }));
+    EXPECT_TRUE(refuses("பொழில்-322", 9, [&] { stored(member("நே", "ஆண்டு"), numberOf("1")); }));
+    EXPECT_TRUE(refuses("பொழில்-321", 9, [&] { stored(member("க", "இருப்பு"), numberOf("1")); }));
     try {
-        stored(member("அ", "பெயர்"), number("1"));
+        stored(member("அ", "பெயர்"), numberOf("1"));
         FAIL();
     } catch (const Refusal& refusal) {
         EXPECT_EQ(refusal.code, "பொழில்-304");
@@ -215,7 +215,7 @@ TEST_F(SetForm, TheReceiverReachesItsPrivateField) {
     use("கட்டமைப்பு கணக்கு:\n    ரகசிய இருப்பு = 5\n");
     generator->currentStruct = "கணக்கு";
     generator->localVariables["தான்"] = true;
-    EXPECT_EQ(stored(member("தான்", "இருப்பு"), number("1")),
+    EXPECT_EQ(stored(member("தான்", "இருப்பு"), numberOf("1")),
               "    std::any_cast<std::shared_ptr<_StructBase>>(தான்)"
               "->properties[\"இருப்பு\"] = std::any(1LL);\n");
 }
@@ -224,7 +224,7 @@ using CompoundForms = Forms;
 
 TEST_F(CompoundForms, AssignToATemporary) {
     EXPECT_EQ(written(CompoundAssignmentStatement(variableNamed("அ"), identifier("கூட்டிசேர்"),
-                                                  number("1"))),
+                                                  numberOf("1"))),
               "    global_vars[\"அ\"] = std::any(std::any_cast<long long>(global_vars[\"அ\"]) += "
               "std::any_cast<long long>(1LL));\n");
     EXPECT_EQ(
@@ -239,7 +239,7 @@ TEST_F(StatementDispatch, PlainStatementsAreIndentedAndEnded) {
     EXPECT_EQ(written(ContinueStatement()), "    continue;\n");
     EXPECT_EQ(written(PassStatement()), "    (void)0;\n");
     EXPECT_EQ(written(ReturnStatement(nullptr)), "    return 0; // C++ main requires int;\n");
-    EXPECT_EQ(written(ExpressionStatement(number("1"))), "    1LL;\n");
+    EXPECT_EQ(written(ExpressionStatement(numberOf("1"))), "    1LL;\n");
     EXPECT_EQ(written(SetStateStatement()), "    // UI-ஐப் புதுப்பித்தல்\n    updateUI();\n");
 }
 
@@ -306,7 +306,7 @@ TEST_F(StatementDispatch, AnythingElseIsUnknown) {
 using ChoiceForm = Forms;
 
 TEST_F(ChoiceForm, WithoutCasesHoldsTheSubjectAlone) {
-    EXPECT_EQ(written(SwitchStatement(number("1"), {}, nullptr)),
+    EXPECT_EQ(written(SwitchStatement(numberOf("1"), {}, nullptr)),
               "    {\n        auto _switch_val = 1LL;\n    }\n");
 }
 

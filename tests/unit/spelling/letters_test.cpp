@@ -9,7 +9,9 @@
 
 namespace {
 
-std::string identifier(const std::string& word) { return "IDENTIFIER:" + word + " END_OF_FILE"; }
+std::string identifierAlone(const std::string& word) {
+    return "IDENTIFIER:" + word + " END_OF_FILE";
+}
 
 TEST(LoneSign, AtAWordsStartIsRefused) {
     for (int sign = 0x0BBE; sign <= 0x0BCD; sign++) {
@@ -21,13 +23,13 @@ TEST(LoneSign, AtAWordsStartIsRefused) {
 TEST(LoneSign, NeighboursOfTheSignsPass) {
     // The length mark of ஔ and the anusvara lie outside the range.
     for (const int letter : {0x0BBD, 0x0BCE, 0x0BD7, 0x0B82, 0x0BB9 + 1}) {
-        EXPECT_EQ(describe(scan(codePoint(letter))), identifier(codePoint(letter))) << letter;
+        EXPECT_EQ(describe(scan(codePoint(letter))), identifierAlone(codePoint(letter))) << letter;
     }
 }
 
 TEST(LoneSign, InsideAWordPasses) {
     for (const char* word : {"கி", "கிி", "க்ி", "aி", "_ி", "க1ு", "அி", "அ்"}) {
-        EXPECT_EQ(describe(scan(word)), identifier(word));
+        EXPECT_EQ(describe(scan(word)), identifierAlone(word));
     }
 }
 
@@ -52,9 +54,9 @@ TEST(GranthaLetter, IsRefusedAnywhereInAWord) {
 
 TEST(GranthaLetter, NeighboursPass) {
     for (const int letter : {0x0B9B, 0x0B9D, 0x0BB5, 0x0BB6, 0x0BBA}) {
-        EXPECT_EQ(describe(scan(codePoint(letter))), identifier(codePoint(letter))) << letter;
+        EXPECT_EQ(describe(scan(codePoint(letter))), identifierAlone(codePoint(letter))) << letter;
     }
-    EXPECT_EQ(describe(scan("ஶ்ரீ")), identifier("ஶ்ரீ"));
+    EXPECT_EQ(describe(scan("ஶ்ரீ")), identifierAlone("ஶ்ரீ"));
 }
 
 TEST(GranthaLetter, InAKeywordIsRefusedToo) { EXPECT_TRUE(scanRefused("எலிவேஷன்", "பொழில்-115", 1)); }
@@ -77,17 +79,17 @@ TEST(LongSign, OnAVowelInsideAWordIsRefused) {
 
 TEST(LongSign, OnAnythingElsePasses) {
     for (const char* word : {"கா", "காா", "aா", "_ா", "அ_ா", "அகா", "எஃா", "éா"}) {
-        EXPECT_EQ(describe(scan(word)), identifier(word));
+        EXPECT_EQ(describe(scan(word)), identifierAlone(word));
     }
-    EXPECT_EQ(describe(scan(codePoint(0x0B95) + "ா")), identifier("கா"));
+    EXPECT_EQ(describe(scan(codePoint(0x0B95) + "ா")), identifierAlone("கா"));
     EXPECT_EQ(describe(scan("a" + codePoint(0x0B84) + "ா")),
-              identifier("a" + codePoint(0x0B84) + "ா"));
+              identifierAlone("a" + codePoint(0x0B84) + "ா"));
 }
 
 TEST(LongSign, OtherSignsOnAVowelPass) {
     for (int sign = 0x0BBF; sign <= 0x0BCD; sign++) {
         const std::string word = "அ" + codePoint(sign);
-        EXPECT_EQ(describe(scan(word)), identifier(word));
+        EXPECT_EQ(describe(scan(word)), identifierAlone(word));
     }
 }
 
@@ -109,14 +111,15 @@ TEST(InvisibleMark, InAKeywordIsRefusedToo) {
 TEST(InvisibleMark, NeighboursAndOtherMarksPass) {
     // The zero-width space and the byte order mark are word characters.
     for (const int mark : {0x200A, 0x200B, 0x2010, 0x202A, 0x2060, 0x204C, 0xFEFF}) {
-        EXPECT_EQ(describe(scan(codePoint(mark))), identifier(codePoint(mark))) << std::hex << mark;
+        EXPECT_EQ(describe(scan(codePoint(mark))), identifierAlone(codePoint(mark)))
+            << std::hex << mark;
         const std::string word = "க" + codePoint(mark) + "ள்";
-        EXPECT_EQ(describe(scan(word)), identifier(word)) << std::hex << mark;
+        EXPECT_EQ(describe(scan(word)), identifierAlone(word)) << std::hex << mark;
     }
 }
 
 TEST(InvisibleMark, CutOffByTheEndPasses) {
-    EXPECT_EQ(describe(scan("\xE2\x80")), identifier("\xE2\x80"));
+    EXPECT_EQ(describe(scan("\xE2\x80")), identifierAlone("\xE2\x80"));
 }
 
 TEST(Letters, AreReportedWithTheirLine) {

@@ -12,7 +12,7 @@ namespace {
 using Value = std::unique_ptr<Expression>;
 
 Value text(const char* value) { return std::make_unique<StringLiteral>(value); }
-Value number(const char* value) { return std::make_unique<NumberLiteral>(value); }
+Value numberOf(const char* value) { return std::make_unique<NumberLiteral>(value); }
 
 class ButtonText : public testing::Test {
 protected:
@@ -50,7 +50,7 @@ protected:
 TEST_F(ButtonText, TakesTheStyleBelowItsLabel) {
     WidgetNode& style = addStyle(addLabel("அ"));
     style.properties["நிறம்"] = text("#FF8000");
-    style.properties["அளவு"] = number("20");
+    style.properties["அளவு"] = numberOf("20");
     style.properties["எழுத்துரு"] = text("அ.ttf");
     style.properties["தடிமன்"] = text("தடிமனான");
     EXPECT_TRUE(writes("tr = 255; tg = 128; tb = 0; ta = 255;\n"));
@@ -60,7 +60,7 @@ TEST_F(ButtonText, TakesTheStyleBelowItsLabel) {
 }
 
 TEST_F(ButtonText, TakesAWeightThatIsANumber) {
-    addStyle(addLabel("அ")).properties["தடிமன்"] = number("500");
+    addStyle(addLabel("அ")).properties["தடிமன்"] = numberOf("500");
     EXPECT_TRUE(writes("\"500\",\n                  false, \"\");\n"));
 }
 
@@ -76,9 +76,9 @@ TEST_F(ButtonText, PrefersTheStyleBelowItsLabelToTheLabelsOwn) {
 
     WidgetNode& style = addStyle(label);
     style.properties["நிறம்"] = text("#00FF00");
-    style.properties["அளவு"] = number("20");
+    style.properties["அளவு"] = numberOf("20");
     style.properties["எழுத்துரு"] = text("அ.ttf");
-    style.properties["தடிமன்"] = number("800");
+    style.properties["தடிமன்"] = numberOf("800");
     EXPECT_TRUE(writes("tr = 0; tg = 255; tb = 0; ta = 255;\n"));
     EXPECT_TRUE(writes("responsiveTextSize(20.000f, winWidth)"));
     EXPECT_TRUE(writes("\"800\",\n                  false, \"அ.ttf\");\n"));
@@ -107,7 +107,7 @@ TEST_F(ButtonText, EndsTheCompilationByAWeightThatIsNoNumber) {
 }
 
 TEST_F(ButtonText, TakesTheFirstLabelThatIsALiteral) {
-    addLabel("அ").properties["உரை"] = number("1");
+    addLabel("அ").properties["உரை"] = numberOf("1");
     addLabel("ஆ");
     addLabel("இ");
     button->properties["உரை"] = text("ஈ");
@@ -133,7 +133,7 @@ TEST_F(ButtonText, TakesTheStylesTextColourAfterItsLabels) {
 }
 
 TEST_F(ButtonText, HasABorderOfBothOrNone) {
-    button->properties["style_கரை_அளவு"] = number("2");
+    button->properties["style_கரை_அளவு"] = numberOf("2");
     EXPECT_FALSE(writes("nvgStroke(vg);"));
     button->properties["style_கரை_நிறம்"] = text("நீலம்");
     EXPECT_TRUE(writes("nvgStroke(vg);"));
