@@ -81,7 +81,7 @@ TEST_F(NativeBuild, TitleTakesTwentyMillisecondsAByte) {
     fakeCompiler("true");
     writeFileText(object, "");
     const auto start = std::chrono::steady_clock::now();
-    const ProcessResult run = compile({"./a.பொழில்"});
+    const ProcessResult run = compile({"./a.பொழில்"}, {"", withoutQuickTitle(), "", 60});
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
     EXPECT_EQ(run.out, kBanner + titleOf("./a.பொழில்"));
     const std::string colours = "\033[1;36m\033[0m\n";
