@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
-#include <set>
 
 namespace fs = std::filesystem;
 
@@ -16,6 +15,8 @@ std::string nameOf(const CaseFile& file) { return fs::u8path(file.source).filena
 bool namesItsSource(const CaseFile& file) {
     return readText(file.source).find(nameOf(file)) != std::string::npos;
 }
+
+}  // namespace
 
 std::set<std::string> testsToRun() {
     std::set<std::string> names;
@@ -29,8 +30,6 @@ std::set<std::string> testsToRun() {
     }
     return names;
 }
-
-}  // namespace
 
 std::vector<CaseFile> casesToRun(const std::vector<CaseFile>& cases) {
     const std::set<std::string> wanted = testsToRun();

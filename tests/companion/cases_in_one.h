@@ -4,13 +4,17 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "programs_in_one.h"
 #include "support/case_files.h"
 
-/// Those of which a test is to run: what a filter or a shard leaves out isn't built.
+/// The names of tests that neither a filter nor a shard leaves out. No other's program is built.
+std::set<std::string> testsToRun();
+
+/// The cases of those tests.
 std::vector<CaseFile> casesToRun(const std::vector<CaseFile>& cases);
 
 class CasesInOne {

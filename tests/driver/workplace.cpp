@@ -37,6 +37,12 @@ void writeFileText(const fs::path& path, const std::string& text) {
 
 void makeExecutable(const fs::path& path) { fs::permissions(path, static_cast<fs::perms>(0755)); }
 
+namespace {
+
+const char* const kQuickTitle = "libquick_title.so";
+
+}  // namespace
+
 Workplace::Workplace() {
     std::string pattern = (fs::temp_directory_path() / "pozhil driver XXXXXX").u8string();
     if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary directory");
@@ -57,6 +63,7 @@ Workplace::Workplace() {
         fs::copy_file(tree / "உள்ளடக்கம்" / header, home / "உள்ளடக்கம்" / header);
     }
     fs::create_directory_symlink(tree / "src", home / "src");
+    fs::copy_file(fs::u8path(POZHIL_BUILD_DIR) / "quick_title" / kQuickTitle, root / kQuickTitle);
 }
 
 Workplace::~Workplace() {
@@ -102,11 +109,18 @@ std::vector<std::string> Workplace::environment() const {
             "PATH=" + (root / "bin").u8string() + ":" + std::getenv("PATH")};
 }
 
+// By a name without a path, which could hold a blank.
+std::vector<std::string> Workplace::withQuickTitle(std::vector<std::string> environment) const {
+    environment.push_back("LD_LIBRARY_PATH=" + root.u8string());
+    environment.push_back(std::string("LD_PRELOAD=") + kQuickTitle);
+    return environment;
+}
+
 ProcessResult Workplace::compile(const std::vector<std::string>& arguments,
                                  ProcessOptions options) const {
     std::vector<std::string> command = {compiler.u8string()};
     command.insert(command.end(), arguments.begin(), arguments.end());
-    std::vector<std::string> settings = environment();
+    std::vector<std::string> settings = withQuickTitle(environment());
     settings.insert(settings.end(), options.environment.begin(), options.environment.end());
     options.environment = settings;
     options.directory = work.u8string();

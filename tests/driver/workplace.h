@@ -38,11 +38,18 @@ protected:
     /// The arguments of each call of the fake g++, each argument in square brackets.
     std::vector<std::string> compilerCalls() const;
 
+    /// Runs the compiler to its end, with a quick title.
     ProcessResult compile(const std::vector<std::string>& arguments,
                           ProcessOptions options = {}) const;
 
-    /// The environment that compile uses.
+    /// The environment that compile uses, but for what makes the title quick.
     std::vector<std::string> environment() const;
+
+    /// In it the compiler takes a tenth of a second for its title, which else takes two.
+    std::vector<std::string> withQuickTitle(std::vector<std::string> environment) const;
+
+    /// Added to that environment: the title takes the time that it takes a user.
+    static std::vector<std::string> withoutQuickTitle() { return {"LD_PRELOAD="}; }
 
     std::filesystem::path root;
     std::filesystem::path home;   ///< The compiler and its companions.

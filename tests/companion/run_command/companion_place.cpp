@@ -12,7 +12,7 @@ CompanionPlace::CompanionPlace() {
     executable = home / "பொழில்-துணை";
     fs::copy_file(fs::u8path(POZHIL_EXECUTABLE_DIR) / "பொழில்-துணை", executable);
     ownCache = root / "own cache";
-    settings = environment();
+    settings = withQuickTitle(environment());
     settings.push_back("XDG_CACHE_HOME=" + ownCache.u8string());
     writeFileText(object, "");
 }

@@ -1,5 +1,5 @@
 // The programs of the guide as users run them: each prints what the guide shows, stops with the
-// report or the words that it shows, or is refused so. The programs of a chapter are built as one.
+// report or the words that it shows, or is refused so. All are built as one.
 // POZHIL_REWRITE=1 writes outputs without typed text, reports, and what g++ says.
 #include "../document_programs.h"
 
@@ -8,9 +8,10 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <set>
 #include <sstream>
 
-#include "../../companion/programs_in_one.h"
+#include "../../companion/cases_in_one.h"
 #include "../transcript.h"
 #include "support/case_files.h"
 #include "support/generated_text.h"
@@ -26,7 +27,7 @@ void writeText(const std::string& path, const std::string& text) {
     std::ofstream(fs::u8path(path)) << text;
 }
 
-/// The report names the program by the name under which all of a chapter are built.
+/// The report names the program by the name under which all are built.
 std::string withOwnName(std::string text, const DocumentProgram& program) {
     const std::string common = kProgramName;
     for (std::size_t at = 0; (at = text.find(common, at)) != std::string::npos;) {
@@ -37,9 +38,14 @@ std::string withOwnName(std::string text, const DocumentProgram& program) {
     return text;
 }
 
+/// Where the copy of a chapter's folder stands.
+std::string chapterFolder(const std::string& chapter) {
+    return POZHIL_BUILD_DIR "/documents/" + chapter + "/";
+}
+
 /// A copy of a chapter's folder, with the module library where its programs look for it.
 std::string stagedChapter(const std::string& chapter) {
-    const std::string folder = POZHIL_BUILD_DIR "/documents/" + chapter + "/";
+    const std::string folder = chapterFolder(chapter);
     fs::remove_all(fs::u8path(folder));
     fs::create_directories(fs::u8path(folder));
     const auto options = fs::copy_options::recursive;
@@ -155,28 +161,77 @@ ProcessResult runThere(const ProgramsInOne& programs, int number, const Document
     return programs.run(number, typedInto(program), 60);
 }
 
-void expectChapter(const std::string& chapter) {
-    const std::string folder = stagedChapter(chapter);
-    ProgramsInOne together("documents_" + chapter);
-    std::map<int, DocumentProgram> running;
-    for (const DocumentProgram& program : documentPrograms(chapter)) {
-        // The browser's tests open applications; of one that is refused the report is shown.
-        if (program.isApplication() && !program.has(".report")) continue;
-        const ProcessResult translated = translate(program, folder);
-        if (translated.exitCode != 0) {
-            expectRefusal(program, translated);
-        } else if (program.has(".says")) {
-            expectWords(program, translated.out, folder);
-        } else if (program.has(".out") || program.has(".report") || program.has(".err") ||
-                   (isRewriting() && !program.has(".check") && !isImported(program))) {
-            const int number = together.add(readText(program.source), translated.out);
-            running.emplace(number, program);
+/// Whether the program is to run: refused ones aside, those of which something is shown.
+bool isRun(const DocumentProgram& program) {
+    return program.has(".out") || program.has(".report") || program.has(".err") ||
+           (isRewriting() && !program.has(".check") && !isImported(program));
+}
+
+/// The programs of all chapters that are asked for, translated and built together.
+class Guide {
+public:
+    struct Translated {
+        DocumentProgram program;
+        ProcessResult text;  ///< Or the refusal.
+        int number = -1;     ///< In the executable; -1 outside of it.
+    };
+
+    Guide() : together("documents_" + *chaptersToRun().begin()) {
+        for (const std::string& chapter : chaptersToRun()) {
+            const std::string folder = stagedChapter(chapter);
+            std::vector<Translated>& programs = chapters[chapter];
+            for (const DocumentProgram& program : documentPrograms(chapter)) {
+                // The browser's tests open applications; of one that is refused the report is
+                // shown.
+                if (program.isApplication() && !program.has(".report")) continue;
+                programs.push_back(translated(program, folder));
+            }
         }
+        complaint = together.build();
     }
-    ASSERT_EQ(running.empty() ? "" : together.build(), "");
-    for (const auto& [number, program] : running) {
-        expectRun(program, runThere(together, number, program));
-        if (program.has(".py")) expectSameFromPython(program, folder);
+
+    const std::vector<Translated>& programsOf(const std::string& chapter) const {
+        return chapters.at(chapter);
+    }
+
+    std::string complaint;
+    ProgramsInOne together;
+
+private:
+    static std::set<std::string> chaptersToRun() {
+        const std::set<std::string> wanted = testsToRun();
+        std::set<std::string> chosen;
+        for (const std::string& chapter : documentChapters()) {
+            if (wanted.count(chapter) != 0) chosen.insert(chapter);
+        }
+        return chosen;
+    }
+
+    Translated translated(const DocumentProgram& program, const std::string& folder) {
+        Translated result{program, translate(program, folder)};
+        if (result.text.exitCode == 0 && !program.has(".says") && isRun(program)) {
+            EXPECT_FALSE(together.meetsCommonName(result.text.out)) << program.source;
+            result.number = together.add(readText(program.source), result.text.out);
+        }
+        return result;
+    }
+
+    std::map<std::string, std::vector<Translated>> chapters;
+};
+
+void expectChapter(const std::string& chapter) {
+    static const Guide guide;
+    ASSERT_EQ(guide.complaint, "");
+    const std::string folder = chapterFolder(chapter);
+    for (const auto& [program, text, number] : guide.programsOf(chapter)) {
+        if (text.exitCode != 0) {
+            expectRefusal(program, text);
+        } else if (program.has(".says")) {
+            expectWords(program, text.out, folder);
+        } else if (number >= 0) {
+            expectRun(program, runThere(guide.together, number, program));
+            if (program.has(".py")) expectSameFromPython(program, folder);
+        }
     }
 }
 
