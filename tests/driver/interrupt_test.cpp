@@ -21,7 +21,7 @@ protected:
     LiveProcess start(const std::vector<std::string>& arguments) const {
         std::vector<std::string> command = {compiler.u8string()};
         command.insert(command.end(), arguments.begin(), arguments.end());
-        return {command, work, environment(), root};
+        return {command, work, withQuickTitle(environment()), root};
     }
 
     static void expectEndByInterrupt(LiveProcess& live) {
