@@ -26,9 +26,14 @@ protected:
 
     /// A run that writes its output to a folder of its own.
     std::unique_ptr<LiveProcess> start(const std::string& source, const std::string& notes) const {
+        return start(source, notes, withQuickTitle(environment()));
+    }
+
+    std::unique_ptr<LiveProcess> start(const std::string& source, const std::string& notes,
+                                       const std::vector<std::string>& settings) const {
         fs::create_directories(root / notes);
         const std::vector<std::string> command = {compiler.u8string(), source};
-        return std::make_unique<LiveProcess>(command, work, environment(), root / notes);
+        return std::make_unique<LiveProcess>(command, work, settings, root / notes);
     }
 
     /// Takes the turn as another run would; the descriptor is to be closed.
@@ -120,7 +125,7 @@ TEST_F(Turns, LongWaitIsSaidOnce) {
 
 TEST_F(Turns, NoneIsHeldDuringTheTitle) {
     fakeCompiler("echo ஓடியது");
-    const auto run = start("a.பொழில்", "notes");
+    const auto run = start("a.பொழில்", "notes", environment());
     ASSERT_TRUE(within(20, [&] { return run->out().find("✨") != std::string::npos; }));
     const int turn = takeTurn();
     writeFileText(cache / "generated.cpp", "இன்னொருவரின் உரை");

@@ -75,10 +75,24 @@ async function highlighterWith(engine) {
     return createHighlighterCore({engine, langs: [grammar], themes: [{name: 'plain', settings: [], fg: '#000000', bg: '#ffffff'}]});
 }
 
+/** The index in the text at which each byte stands that begins a letter, and that behind the last. */
+function indicesByByte(source) {
+    const indices = new Map();
+    let byte = 0;
+    let index = 0;
+    for (const letter of source) {
+        indices.set(byte, index);
+        byte += Buffer.byteLength(letter);
+        index += letter.length;
+    }
+    return indices.set(byte, index);
+}
+
 /** Pieces of `source` whose first or last letter lacks the scope of their kind. */
 function missed(found, source, pieces) {
     const bytes = Buffer.from(source);
-    const at = offset => bytes.subarray(0, offset).toString().length;
+    const indices = indicesByByte(source);
+    const at = offset => indices.get(offset);
     return pieces.filter(({kind, begin, end}) =>
         [at(begin), at(end) - 1].some(index => !found[index]?.some(name => name.startsWith(scopes[kind]))))
         .map(({kind, begin, end}) => `${kind}: ${bytes.subarray(begin, end)}`);

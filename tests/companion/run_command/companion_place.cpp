@@ -20,6 +20,8 @@ CompanionPlace::CompanionPlace() {
 void CompanionPlace::useRealCompiler() const {
     fs::copy_file(fs::u8path(POZHIL_BUILD_DIR) / "programs" / "error_handler_native_linux.o",
                   object, fs::copy_options::overwrite_existing);
+    const fs::path warmed = fs::u8path(POZHIL_ROOT "/உள்ளடக்கம்/nanovg");
+    if (fs::exists(warmed)) fs::create_directory_symlink(warmed, home / "உள்ளடக்கம்" / "nanovg");
 }
 
 ProcessResult CompanionPlace::companion(const std::vector<std::string>& arguments,
