@@ -141,11 +141,19 @@ const PropertyWords& possibleWords() {
     return all;
 }
 
+/// The rows of a widget, looked for once.
+const std::vector<const PropertyDescription*>& rowsOf(const std::string& widget) {
+    static std::map<std::string, std::vector<const PropertyDescription*>> known;
+    const auto [row, isNew] = known.try_emplace(widget);
+    if (isNew) row->second = companion::propertiesOf(widget);
+    return row->second;
+}
+
 /// A word with the style's prefix stands for the same word in any block of the widget, and
 /// `style_பின்னணி` for the button's own word too.
 bool hasDescription(const Shape& shape, const std::string& word) {
     const std::string plain = word.rfind("style_", 0) == 0 ? word.substr(6) : "";
-    const auto rows = companion::propertiesOf(shape.widget);
+    const auto& rows = rowsOf(shape.widget);
     return std::any_of(rows.begin(), rows.end(), [&](const PropertyDescription* row) {
         if (!plain.empty() && row->word == plain) return true;
         if (plain == "பின்னணி" && row->word == "பொபின்னணி") return true;
