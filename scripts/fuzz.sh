@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # fuzz.sh [SECONDS]: feeds scanner, parser and generator, then the companion, then the language server,
 # with made-up sources under the address and undefined-behaviour sanitizers, starting from the test
-# programs; each gets a third of the time. Tells how many inputs were tried; fails at the first crash, hang,
-# leak or broken promise and keeps the input that caused it in build/fuzz/findings.
+# programs; each gets a third of the time, as many at once as there are cores. Tells how many inputs were
+# tried; fails at a crash, hang, leak or broken promise and keeps the input that caused it in
+# build/fuzz/findings.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
 set -euo pipefail
 root=$(CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -29,12 +30,12 @@ find tests examples தொகுப்புகள் -name '*.பொழில�
 
 # An empty directory: an import that a made-up source names finds nothing there.
 empty=$(mktemp -d)
-log=$(mktemp)
-trap 'rm -rf "$empty" "$log"' EXIT
+logs=$(mktemp -d)
+trap 'rm -rf "$empty" "$logs"' EXIT
 
 # run_fuzzer NAME SECONDS: what takes two minutes hangs; a busy machine can need one for a second of work.
 run_fuzzer() {
-    local fuzzer status=0 tried
+    local fuzzer status=0 tried log="$logs/$1"
     fuzzer=$(find "$root/build/sanitize" -name "$1" -type f | head -n 1)
     (cd "$empty" && "$fuzzer" -max_total_time="$2" -timeout=120 -rss_limit_mb=4096 \
         -max_len=4096 -dict="$root/tests/fuzz/words.dict" -print_final_stats=1 \
@@ -51,6 +52,7 @@ run_fuzzer() {
 }
 
 third=$(((seconds + 2) / 3))
-for fuzzer in front_end_fuzzer companion_fuzzer language_server_fuzzer; do
-    run_fuzzer "$fuzzer" "$third"
-done
+export root empty logs corpus seeds findings
+export -f run_fuzzer refuse
+printf '%s\0' front_end_fuzzer companion_fuzzer language_server_fuzzer |
+    xargs -0 -P "$(nproc)" -I NAME bash -c 'set -euo pipefail; run_fuzzer NAME '"$third"
