@@ -21,6 +21,9 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::size_t kLarge = 20'000'000;
 constexpr int kSmallBuffer = 4096;
+/// Seconds: less than half of what a silent client is waited for, much more than a busy machine
+/// needs.
+constexpr double kAtOnce = 4;
 
 class DifficultClients : public ScratchDirectory {
 protected:
@@ -47,7 +50,7 @@ protected:
 TEST_F(DifficultClients, SilentOnesDelayNobody) {
     std::vector<Client> silent;
     for (int i = 0; i < 50; i++) silent.emplace_back(port);
-    for (int i = 0; i < 20; i++) EXPECT_TRUE(answersWithin(0.5));
+    for (int i = 0; i < 20; i++) EXPECT_TRUE(answersWithin(kAtOnce));
 }
 
 TEST_F(DifficultClients, ASilentOneMaySpeakUpLater) {
@@ -66,7 +69,7 @@ TEST_F(DifficultClients, SilentOnesAreDismissedInTheEnd) {
 TEST_F(DifficultClients, MoreSilentOnesThanThereIsRoomFor) {
     std::vector<Client> silent;
     for (int i = 0; i < 300; i++) silent.emplace_back(port);
-    EXPECT_TRUE(answersWithin(0.5));
+    EXPECT_TRUE(answersWithin(kAtOnce));
     EXPECT_EQ(silent.front().readToEnd(1), "");
     EXPECT_TRUE(silent.front().sawEnd()) << "the oldest had to go";
     ask(silent.back(), "/version");
@@ -75,7 +78,7 @@ TEST_F(DifficultClients, MoreSilentOnesThanThereIsRoomFor) {
 
 TEST_F(DifficultClients, HangUpBeforeAWord) {
     for (int i = 0; i < 50; i++) Client(port).connected();
-    EXPECT_TRUE(answersWithin(0.5));
+    EXPECT_TRUE(answersWithin(kAtOnce));
 }
 
 TEST_F(DifficultClients, HangUpInTheMiddleOfAFile) {
