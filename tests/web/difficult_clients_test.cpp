@@ -21,9 +21,9 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::size_t kLarge = 20'000'000;
 constexpr int kSmallBuffer = 4096;
-/// Seconds: less than half of what a silent client is waited for, much more than a busy machine
-/// needs.
-constexpr double kAtOnce = 4;
+/// Seconds: less than a silent client is waited for. Where many come at once the system itself asks
+/// again after one, three and seven.
+constexpr double kAtOnce = 8;
 
 class DifficultClients : public ScratchDirectory {
 protected:
