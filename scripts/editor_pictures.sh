@@ -8,8 +8,7 @@ cd "$root"
 . scripts/messages.sh
 # shellcheck source=scripts/photograph.sh
 . scripts/photograph.sh
-scripts/build_release.sh
-scripts/install_packages.sh aha chromium fonts-noto-core fonts-noto-mono imagemagick neovim tmux
+prepare_photographs neovim tmux
 
 work=$(mktemp -d)
 terminal=(tmux -L "pozhil-${work##*/}" -f /dev/null)

@@ -9,8 +9,7 @@ cd "$root"
 . scripts/messages.sh
 # shellcheck source=scripts/photograph.sh
 . scripts/photograph.sh
-scripts/build_release.sh
-scripts/install_packages.sh aha chromium fonts-noto-core fonts-noto-mono fonts-noto-color-emoji imagemagick
+prepare_photographs fonts-noto-color-emoji
 scripts/install_node_packages.sh site
 
 work=$(mktemp -d)

@@ -77,12 +77,7 @@ ProcessResult CasesInOne::run(const CaseFile& file, const std::string& input) co
     if (own != alone.end()) return own->second.run(input);
     const Place& place = places.at(file.name);
     ProcessResult ran = programs.run(place.number, input, 60, place.environment);
-    const std::string name = nameOf(file);
-    const std::string common = kProgramName;
-    for (std::size_t at = 0; (at = ran.out.find(common, at)) != std::string::npos;) {
-        ran.out.replace(at, common.size(), name);
-        at += name.size();
-    }
+    ran.out = withOwnName(std::move(ran.out), nameOf(file));
     return ran;
 }
 

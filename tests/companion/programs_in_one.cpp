@@ -85,6 +85,15 @@ std::set<std::string> namesAtFileScope(const std::string& text) {
 
 }  // namespace
 
+std::string withOwnName(std::string printed, const std::string& name) {
+    const std::string common = kProgramName;
+    for (std::size_t at = 0; (at = printed.find(common, at)) != std::string::npos;) {
+        printed.replace(at, common.size(), name);
+        at += name.size();
+    }
+    return printed;
+}
+
 ProcessResult runNativeCompiler(const std::vector<std::string>& arguments) {
     ProcessOptions options;
     options.timeoutSeconds = 200;

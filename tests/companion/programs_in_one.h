@@ -13,6 +13,9 @@
 /// The name under which the sources must be compiled, so that all texts begin alike.
 extern const char* const kProgramName;
 
+/// What such a program printed, with the name that its source really has.
+std::string withOwnName(std::string printed, const std::string& name);
+
 /// g++ with the options of every program, and messages in English with Tamil names as they are.
 ProcessResult runNativeCompiler(const std::vector<std::string>& arguments);
 

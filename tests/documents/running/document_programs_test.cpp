@@ -27,17 +27,6 @@ void writeText(const std::string& path, const std::string& text) {
     std::ofstream(fs::u8path(path)) << text;
 }
 
-/// The report names the program by the name under which all are built.
-std::string withOwnName(std::string text, const DocumentProgram& program) {
-    const std::string common = kProgramName;
-    for (std::size_t at = 0; (at = text.find(common, at)) != std::string::npos;) {
-        const std::string own = program.name + ".பொழில்";
-        text.replace(at, common.size(), own);
-        at += own.size();
-    }
-    return text;
-}
-
 /// Where the copy of a chapter's folder stands.
 std::string chapterFolder(const std::string& chapter) {
     return POZHIL_BUILD_DIR "/documents/" + chapter + "/";
@@ -77,7 +66,7 @@ void expectRefusal(const DocumentProgram& program, const ProcessResult& refused)
     // A program that the check alone explains needs no report.
     if (program.has(".check") && !program.has(".report")) return;
     EXPECT_TRUE(isRewriting() || program.has(".report")) << refused.out;
-    expectText(program, ".report", withOwnName(plainReport(refused.out), program));
+    expectText(program, ".report", withOwnName(plainReport(refused.out), program.name + ".பொழில்"));
 }
 
 /// What comes of each run may differ: then a pattern is held, and the shown run fits it too.
@@ -99,7 +88,7 @@ void expectOutput(const DocumentProgram& program, const std::string& printed) {
 
 void expectRun(const DocumentProgram& program, const ProcessResult& ran) {
     EXPECT_FALSE(ran.timedOut) << program.source;
-    const RunText text = splitAtReport(withOwnName(ran.out, program));
+    const RunText text = splitAtReport(withOwnName(ran.out, program.name + ".பொழில்"));
     if (ran.signal != 0) {
         EXPECT_TRUE(isRewriting() || program.has(".err")) << program.source << "\n" << ran.err;
         expectText(program, ".err", ran.err);
