@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
+#include <utility>
 
 namespace fs = std::filesystem;
 
