@@ -36,6 +36,15 @@ class QuietClient extends LanguageClient {
     }
 }
 
+/** Of a request that can't be written the library leaves the failure to nobody; it hears of the end by itself. */
+function keepWritesQuiet(stream) {
+    const write = stream.write.bind(stream);
+    stream.write = (...words) => {
+        const done = words.pop();
+        return write(...words, () => done());
+    };
+}
+
 class Companion {
     constructor() {
         this.status = vscode.languages.createLanguageStatusItem('pozhil.companion', selector);
@@ -114,6 +123,7 @@ class Companion {
     launch(command) {
         this.process = spawn(command, ['lsp']);
         this.process.on('error', () => this.failStart());
+        keepWritesQuiet(this.process.stdin);
         return this.process;
     }
 

@@ -14,6 +14,16 @@ const root = join(here, '../../..');
 const require = createRequire(import.meta.url);
 const {vscode, seen, fire, fileUri} = require('./stand_in.cjs');
 
+// A busy machine can come back to the extension when the process that it started is over.
+const processes = require('node:child_process');
+const {spawn} = processes;
+let pauseBehindStart = 0;  // milliseconds
+processes.spawn = (...words) => {
+    const child = spawn(...words);
+    if (pauseBehindStart) Atomics.wait(new Int32Array(new SharedArrayBuffer(4)), 0, 0, pauseBehindStart);
+    return child;
+};
+
 const load = Module._load;
 Module._load = (name, ...rest) => name === 'vscode' ? vscode : load(name, ...rest);
 const extension = require(join(root, 'editors/vscode/extension.js'));
@@ -133,6 +143,16 @@ test('one that never answers keeps nobody from setting another', async () => {
     seen.settings['pozhil.companion.path'] = companion;
     fire('settings', {affectsConfiguration: name => name === 'pozhil.companion.path'});
     await until('the other', () => /இயங்குகிறது/.test(seen.status.text));
+});
+
+test('one that has ended before it was asked is told once, in Tamil', async () => {
+    seen.settings['pozhil.companion.path'] = place('gone', 'pozhil-thunai', '#!/bin/sh\nexit 2\n');
+    pauseBehindStart = 500;
+    await activate();
+    pauseBehindStart = 0;
+    assert.equal(seen.warnings.length, 1);
+    assert.match(seen.warnings[0], /^பொழில்-துணை வேலை செய்யவில்லை/);
+    assert.deepEqual(seen.errors, []);
 });
 
 test('one that keeps ending is started a few times more, then left', async () => {
