@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# lint.sh [FILE...]: clang-tidy over the compiler's sources, or over the files named. All of them are
-# read in units of several files, as the build compiles them: most of the time goes into headers that
-# they share. The emitted text is left out: its rules are those of the generated programs.
+# lint.sh [FILE...]: clang-tidy over the compiler's sources, or over the files named. Nearly all of them are
+# read as one unit: most of the time goes into headers that they share. The emitted text is left out: its
+# rules are those of the generated programs.
 [ -n "${BASH_VERSION:-}" ] || exec bash "$0" "$@"
 set -euo pipefail
 CDPATH="" cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -30,9 +30,9 @@ tidy() {
 }
 
 sources() { find "$PWD/src" -name '*.cpp' -not -path '*/src/emitted/*' | sort; }
-units() { sed -n 's/.*"file": "\(.*\/Unity\/.*\)".*/\1/p' build/lint/compile_commands.json; }
-# The sources that the units are made of.
-united() { units | xargs -r -d '\n' sed -n 's/^#include "\(.*\)"$/\1/p' | sort; }
+unit() { sed -n 's/.*"file": "\(.*\/Unity\/.*\)".*/\1/p' build/lint/compile_commands.json; }
+# The sources that the unit is made of.
+united() { sed -n 's/^#include "\(.*\)"$/\1/p' "$1" | sort; }
 
 if [ $# -gt 0 ]; then
     prepare debug
@@ -40,6 +40,6 @@ if [ $# -gt 0 ]; then
     exit
 fi
 prepare lint
-mapfile -t together < <(units)
-mapfile -t apart < <(comm -23 <(sources) <(united))
-tidy lint "${together[@]}" "${apart[@]}"
+together=$(unit)
+mapfile -t apart < <(comm -23 <(sources) <(united "$together"))
+tidy lint "$together" "${apart[@]}"

@@ -7,7 +7,7 @@ namespace companion {
 
 namespace {
 
-bool isBlank(char byte) { return byte == ' ' || byte == '\t'; }
+bool isSpaceOrTab(char byte) { return byte == ' ' || byte == '\t'; }
 
 bool isMarkAt(std::string_view text, std::size_t at) {
     return at >= text.size() || isAsciiMark(static_cast<unsigned char>(text[at]));
@@ -26,7 +26,7 @@ std::optional<Correction> joinKeyword(const CompiledSource& compiled) {
     const std::string& text = compiled.source.text;
     const Range first = compiled.refused->range;
     std::size_t begin = first.end;
-    while (begin < text.size() && isBlank(text[begin])) begin++;
+    while (begin < text.size() && isSpaceOrTab(text[begin])) begin++;
     std::size_t end = begin;
     while (!isMarkAt(text, end)) end++;
     if (begin == first.end || end == begin) return std::nullopt;

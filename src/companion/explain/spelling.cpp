@@ -20,7 +20,7 @@ constexpr SoundRow kVowels[] = {
     {"எ", "e"}, {"ஏ", "e"}, {"ஐ", "ai"}, {"ஒ", "o"}, {"ஓ", "o"}, {"ஔ", "au"},
 };
 
-constexpr SoundRow kSigns[] = {
+constexpr SoundRow kSignSounds[] = {
     {"ா", "a"}, {"ி", "i"},  {"ீ", "i"},  {"ு", "u"}, {"ூ", "u"},  {"ெ", "e"},
     {"ே", "e"}, {"ை", "ai"}, {"ொ", "o"}, {"ோ", "o"}, {"ௌ", "au"}, {"்", ""},
 };
@@ -92,7 +92,7 @@ std::string soundOfTamil(std::string_view word, bool isFull) {
         isOpen = false;
     };
     for (const std::string_view letter : splitCodePoints(word)) {
-        if (const SoundRow* sign = soundRow(kSigns, letter, isFull)) {
+        if (const SoundRow* sign = soundRow(kSignSounds, letter, isFull)) {
             isOpen = false;
             sound += sign->sound;
             continue;
@@ -171,7 +171,7 @@ std::string consonantsOf(std::string_view sound) {
 
 SoundRows consonantSounds() { return {std::begin(kConsonants), std::end(kConsonants)}; }
 SoundRows vowelSounds() { return {std::begin(kVowels), std::end(kVowels)}; }
-SoundRows signSounds() { return {std::begin(kSigns), std::end(kSigns)}; }
+SoundRows signSounds() { return {std::begin(kSignSounds), std::end(kSignSounds)}; }
 SoundRows latinSounds() { return {std::begin(kLatin), std::end(kLatin)}; }
 
 int editDistance(std::string_view one, std::string_view other) {

@@ -7,7 +7,7 @@ namespace companion {
 
 namespace {
 
-constexpr std::size_t kDigits = 16;
+constexpr std::size_t kNameDigits = 16;
 constexpr std::string_view kHexadecimal = "0123456789abcdef";
 
 bool isPlain(char byte) {
@@ -23,7 +23,7 @@ std::string contentDigits(std::string_view content) {
     for (const char byte : content) {
         value = (value ^ static_cast<unsigned char>(byte)) * 0x100000001b3U;
     }
-    std::string digits(kDigits, '0');
+    std::string digits(kNameDigits, '0');
     for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit, value >>= 4U) {
         *digit = kHexadecimal[value & 0xFU];
     }
@@ -38,13 +38,14 @@ std::string contentName(std::string_view name, std::string_view content) {
 
 bool isContentName(std::string_view name) {
     const std::size_t ending = name.rfind('.');
-    if (ending == std::string_view::npos || ending <= kDigits + 1) return false;
-    const std::size_t digits = ending - kDigits;
+    if (ending == std::string_view::npos || ending <= kNameDigits + 1) return false;
+    const std::size_t digits = ending - kNameDigits;
     const auto arePlain = [](std::string_view part) {
         return !part.empty() && std::all_of(part.begin(), part.end(), isPlain);
     };
     return name[digits - 1] == '.' && arePlain(name.substr(0, digits - 1)) &&
-           name.substr(digits, kDigits).find_first_not_of(kHexadecimal) == std::string_view::npos &&
+           name.substr(digits, kNameDigits).find_first_not_of(kHexadecimal) ==
+               std::string_view::npos &&
            arePlain(name.substr(ending + 1));
 }
 

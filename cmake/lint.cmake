@@ -1,0 +1,15 @@
+# What clang-tidy reads, never built: nearly all sources as one unit. Each of its checks looks at every declaration
+# of the standard's headers, too, so that most of its time goes by the number of units. It asks that names in
+# unnamed namespaces differ between all files.
+set(linted_sources src/main.cpp)
+foreach(library IN ITEMS pozhil_unhurried pozhil_core pozhil_companion language_server
+                         companion_commands_table pozhil_reference pozhil_editors)
+    get_target_property(sources ${library} SOURCES)
+    list(FILTER sources INCLUDE REGEX "\\.cpp$")
+    list(APPEND linted_sources ${sources})
+endforeach()
+add_library(linted OBJECT EXCLUDE_FROM_ALL ${linted_sources})
+target_include_directories(linted PRIVATE src "உள்ளடக்கம்" "${CMAKE_BINARY_DIR}/generated")
+target_compile_definitions(linted PRIVATE "POZHIL_LIBRARY_DIR=\"${POZHIL_LIBRARY_DIR}\"")
+set_target_properties(linted PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 0
+    UNITY_BUILD_CODE_BEFORE_INCLUDE "// NOLINTNEXTLINE(bugprone-suspicious-include)")
