@@ -10,6 +10,5 @@ foreach(library IN ITEMS pozhil_unhurried pozhil_core pozhil_companion language_
 endforeach()
 add_library(linted OBJECT EXCLUDE_FROM_ALL ${linted_sources})
 target_include_directories(linted PRIVATE src "உள்ளடக்கம்" "${CMAKE_BINARY_DIR}/generated")
-target_compile_definitions(linted PRIVATE "POZHIL_LIBRARY_DIR=\"${POZHIL_LIBRARY_DIR}\"")
 set_target_properties(linted PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 0
     UNITY_BUILD_CODE_BEFORE_INCLUDE "// NOLINTNEXTLINE(bugprone-suspicious-include)")
