@@ -1,6 +1,7 @@
 #include "lexer/word_tables.h"
 
 #include <algorithm>
+#include <vector>
 
 // A later row with a key that stands already is passed over: the first wins.
 
@@ -239,6 +240,20 @@ const Words& allWords() {
     return words;
 }
 
+/// The words that have a kind of their own, sorted: those that begin alike stand together.
+const std::vector<std::string_view>& wordsOfAKind() {
+    static const std::vector<std::string_view> sorted = [] {
+        std::vector<std::string_view> words;
+        words.reserve(allWords().size());
+        for (const auto& [word, kind] : allWords()) {
+            if (kind != TokenType::IDENTIFIER) words.push_back(word);
+        }
+        std::sort(words.begin(), words.end());
+        return words;
+    }();
+    return sorted;
+}
+
 }  // namespace
 
 TokenType lookUpWord(std::string_view word) {
@@ -247,8 +262,7 @@ TokenType lookUpWord(std::string_view word) {
 }
 
 bool beginsLongerWord(std::string_view word) {
-    return std::any_of(allWords().begin(), allWords().end(), [&](const auto& row) {
-        return row.first.size() > word.size() && row.first.substr(0, word.size()) == word &&
-               row.second != TokenType::IDENTIFIER;
-    });
+    const std::vector<std::string_view>& words = wordsOfAKind();
+    const auto longer = std::upper_bound(words.begin(), words.end(), word);
+    return longer != words.end() && longer->substr(0, word.size()) == word;
 }

@@ -8,8 +8,7 @@ std::vector<Token> scan(const std::string& source) {
 
 Parsed parse(const std::string& source, const std::string& filename) {
     Parsed parsed;
-    const std::vector<Token> tokens = Lexer(source, filename).tokenize();
-    parsed.parser = std::make_unique<Parser>(tokens, source, filename);
+    parsed.parser = std::make_unique<Parser>(Lexer(source, filename).tokenize(), source, filename);
     parsed.program = parsed.parser->parse();
     return parsed;
 }

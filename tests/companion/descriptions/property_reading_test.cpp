@@ -7,6 +7,7 @@
 #include <cctype>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <regex>
 #include <set>
 
@@ -176,43 +177,6 @@ const Shape* shapeOf(std::string_view widget, std::string_view block) {
 
 // ---- Nothing else is read ----
 
-/// Looks for words that change what a shape becomes. All are written at once, and only where that
-/// shows something they are taken apart.
-class Suspects {
-public:
-    Suspects(const Shape& shape, std::string plain) : shape(shape), plain(std::move(plain)) {}
-
-    void lookFor(const PropertyWords& words, const char* value) {
-        if (words.empty()) return;
-        std::string items;
-        for (const std::string& word : words) items += itemText(word, value) + ", ";
-        const auto text = becomes(shape, items);
-        if (text == plain) return;
-        if (words.size() == 1) {
-            if (!text) refused.insert(words.front());
-            if (text && !isNoProperty(words.front(), value, *text)) read.insert(words.front());
-            return;
-        }
-        const auto middle = words.begin() + static_cast<std::ptrdiff_t>(words.size() / 2);
-        lookFor(PropertyWords(words.begin(), middle), value);
-        lookFor(PropertyWords(middle, words.end()), value);
-    }
-
-    std::set<std::string> refused;
-    std::set<std::string> read;
-
-private:
-    /// A word that is passed over, or that is a widget itself, changes what its value does, or it
-    /// alone.
-    bool isNoProperty(const std::string& word, const char* value, const std::string& text) const {
-        return text == becomes(shape, value) || text == becomes(shape, word) ||
-               text == becomes(shape, word + " " + value);
-    }
-
-    const Shape& shape;
-    std::string plain;
-};
-
 PropertyWords wordsWithout(const PropertyWords& words, const std::set<std::string>& others) {
     PropertyWords rest;
     std::copy_if(words.begin(), words.end(), std::back_inserter(rest),
@@ -220,23 +184,74 @@ PropertyWords wordsWithout(const PropertyWords& words, const std::set<std::strin
     return rest;
 }
 
-/// PropertyWords that are read in `shape` with a number or another value. `refusedBefore` are words
-/// that other shapes refuse: tried apart, they cost least.
-std::set<std::string> readWords(const Shape& shape, const std::string& plain,
-                                const PropertyWords& words, std::set<std::string>& refusedBefore) {
-    Suspects withNumber(shape, plain);
-    withNumber.lookFor(wordsWithout(words, refusedBefore), "37");
-    for (const std::string& word : words) {
-        if (refusedBefore.count(word) != 0) withNumber.lookFor({word}, "37");
+/// For each value the words that alone showed something in the last shape where they were tried.
+using Conspicuous = std::map<std::string, std::set<std::string>>;
+
+/// Looks for words that change what a shape becomes. All are written at once, and only where that
+/// shows something they are taken apart.
+class Suspects {
+public:
+    Suspects(const Shape& shape, std::string plain, const char* value)
+        : shape(shape), plain(std::move(plain)), value(value) {}
+
+    /// `before` are words that most likely show something here too: tried apart, they cost least.
+    void lookFor(const PropertyWords& words, std::set<std::string>& before) {
+        takeApart(wordsWithout(words, before));
+        for (const std::string& word : words) {
+            if (before.count(word) != 0) takeApart({word});
+        }
+        for (const std::string& word : words) before.erase(word);
+        before.insert(shown.begin(), shown.end());
     }
-    refusedBefore.insert(withNumber.refused.begin(), withNumber.refused.end());
+
+    std::set<std::string> refused;
+    std::set<std::string> read;
+
+private:
+    void takeApart(const PropertyWords& words) {
+        if (words.empty()) return;
+        std::string items;
+        for (const std::string& word : words) items += itemText(word, value) + ", ";
+        const auto text = becomes(shape, items);
+        if (text == plain) return;
+        if (words.size() == 1) {
+            shown.insert(words.front());
+            if (!text) refused.insert(words.front());
+            if (text && !isNoProperty(words.front(), *text)) read.insert(words.front());
+            return;
+        }
+        const auto middle = words.begin() + static_cast<std::ptrdiff_t>(words.size() / 2);
+        takeApart(PropertyWords(words.begin(), middle));
+        takeApart(PropertyWords(middle, words.end()));
+    }
+
+    /// A word that is passed over, or that is a widget itself, changes what its value does, or it
+    /// alone.
+    bool isNoProperty(const std::string& word, const std::string& text) {
+        if (!valueAlone) valueAlone = becomes(shape, value);
+        return text == *valueAlone || text == becomes(shape, word) ||
+               text == becomes(shape, word + " " + value);
+    }
+
+    const Shape& shape;
+    std::string plain;
+    const char* value;
+    std::set<std::string> shown;
+    std::optional<std::optional<std::string>> valueAlone;  ///< Once it was asked for.
+};
+
+/// Words that are read in `shape` with a number or another value.
+std::set<std::string> readWords(const Shape& shape, const std::string& plain,
+                                const PropertyWords& words, Conspicuous& before) {
+    Suspects withNumber(shape, plain, "37");
+    withNumber.lookFor(words, before["37"]);
 
     std::set<std::string> read = withNumber.read;
     const PropertyWords writable = wordsWithout(words, withNumber.refused);
     for (const char* value : {"\"அம்மா\"", "\"#123456\"", "மெய்", "மையம்", "[\"அ\"]", "உரை(\"கா\")"}) {
         if (!becomes(shape, itemText("வேறுசொல்", value))) continue;  // nothing takes such a value
-        Suspects suspects(shape, plain);
-        suspects.lookFor(writable, value);
+        Suspects suspects(shape, plain, value);
+        suspects.lookFor(writable, before[value]);
         read.insert(suspects.read.begin(), suspects.read.end());
     }
     return read;
@@ -252,7 +267,7 @@ TEST(Properties, AreLookedForInEveryWidget) {
 }
 
 TEST(Properties, HoldWhateverAWidgetReads) {
-    std::set<std::string> refusedBefore;
+    Conspicuous before;
     EXPECT_GT(possibleWords().size(), 120U);
     for (const Shape& shape : allShapes()) {
         const auto plain = becomes(shape, "");
@@ -265,7 +280,7 @@ TEST(Properties, HoldWhateverAWidgetReads) {
         for (const std::string& word : possibleWords()) {
             if (!hasDescription(shape, word) && !isUndescribed(shape, word)) open.push_back(word);
         }
-        for (const std::string& word : readWords(shape, *plain, open, refusedBefore)) {
+        for (const std::string& word : readWords(shape, *plain, open, before)) {
             ADD_FAILURE() << shape.widget << " " << shape.block << ": " << word;
         }
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <unordered_map>
 #include <utility>
 
 #include "emitted/widgets/stand_in/nanovg.h"
@@ -33,6 +34,26 @@ std::string withoutBraces(const std::string& code) {
     const std::size_t begin = code.find_first_not_of(' ', 1);
     const std::size_t end = code.find_last_not_of(' ', code.size() - 2);
     return begin > end ? "" : code.substr(begin, end - begin + 1);
+}
+
+/// What a script's text tells of it.
+struct ScriptFacts {
+    std::string body;
+    std::string name;  ///< "" if it is recorded by its body
+    int arguments = 0;
+};
+
+ScriptFacts readScript(const std::string& code) {
+    const std::string body = withoutBraces(code);
+    return {body, nameOfScript(body), greatestPlace(body) + 1};
+}
+
+/// Found out once: the same few scripts are run in each frame.
+const ScriptFacts& factsOf(const std::string& code) {
+    static std::unordered_map<std::string, ScriptFacts> known;
+    const auto [row, isNew] = known.try_emplace(code);
+    if (isNew) row->second = readScript(code);
+    return row->second;
 }
 
 }  // namespace
@@ -77,19 +98,19 @@ double record(const std::string& name, const Arguments& arguments) {
 }
 
 double script(const char* code, const Arguments& arguments) {
-    const std::string body = withoutBraces(code);
-    if (greatestPlace(body) + 1 != static_cast<int>(arguments.size())) {
-        note("a script with " + std::to_string(arguments.size()) + " arguments: " + body);
+    const ScriptFacts& facts = factsOf(code);
+    if (facts.arguments != static_cast<int>(arguments.size())) {
+        note("a script with " + std::to_string(arguments.size()) + " arguments: " + facts.body);
         return 0;
     }
-    const std::string name = nameOfScript(body);
-    if (!name.empty()) {
-        note(name + argumentText(arguments));
+    const std::string& shown = facts.name.empty() ? facts.body : facts.name;
+    if (!facts.name.empty()) {
+        note(shown + argumentText(arguments));
     } else {
-        note(arguments.empty() ? body : body + " " + argumentText(arguments));
+        note(arguments.empty() ? shown : shown + " " + argumentText(arguments));
     }
-    const auto value = runWindowScript(body, arguments, recording().window);
-    return value ? *value : answer(name.empty() ? body : name, arguments);
+    const auto value = runWindowScript(facts.body, arguments, recording().window);
+    return value ? *value : answer(shown, arguments);
 }
 
 std::vector<std::string>& bound() {

@@ -5,6 +5,8 @@
 //   single = ["-"] (number | $N | place)          place = window.FIELD | NAME
 #include <cctype>
 #include <cstdlib>
+#include <string_view>
+#include <unordered_map>
 #include <utility>
 
 #include "emitted/widgets/recording.h"
@@ -16,13 +18,13 @@ namespace {
 struct NotUnderstood {};
 
 std::size_t signLength(const std::string& code, std::size_t at) {
-    for (const std::string sign : {"+=", "||", "!=="}) {
+    for (const std::string_view sign : {"+=", "||", "!=="}) {
         if (code.compare(at, sign.size(), sign) == 0) return sign.size();
     }
     return 1;
 }
 
-std::vector<std::string> tokensOf(const std::string& code) {
+std::vector<std::string> cutIntoTokens(const std::string& code) {
     const auto isWordByte = [](char byte) {
         return std::isalnum(static_cast<unsigned char>(byte)) != 0 || byte == '_' || byte == '.' ||
                byte == '$';
@@ -38,12 +40,21 @@ std::vector<std::string> tokensOf(const std::string& code) {
     return tokens;
 }
 
+/// The same few scripts are run in each frame.
+const std::vector<std::string>& tokensOf(const std::string& code) {
+    static std::unordered_map<std::string, std::vector<std::string>> known;
+    const auto [row, isNew] = known.try_emplace(code);
+    if (isNew) row->second = cutIntoTokens(code);
+    return row->second;
+}
+
 class WindowScript {
 public:
     using Fields = std::map<std::string, double>;
 
-    WindowScript(std::vector<std::string> tokens, const Arguments& arguments, const Fields& window)
-        : window(window), tokens(std::move(tokens)), arguments(arguments) {}
+    WindowScript(const std::vector<std::string>& tokens, const Arguments& arguments,
+                 const Fields& window)
+        : window(window), tokens(tokens), arguments(arguments) {}
 
     /// The value that is returned; 0 if none is. Throws NotUnderstood.
     double run() {
@@ -64,13 +75,13 @@ private:
         return tokens[at];
     }
 
-    bool takes(const std::string& token) {
+    bool takes(std::string_view token) {
         if (peek() != token) return false;
         at++;
         return true;
     }
 
-    void expect(const std::string& token) {
+    void expect(std::string_view token) {
         if (!takes(token)) throw NotUnderstood();
     }
 
@@ -159,7 +170,7 @@ private:
         return {isField ? window : locals, name};
     }
 
-    std::vector<std::string> tokens;
+    const std::vector<std::string>& tokens;
     std::size_t at = 0;
     const Arguments& arguments;
     Fields locals;

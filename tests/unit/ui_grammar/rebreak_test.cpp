@@ -51,9 +51,10 @@ TEST(Rebreaking, KeepsTheTree) {
     ASSERT_GE(sources.size(), 4U);
     for (const std::string& source : sources) {
         const std::string shape = shapeOf(source);
+        const std::vector<Token> tokens = scan(source);
         std::set<std::string> layouts;
         for (unsigned seed = 1; seed <= kSeeds; seed++) {
-            const std::string broken = Rebreaker(source, seed).text();
+            const std::string broken = Rebreaker(tokens, seed).text();
             layouts.insert(broken);
             try {
                 ASSERT_EQ(shapeOf(broken), shape) << broken;

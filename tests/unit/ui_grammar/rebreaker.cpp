@@ -4,10 +4,9 @@
 #include <stdexcept>
 
 #include "parser/token_predicates.h"
-#include "support/front_end.h"
 
-Rebreaker::Rebreaker(const std::string& source, unsigned seed)
-    : tokens(scan(source)), last(tokens.size() - 1), random(seed) {}
+Rebreaker::Rebreaker(const std::vector<Token>& tokens, unsigned seed)
+    : tokens(tokens), last(tokens.size() - 1), random(seed) {}
 
 bool Rebreaker::isLayout(const Token& token) const {
     return token.type == TokenType::NEWLINE || token.type == TokenType::INDENT ||

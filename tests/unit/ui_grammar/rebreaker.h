@@ -10,8 +10,8 @@
 
 class Rebreaker {
 public:
-    /// The same seed gives the same text.
-    Rebreaker(const std::string& source, unsigned seed);
+    /// The same seed gives the same text. The tokens of the screen have to outlive this.
+    Rebreaker(const std::vector<Token>& tokens, unsigned seed);
     std::string text();
 
 private:
@@ -47,7 +47,7 @@ private:
     static bool isAlignmentOfABox(const Level& level);
     void open(const Token& token);
 
-    std::vector<Token> tokens;
+    const std::vector<Token>& tokens;
     std::size_t last;
     std::size_t at = 0;
     std::mt19937 random;
