@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <regex>
 #include <set>
 #include <sstream>
 
@@ -14,6 +13,7 @@
 #include "companion/check/names_uses.h"
 #include "lexer/word_tables.h"
 #include "support/case_files.h"
+#include "support/pattern.h"
 
 namespace {
 
@@ -54,12 +54,11 @@ TEST(Letters, FindTheNearestName) {
 
 /// The names in the compiler's own table.
 std::set<std::string> compilersBuiltins() {
-    const std::regex row("^    \\{\"([^\"]+)\", (exactly|kOptional|kAny)");
+    const Pattern row("^    \\{\"([^\"]+)\", (exactly|kOptional|kAny)");
     std::ifstream file(POZHIL_ROOT "/src/generator/builtins.cpp");
     std::set<std::string> names;
     for (std::string line; std::getline(file, line);) {
-        std::smatch match;
-        if (std::regex_search(line, match, row)) names.insert(match[1]);
+        if (const auto match = row.first(line)) names.insert((*match)[1]);
     }
     return names;
 }
@@ -156,14 +155,14 @@ TEST(InputMembers, AreThoseOfTheCompiler) {
     for (const char* member : {"வெறுமை", "நீளம்", "உரைதரவு", "சுத்தம்"}) {
         EXPECT_TRUE(companion::isInputMember(member)) << member;
     }
-    const std::regex row("^    \\{\"([^\"]+)\", ?\"?[^}]*g_input|^    \\{\"([^\"]+)\",$");
+    const Pattern row("^    \\{\"([^\"]+)\", ?\"?[^}]*g_input|^    \\{\"([^\"]+)\",$");
     int found = 0;
     for (const char* path : {"/src/generator/access.cpp", "/src/generator/calls.cpp"}) {
         std::ifstream file(std::string(POZHIL_ROOT) + path);
         for (std::string line; std::getline(file, line);) {
-            std::smatch match;
-            if (!std::regex_search(line, match, row)) continue;
-            const std::string member = match[1].matched ? match[1] : match[2];
+            const auto match = row.first(line);
+            if (!match) continue;
+            const std::string member = (*match)[1] + (*match)[2];  // one of them is empty
             EXPECT_TRUE(companion::isInputMember(member)) << member;
             found++;
         }

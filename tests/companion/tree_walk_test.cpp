@@ -7,11 +7,11 @@
 
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <set>
 #include <sstream>
 
 #include "companion/check/compiled_source.h"
+#include "support/pattern.h"
 #include "support/tree_printer.h"
 #include "unit/generator/walked_forms.h"
 
@@ -32,13 +32,12 @@ std::set<std::string> classNames(const std::vector<std::type_index>& classes) {
 
 /// The names of all structures of the tree that derive from `base` at once.
 std::set<std::string> classesOf(const std::string& base) {
-    const std::regex heading("struct (\\w+)(?: final)? : " + base + " ");
+    const Pattern heading("struct (\\w+)(?: final)? : " + base + " ");
     std::set<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(POZHIL_ROOT "/src/syntax")) {
         std::ifstream file(entry.path());
         for (std::string line; std::getline(file, line);) {
-            std::smatch match;
-            if (std::regex_search(line, match, heading)) names.insert(match[1]);
+            if (const auto match = heading.first(line)) names.insert((*match)[1]);
         }
     }
     return names;

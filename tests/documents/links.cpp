@@ -1,7 +1,8 @@
 #include "links.h"
 
-#include <regex>
 #include <sstream>
+
+#include "support/pattern.h"
 
 namespace {
 
@@ -44,8 +45,8 @@ std::string slug(const std::string& heading) {
             name += '-';
         }
     }
-    static const std::regex signs("…|–|—|→|‘|’|“|”|⋯|⌨");
-    return std::regex_replace(name, signs, "");
+    static const Pattern signs("…|–|—|→|‘|’|“|”|⋯|⌨");
+    return signs.replaced(name, "");
 }
 
 bool holds(const std::string& line, const char* text) {
@@ -60,25 +61,22 @@ bool mayHoldLink(const std::string& line) {
 }  // namespace
 
 std::vector<Link> linksOf(const std::string& pageText) {
-    static const std::regex form(R"(\]\(<?([^)>\s]+)>?\))");
-    static const std::regex attribute(R"((?:src|href)=\"([^\"]+)\")");
-    static const std::regex code("`[^`]*`");
+    static const Pattern form(R"(\]\(<?([^)>\s]+)>?\))");
+    static const Pattern attribute(R"((?:src|href)=\"([^\"]+)\")");
+    static const Pattern code("`[^`]*`");
     std::vector<Link> links;
     eachLine(pageText, [&](const std::string& line, int number) {
         if (!mayHoldLink(line)) return;
-        const std::string text = std::regex_replace(line, code, "");
-        for (const std::regex& each : {form, attribute}) {
-            for (std::sregex_iterator match(text.begin(), text.end(), each), end; match != end;
-                 ++match) {
-                links.push_back({number, decoded((*match)[1])});
-            }
+        const std::string text = code.replaced(line, "");
+        for (const Pattern& each : {form, attribute}) {
+            for (const Match& match : each.all(text)) links.push_back({number, decoded(match[1])});
         }
     });
     return links;
 }
 
 std::set<std::string> anchorsOf(const std::string& pageText) {
-    static const std::regex id(R"(<a (?:id|name)=\"([^\"]+)\")");
+    static const Pattern id(R"(<a (?:id|name)=\"([^\"]+)\")");
     std::set<std::string> anchors;
     eachLine(pageText, [&](const std::string& line, int) {
         const std::size_t marks = line.find_first_not_of('#');
@@ -86,9 +84,7 @@ std::set<std::string> anchorsOf(const std::string& pageText) {
             anchors.insert(slug(line.substr(marks + 1)));
         }
         if (!holds(line, "<a ")) return;
-        for (std::sregex_iterator match(line.begin(), line.end(), id), end; match != end; ++match) {
-            anchors.insert((*match)[1]);
-        }
+        for (const Match& match : id.all(line)) anchors.insert(match[1]);
     });
     return anchors;
 }

@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <set>
 #include <sstream>
 
@@ -25,6 +24,7 @@
 #include "lexer/word_tables.h"
 #include "links.h"
 #include "support/case_files.h"
+#include "support/pattern.h"
 #include "syntax/alignment.h"
 #include "ui/colours.h"
 #include "ui/widget_frame.h"
@@ -89,12 +89,9 @@ std::set<std::string> wordsWithAPage() {
 }
 
 std::set<std::string> curvesOfPrograms() {
-    static const std::regex row("\\{\"([^\"]+)\",");
-    const std::string text(emitted::animation);
+    static const Pattern row("\\{\"([^\"]+)\",");
     std::set<std::string> curves;
-    for (std::sregex_iterator match(text.begin(), text.end(), row), end; match != end; ++match) {
-        curves.insert((*match)[1]);
-    }
+    for (const Match& match : row.all(std::string(emitted::animation))) curves.insert(match[1]);
     return curves;
 }
 
@@ -246,17 +243,14 @@ TEST(Reference, DrawsCurvesAsProgramsMove) {
 }
 
 TEST(Reference, TellsOfEachSettingThatIsRead) {
-    static const std::regex reading("(?:getenv|settingOf)\\(\"([A-Z_]+)\"\\)");
+    static const Pattern reading("(?:getenv|settingOf)\\(\"([A-Z_]+)\"\\)");
     const std::string& page = textOf(pages::kCommands);
     std::set<std::string> settings;
     for (const auto& entry : fs::recursive_directory_iterator(fs::u8path(POZHIL_ROOT "/src"))) {
         if (entry.path().extension() != ".cpp") continue;
         const std::string text = readText(entry.path().u8string());
         if (text.find("getenv") == std::string::npos) continue;
-        for (std::sregex_iterator match(text.begin(), text.end(), reading), end; match != end;
-             ++match) {
-            settings.insert((*match)[1]);
-        }
+        for (const Match& match : reading.all(text)) settings.insert(match[1]);
     }
     for (const std::string& setting : settings) {
         EXPECT_NE(page.find("| `" + setting + "` |"), std::string::npos) << setting;
@@ -265,14 +259,14 @@ TEST(Reference, TellsOfEachSettingThatIsRead) {
 }
 
 TEST(Reference, TellsOfCommandsAndOfScriptsThatAreThere) {
-    static const std::regex script("`(scripts/[^`]+)`");
+    static const Pattern script("`(scripts/[^`]+)`");
     const std::string& page = textOf(pages::kCommands);
     for (const companion::Command& command : companion::commands()) {
         EXPECT_NE(page.find(std::string("| `") + command.name + "` |"), std::string::npos);
     }
     int count = 0;
-    for (std::sregex_iterator match(page.begin(), page.end(), script), end; match != end; ++match) {
-        EXPECT_TRUE(fs::exists(fs::u8path(POZHIL_ROOT) / (*match)[1].str())) << (*match)[1];
+    for (const Match& match : script.all(page)) {
+        EXPECT_TRUE(fs::exists(fs::u8path(POZHIL_ROOT) / match[1])) << match[1];
         count++;
     }
     EXPECT_GT(count, 3);
@@ -325,16 +319,16 @@ std::set<std::string> linesOfProse() {
 }
 
 TEST(ReferenceMarkdown, HoldsNoOtherTagsThanAnchors) {
-    static const std::regex spans("`[^`]*`|<a id=\"[^\"]+\"></a>");
+    static const Pattern spans("`[^`]*`|<a id=\"[^\"]+\"></a>");
     for (const std::string& line : linesOfProse()) {
-        EXPECT_EQ(std::regex_replace(line, spans, "").find('<'), std::string::npos) << line;
+        EXPECT_EQ(spans.replaced(line, "").find('<'), std::string::npos) << line;
     }
 }
 
 TEST(ReferenceMarkdown, BeginsNoProseWithASignOfMarkup) {
-    static const std::regex opening("^(?:[+>=]|\\*(?!\\*)|-[^ ]|[0-9]+[.)]).*");
+    static const Pattern opening("^(?:[+>=]|\\*(?!\\*)|-[^ ]|[0-9]+[.)]).*");
     for (const std::string& line : linesOfProse()) {
-        EXPECT_FALSE(std::regex_match(line, opening)) << line;
+        EXPECT_FALSE(opening.isWhole(line)) << line;
     }
 }
 

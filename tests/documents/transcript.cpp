@@ -1,8 +1,8 @@
 #include "transcript.h"
 
-#include <regex>
 #include <sstream>
 
+#include "support/pattern.h"
 #include "support/saying.h"
 
 namespace {
@@ -11,8 +11,8 @@ const std::string kTyped = "⌨ ";
 const std::string kAnything = "⋯";
 
 std::string withoutColours(const std::string& text) {
-    static const std::regex colour("\033\\[[0-9;]*m");
-    return std::regex_replace(text, colour, "");
+    static const Pattern colour("\033\\[[0-9;]*m");
+    return colour.replaced(text, "");
 }
 
 std::string withoutEmptyLinesAround(const std::string& text) {
@@ -74,11 +74,11 @@ std::string plainReport(const std::string& report) {
 }
 
 RunText splitAtReport(const std::string& output) {
-    static const std::regex opening("\033\\[1;31m-+\033\\[0m\n  🚨 \\[ ");
-    std::smatch match;
-    if (!std::regex_search(output, match, opening)) return {output, ""};
-    std::string printed = output.substr(0, static_cast<std::size_t>(match.position()));
+    static const Pattern opening("\033\\[1;31m-+\033\\[0m\n  🚨 \\[ ");
+    const auto match = opening.first(output);
+    if (!match) return {output, ""};
+    std::string printed = output.substr(0, match->position);
     while (!printed.empty() && printed.back() == '\n') printed.pop_back();
     if (!printed.empty()) printed += '\n';
-    return {printed, plainReport(output.substr(static_cast<std::size_t>(match.position())))};
+    return {printed, plainReport(output.substr(match->position))};
 }

@@ -3,9 +3,9 @@
 #include <unistd.h>
 
 #include <fstream>
-#include <regex>
 
 #include "driver/workplace.h"
+#include "support/pattern.h"
 
 namespace fs = std::filesystem;
 
@@ -191,10 +191,10 @@ TEST(Scripts, ConfigureInOnePlace) {
 TEST(Scripts, NamedInTheDocumentsCanBeStarted) {
     const std::string documents = readFileText(fs::u8path(POZHIL_ROOT) / "README.md") +
                                   readFileText(fs::u8path(POZHIL_ROOT) / "CONTRIBUTING.md");
-    const std::regex name("scripts/[a-z_]+\\.sh");
+    const Pattern name("scripts/[a-z_]+\\.sh");
     int found = 0;
-    for (std::sregex_iterator i(documents.begin(), documents.end(), name), end; i != end; ++i) {
-        const fs::path script = fs::u8path(POZHIL_ROOT) / i->str();
+    for (const Match& match : name.all(documents)) {
+        const fs::path script = fs::u8path(POZHIL_ROOT) / match[0];
         EXPECT_EQ(access(script.c_str(), X_OK), 0) << script;
         EXPECT_NE(fs::status(script).permissions() & fs::perms::others_exec, fs::perms::none)
             << script;

@@ -1,10 +1,9 @@
 // The steps of the tests' script: what they count and tell, also of those that run aside.
 #include <sys/wait.h>
 
-#include <regex>
-
 #include "driver/live_process.h"
 #include "driver/workplace.h"
+#include "support/pattern.h"
 
 namespace fs = std::filesystem;
 
@@ -42,8 +41,7 @@ TEST_F(StepsScript, CountStepsAsideAndTellHowLongEachTook) {
             "summary");
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_TRUE(shows(result.out, "✗ d\n✗ b\n4 passed, 2 failed, 3 skipped\n")) << result.out;
-    EXPECT_TRUE(std::regex_search(result.out, std::regex("\n *[1-9]\\d* s +0\\.\\d s  first\n")))
-        << result.out;
+    EXPECT_TRUE(Pattern("\n *[1-9]\\d* s +0\\.\\d s  first\n").isIn(result.out)) << result.out;
     for (const char* row :
          {" s  first\n", " s  c\n", " s  d\n", " s  a (", " s  b (", " s  last\n"}) {
         EXPECT_TRUE(shows(result.out, row)) << row << result.out;
@@ -52,9 +50,8 @@ TEST_F(StepsScript, CountStepsAsideAndTellHowLongEachTook) {
 
 /// Tenths of a second of processor time in the row of that step.
 int processorTime(const std::string& printed, const std::string& row) {
-    std::smatch found;
-    if (!std::regex_search(printed, found, std::regex("(\\d+)\\.(\\d) s  " + row))) return -1;
-    return 10 * std::stoi(found[1]) + std::stoi(found[2]);
+    const auto found = Pattern("(\\d+)\\.(\\d) s  " + row).first(printed);
+    return found ? 10 * std::stoi((*found)[1]) + std::stoi((*found)[2]) : -1;
 }
 
 TEST_F(StepsScript, TellTheProcessorTimeOfEachAndOfAll) {
@@ -69,9 +66,9 @@ TEST_F(StepsScript, TellTheProcessorTimeOfEachAndOfAll) {
     EXPECT_GE(aside, 4) << result.out;
     EXPECT_LE(processorTime(result.out, "waiting"), 2) << result.out;
     EXPECT_LE(processorTime(result.out, "others"), 2) << result.out;
-    std::smatch all;
-    ASSERT_TRUE(std::regex_search(result.out, all, std::regex("செயலிகளில் (\\d+)\\.(\\d):")));
-    EXPECT_GE(10 * std::stoi(all[1]) + std::stoi(all[2]), first + aside) << result.out;
+    const auto all = Pattern("செயலிகளில் (\\d+)\\.(\\d):").first(result.out);
+    ASSERT_TRUE(all);
+    EXPECT_GE(10 * std::stoi((*all)[1]) + std::stoi((*all)[2]), first + aside) << result.out;
 }
 
 TEST_F(StepsScript, AllThatPassedIsASuccess) {

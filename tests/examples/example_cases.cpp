@@ -8,11 +8,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <regex>
 #include <sstream>
 
 #include "companion/cases_in_one.h"
 #include "staging.h"
+#include "support/pattern.h"
 
 namespace fs = std::filesystem;
 
@@ -32,9 +32,9 @@ std::string readOptional(const fs::path& path) {
 std::string masked(std::string text, const fs::path& maskFile) {
     std::istringstream expressions(readOptional(maskFile));
     for (std::string line; std::getline(expressions, line);) {
-        const std::regex expression(line);
-        EXPECT_TRUE(std::regex_search(text, expression)) << "nothing to mask: " << line;
-        text = std::regex_replace(text, expression, "…");
+        const Pattern expression(line);
+        EXPECT_TRUE(expression.isIn(text)) << "nothing to mask: " << line;
+        text = expression.replaced(text, "…");
     }
     return text;
 }

@@ -1,10 +1,10 @@
 // The page template that stands beside the compiler.
 #include <fstream>
 #include <iterator>
-#include <regex>
 
 #include "driver/page.h"
 #include "gtest/gtest.h"
+#include "support/pattern.h"
 
 namespace {
 
@@ -43,13 +43,13 @@ TEST(Template, SpeaksTamilAndReachesNothingOutside) {
     EXPECT_EQ(count(page, "<html lang=\"ta\">"), 1);
     EXPECT_EQ(count(page, "<meta charset=\"utf-8\">"), 1);
     EXPECT_EQ(count(page, "name=\"viewport\""), 1);
-    EXPECT_FALSE(std::regex_search(page, std::regex("(https?:)?//[a-z0-9.-]+\\.[a-z]")));
+    EXPECT_FALSE(Pattern("(https?:)?//[a-z0-9.-]+\\.[a-z]").isIn(page));
 }
 
 /// The open page finds the number of the page that is served by its last such line.
 TEST(Template, NamesTheNumberOfItsBuildLast) {
     const std::string line = "let currentVersion = ";
-    EXPECT_FALSE(std::regex_search(templateText(), std::regex(line + "[0-9]")));
+    EXPECT_FALSE(Pattern(line + "[0-9]").isIn(templateText()));
     const std::string page = assemblePage(templateText(), {line + "9;", "", line + "8;"}, 7);
     EXPECT_EQ(page.substr(page.rfind(line), line.size() + 2), line + "7;");
 }

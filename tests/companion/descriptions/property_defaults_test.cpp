@@ -2,11 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <regex>
 #include <sstream>
 
 #include "companion/descriptions/properties_of.h"
 #include "companion/descriptions/widget_probe.h"
+#include "support/pattern.h"
 
 namespace {
 
@@ -18,15 +18,13 @@ using KnownNumbers = std::map<std::string, std::string>;
 
 /// "  int r = 33, g = 150;"  ->  r: 33, g: 150. False for a line that does anything else.
 bool readNumbers(const std::string& line, KnownNumbers& values) {
-    static const std::regex whole(R"(\s*((float |int )?\w+ = -?[\d.]+f?[,;]\s*)+)");
-    static const std::regex each(R"((\w+) = (-?[\d.]+f?)[,;])");
+    static const Pattern whole(R"(\s*((float |int )?\w+ = -?[\d.]+f?[,;]\s*)+)");
+    static const Pattern each(R"((\w+) = (-?[\d.]+f?)[,;])");
     if (line.find(" = ") == std::string::npos || line.find('(') != std::string::npos ||
-        !std::regex_match(line, whole)) {
+        !whole.isWhole(line)) {
         return false;
     }
-    for (std::sregex_iterator match(line.begin(), line.end(), each), end; match != end; ++match) {
-        values[(*match)[1]] = (*match)[2];
-    }
+    for (const Match& match : each.all(line)) values[match[1]] = match[2];
     return true;
 }
 

@@ -8,13 +8,13 @@
 #include <filesystem>
 #include <map>
 #include <optional>
-#include <regex>
 #include <set>
 
 #include "companion/descriptions/properties_of.h"
 #include "companion/descriptions/widget_probe.h"
 #include "lexer/word_tables.h"
 #include "support/case_files.h"
+#include "support/pattern.h"
 #include "ui/widget_frame.h"
 
 namespace {
@@ -114,11 +114,9 @@ bool isPropertyKey(const std::string& word) {
 
 /// What stands in quotes in a source and may be a key: no text, no path.
 void addQuotedWords(const fs::path& file, std::set<std::string>& words) {
-    static const std::regex quoted("\"([^\\s\"]+)\"");
-    const std::string text = readText(file.string());
-    for (std::sregex_iterator match(text.begin(), text.end(), quoted), end; match != end; ++match) {
-        const std::string word = (*match)[1];
-        if (isPropertyKey(word)) words.insert(word);
+    static const Pattern quoted("\"([^\\s\"]+)\"");
+    for (const Match& match : quoted.all(readText(file.string()))) {
+        if (isPropertyKey(match[1])) words.insert(match[1]);
     }
 }
 

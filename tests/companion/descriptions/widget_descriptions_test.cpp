@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <map>
-#include <regex>
 #include <set>
 #include <string>
 
@@ -12,6 +11,7 @@
 #include "emitted_text.h"
 #include "lexer/lexer.h"
 #include "lexer/word_tables.h"
+#include "support/pattern.h"
 #include "syntax/alignment.h"
 #include "ui/colours.h"
 #include "ui/widget_frame.h"
@@ -174,12 +174,8 @@ TEST(Values, OfColoursAndAlignmentsAreThoseOfTheirTables) {
 
 /// What `pattern` finds in `text`.
 DescribedWords foundBy(std::string_view text, const char* pattern) {
-    const std::regex row(pattern);
-    const std::string copy(text);
     DescribedWords words;
-    for (std::sregex_iterator match(copy.begin(), copy.end(), row), end; match != end; ++match) {
-        words.insert((*match)[1]);
-    }
+    for (const Match& match : Pattern(pattern).all(std::string(text))) words.insert(match[1]);
     return words;
 }
 

@@ -14,8 +14,9 @@ namespace fs = std::filesystem;
 namespace {
 
 const std::string kSources = POZHIL_ROOT "/src/";
+const std::string kTests = POZHIL_ROOT "/tests/";
 
-/// What each file below src includes, by the name that stands in the line.
+/// What each file of a folder includes, by the name that stands in the line.
 using Includes = std::map<std::string, std::set<std::string>>;
 
 std::set<std::string> includesOf(const std::string& text) {
@@ -31,20 +32,21 @@ std::set<std::string> includesOf(const std::string& text) {
 }
 
 /// The emitted text is no part of what the build compiles.
-Includes includesOfAllSources() {
+Includes includesBelow(const std::string& folder) {
     Includes all;
-    for (const auto& entry : fs::recursive_directory_iterator(fs::u8path(kSources))) {
-        const std::string name = entry.path().u8string().substr(kSources.size());
+    for (const auto& entry : fs::recursive_directory_iterator(fs::u8path(folder))) {
+        const std::string path = entry.path().u8string();
         const fs::path ending = entry.path().extension();
-        if (name.rfind("emitted/", 0) == 0 || (ending != ".h" && ending != ".cpp")) continue;
-        all[name] = includesOf(readText(kSources + name));
+        if (path.rfind(kSources + "emitted/", 0) == 0 || (ending != ".h" && ending != ".cpp"))
+            continue;
+        all[path.substr(folder.size())] = includesOf(readText(path));
     }
     return all;
 }
 
 /// The .cpp files that read `header`, by themselves or by what they include.
-std::set<std::string> readersOf(const std::string& header) {
-    const Includes all = includesOfAllSources();
+std::set<std::string> readersOf(const std::string& header, const std::string& folder = kSources) {
+    const Includes all = includesBelow(folder);
     EXPECT_GT(all.size(), 200U);
     std::set<std::string> readers = {header};
     for (std::size_t before = 0; before != readers.size();) {
@@ -82,6 +84,10 @@ TEST(HeavyHeaders, OfJsonIsReadInOneUnit) {
 TEST(HeavyHeaders, OfRegularExpressionsIsReadByNobody) {
     EXPECT_EQ(readersOf("regex"), std::set<std::string>{});
     EXPECT_GT(readersOf("string").size(), 100U);
+}
+
+TEST(HeavyHeaders, OfRegularExpressionsIsReadByOneFileOfTests) {
+    EXPECT_EQ(readersOf("regex", kTests), std::set<std::string>{"support/pattern.cpp"});
 }
 
 }  // namespace

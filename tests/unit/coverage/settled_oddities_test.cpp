@@ -4,12 +4,12 @@
 
 #include <filesystem>
 #include <map>
-#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "support/case_files.h"
+#include "support/pattern.h"
 
 namespace fs = std::filesystem;
 
@@ -25,12 +25,13 @@ struct OddityRow {
 
 /// | what | `src/...` | `tests/...`, ... |
 std::vector<OddityRow> readOddities() {
-    static const std::regex row(R"(\| (.+) \| `(src/[^`]+)` \| (.+) \|)");
+    static const Pattern row(R"(\| (.+) \| `(src/[^`]+)` \| (.+) \|)");
     std::istringstream lines(readText(kRoot + "docs/settled_oddities.md"));
     std::vector<OddityRow> rows;
     for (std::string line; std::getline(lines, line);) {
-        std::smatch match;
-        if (std::regex_match(line, match, row)) rows.push_back({match[1], match[2], match[3]});
+        if (!row.isWhole(line)) continue;
+        const Match match = *row.first(line);
+        rows.push_back({match[1], match[2], match[3]});
     }
     return rows;
 }
@@ -38,7 +39,7 @@ std::vector<OddityRow> readOddities() {
 /// How many comments of each source call something meant. The companion's tell what a learner
 /// meant, and the language has no oddity there.
 std::map<std::string, int> countMeant() {
-    static const std::regex meant(R"(//.*\b[Mm]eant\b)");
+    static const Pattern meant(R"(//.*\b[Mm]eant\b)");
     std::map<std::string, int> counts;
     for (const auto& file : fs::recursive_directory_iterator(fs::u8path(kRoot + "src"))) {
         const std::string extension = file.path().extension().u8string();
@@ -47,7 +48,7 @@ std::map<std::string, int> countMeant() {
         if (path.rfind(kRoot + "src/companion/", 0) == 0) continue;
         std::istringstream lines(readText(path));
         for (std::string line; std::getline(lines, line);) {
-            if (std::regex_search(line, meant)) counts[path.substr(kRoot.size())]++;
+            if (meant.isIn(line)) counts[path.substr(kRoot.size())]++;
         }
     }
     return counts;
@@ -60,9 +61,9 @@ testing::AssertionResult exists(const std::string& path, const std::string& name
     }
     if (name.empty()) return testing::AssertionSuccess();
     const std::size_t dot = name.find('.');
-    const std::regex definition("TEST(_F|_P)?\\(" + name.substr(0, dot) + ",\\s*" +
-                                name.substr(dot + 1) + "\\)");
-    if (std::regex_search(readText(kRoot + path), definition)) return testing::AssertionSuccess();
+    const Pattern definition("TEST(_F|_P)?\\(" + name.substr(0, dot) + ",\\s*" +
+                             name.substr(dot + 1) + "\\)");
+    if (definition.isIn(readText(kRoot + path))) return testing::AssertionSuccess();
     return testing::AssertionFailure() << path << " holds no " << name;
 }
 
@@ -74,13 +75,12 @@ TEST(SettledOddities, OfEachFileHaveARowEach) {
 }
 
 TEST(SettledOddities, AreEachHeldByATestThatExists) {
-    static const std::regex test(R"(`(tests/[^` ]+)(?: (\w+\.\w+))?`)");
+    static const Pattern test(R"(`(tests/[^` ]+)(?: (\w+\.\w+))?`)");
     for (const OddityRow& row : readOddities()) {
         int count = 0;
-        for (std::sregex_iterator at(row.tests.begin(), row.tests.end(), test), end; at != end;
-             ++at) {
+        for (const Match& match : test.all(row.tests)) {
             count++;
-            EXPECT_TRUE(exists((*at)[1], (*at)[2])) << row.oddity;
+            EXPECT_TRUE(exists(match[1], match[2])) << row.oddity;
         }
         EXPECT_GT(count, 0) << row.oddity << ": no test";
     }

@@ -6,13 +6,13 @@
 
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <stdexcept>
 #include <typeinfo>
 
 #include "support/generated_text.h"
+#include "support/pattern.h"
 #include "unit/generator/walked_forms.h"
 
 namespace {
@@ -71,13 +71,12 @@ std::string className(const std::type_info& type) {
 
 /// The names of all structures of the tree that derive from `base` at once.
 std::set<std::string> nodesOf(const std::string& base) {
-    const std::regex heading("struct (\\w+)(?: final)? : " + base + " ");
+    const Pattern heading("struct (\\w+)(?: final)? : " + base + " ");
     std::set<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(POZHIL_ROOT "/src/syntax")) {
         std::ifstream file(entry.path());
         for (std::string line; std::getline(file, line);) {
-            std::smatch match;
-            if (std::regex_search(line, match, heading)) names.insert(match[1]);
+            if (const auto match = heading.first(line)) names.insert((*match)[1]);
         }
     }
     return names;
@@ -210,11 +209,10 @@ std::string application(const std::string& widget) {
 /// The words of the table by which the web form finds what draws a widget.
 std::vector<std::string> drawnWords() {
     std::ifstream file(POZHIL_ROOT "/src/ui/widget_frame.cpp");
-    const std::regex row("^    \\{\"([^\"]+)\", write\\w+\\},");
+    const Pattern row("^    \\{\"([^\"]+)\", write\\w+\\},");
     std::vector<std::string> words;
     for (std::string line; std::getline(file, line);) {
-        std::smatch match;
-        if (std::regex_search(line, match, row)) words.push_back(match[1]);
+        if (const auto match = row.first(line)) words.push_back((*match)[1]);
     }
     return words;
 }

@@ -2,17 +2,14 @@
 // in every program to the letter.
 #include <gtest/gtest.h>
 
-#include <regex>
-
 #include "support/case_files.h"
 #include "support/generated_text.h"
+#include "support/pattern.h"
 
 namespace {
 
 /// Lines as one, with single blanks.
-std::string inOneLine(const std::string& text) {
-    return std::regex_replace(text, std::regex("\\s+"), " ");
-}
+std::string inOneLine(const std::string& text) { return Pattern("\\s+").replaced(text, " "); }
 
 /// All text between the directives by which g++ passes over it.
 std::string heldText() {
@@ -29,20 +26,15 @@ std::string heldText() {
     return held;
 }
 
-/// They point into `text`.
-std::vector<std::smatch> matches(const std::string& text, const std::regex& form) {
-    return {std::sregex_iterator(text.begin(), text.end(), form), std::sregex_iterator()};
-}
-
 const std::string kDeclarations = readText(POZHIL_ROOT "/src/held_runtime.h");
 
 TEST(HeldText, HasEachFunctionAsItIsDeclared) {
     const std::string held = inOneLine(heldText());
-    const auto declared = matches(kDeclarations, std::regex("\nPOZHIL_HELD ([^;]+);"));
+    const auto declared = Pattern("\nPOZHIL_HELD ([^;]+);").all(kDeclarations);
     EXPECT_GT(declared.size(), 50U);
-    for (const std::smatch& function : declared) {
-        const std::string form = std::regex_replace(
-            function[1].str(), std::regex("POZHIL_OR_ELSE\\(([^)]*)\\)"), "= $1");
+    const Pattern orElse("POZHIL_OR_ELSE\\(([^)]*)\\)");
+    for (const Match& function : declared) {
+        const std::string form = orElse.replaced(function[1], "= $1");
         const std::string head = inOneLine(form);
         const bool isDefined = held.find(" " + head + " {") != std::string::npos;
         EXPECT_TRUE(isDefined) << head;
@@ -51,12 +43,12 @@ TEST(HeldText, HasEachFunctionAsItIsDeclared) {
 
 TEST(HeldText, HasEachVariableAsItIsDeclared) {
     const std::string held = inOneLine(heldText());
-    const auto declared = matches(kDeclarations, std::regex("\nPOZHIL_VARIABLE\\((.+?), (.+)\\);"));
+    const auto declared = Pattern("\nPOZHIL_VARIABLE\\((.+?), (.+)\\);").all(kDeclarations);
     EXPECT_GT(declared.size(), 20U);
-    for (const std::smatch& variable : declared) {
+    for (const Match& variable : declared) {
         std::string kind = variable[2];
         if (kind == "PozhilVariables") kind = "std::map<std::string, std::any>";
-        EXPECT_NE(held.find(kind + " " + variable[1].str()), std::string::npos) << variable[0];
+        EXPECT_NE(held.find(kind + " " + variable[1]), std::string::npos) << variable[0];
     }
 }
 
