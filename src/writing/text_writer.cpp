@@ -1,7 +1,6 @@
 #include "writing/text_writer.h"
 
 #include <algorithm>
-#include <set>
 #include <stdexcept>
 
 #include "writing/marks.h"
@@ -18,7 +17,8 @@ bool beginsWith(std::string_view text, std::string_view head) {
 /// Fills one template. A line is left out while a switch around it stands the other way.
 class TemplateFill {
 public:
-    TemplateFill(TextWriter& writer, const Fills& fills) : writer(writer), fills(fills) {}
+    TemplateFill(TextWriter& writer, const Fills& fills)
+        : writer(writer), fills(fills), placed(fills.size()) {}
 
     void write(std::string_view text) {
         while (!text.empty()) {
@@ -28,7 +28,7 @@ public:
         }
         if (!conditions.empty()) throw std::logic_error("a directive isn't closed");
         for (const Fill& fill : fills) {
-            if (placed.count(fill.name) == 0) refuse("has no place", fill.name);
+            if (!placed[placeOf(fill.name)]) refuse("has no place", fill.name);
         }
     }
 
@@ -42,12 +42,18 @@ private:
         throw std::logic_error("placeholder " + std::string(name) + " " + what);
     }
 
+    /// Where the first fill of this name stands; behind the last if there is none.
+    std::size_t placeOf(std::string_view name) const {
+        std::size_t place = 0;
+        while (place < fills.size() && fills[place].name != name) place++;
+        return place;
+    }
+
     const Fill& find(std::string_view name) {
-        const auto found = std::find_if(fills.begin(), fills.end(),
-                                        [&](const Fill& fill) { return fill.name == name; });
-        if (found == fills.end()) refuse("isn't filled", name);
-        placed.insert(found->name);
-        return *found;
+        const std::size_t place = placeOf(name);
+        if (place == fills.size()) refuse("isn't filled", name);
+        placed[place] = true;
+        return fills[place];
     }
 
     bool isLeftOut() const {
@@ -135,7 +141,7 @@ private:
     TextWriter& writer;
     const Fills& fills;
     std::vector<Condition> conditions;
-    std::set<std::string_view> placed;
+    std::vector<bool> placed;  ///< Of each fill: it was met in the template.
 };
 
 }  // namespace
