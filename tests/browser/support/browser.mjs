@@ -64,7 +64,7 @@ function pictureFile(name) {
 export const photograph = (page, name) => shoot(page, {path: pictureFile(name)});
 
 /** The same when nothing on the page moves any more. */
-export const photographAtRest = (page, name) => shootAtRest(page, {path: pictureFile(name)}, 300);
+export const photographAtRest = (page, name) => shootAtRest(page, {path: pictureFile(name)}, {seconds: 300});
 
 /** The colours [red, green, blue] of what the user sees in `clip`, row by row, in the screen's pixels. */
 export async function pixels(page, clip) {

@@ -21,7 +21,7 @@ const withoutText = `
 `;
 
 /** A photograph of the page but for its texts, when nothing moves any more. */
-export const shapes = (page, seconds) => shootAtRest(page, {style: withoutText}, seconds);
+export const shapes = page => shootAtRest(page, {style: withoutText}, {hasTexts: false});
 
 /** The size and the pixels of a PNG. */
 export const readPicture = bytes => PNG.sync.read(bytes);

@@ -18,10 +18,10 @@ function drawUntilAtRest(wanted) {
     const request = window.requestAnimationFrame;
     window.requestAnimationFrame = callback => {
         const frame = time => {
-            window.drawn = {sum: 0, isFrame: false};
+            window.drawn = {shapes: 0, texts: 0, isFrame: false};
             callback(time);
-            const {sum, isFrame} = window.drawn;
-            if (!isFrame) return;
+            if (!window.drawn.isFrame) return;
+            const sum = `${window.drawn.shapes} ${window.drawn.texts}`;
             drawing = callback;
             alike = sum === last ? alike + 1 : 0;
             last = sum;
