@@ -3,7 +3,7 @@
 import assert from 'node:assert/strict';
 import {after, before, test} from 'node:test';
 import {PNG} from 'pngjs';
-import {launch, openPage, photograph, press, until} from './support/browser.mjs';
+import {launch, openPage, photographAtRest, press, until} from './support/browser.mjs';
 import {shoot} from './support/frames.mjs';
 import {address, makeWorkplace, startCompiler, tidyUp} from './support/tool.mjs';
 
@@ -95,11 +95,11 @@ for (const [width, height, deviceScaleFactor] of [[640, 400, 1], [320, 400, 2]])
     const x = width / 2, y = height / 2;
     let page;
 
-    /** Photographs the page until each of `places`, [x, y, colour], shows its colour. */
+    /** Photographs the page whenever it rests, until each of `places`, [x, y, colour], shows its colour. */
     async function sees(what, places, seconds = 60) {
         let wrong = ['no photograph'];
         const looked = until(async () => {
-            const picture = PNG.sync.read(await photograph(page, `boxes_${what}_${width}_${deviceScaleFactor}`));
+            const picture = PNG.sync.read(await photographAtRest(page, `boxes_${what}_${width}_${deviceScaleFactor}`));
             wrong = places.map(([left, top, colour]) => {
                 const at = 4 * (Math.round(top * deviceScaleFactor) * picture.width + Math.round(left * deviceScaleFactor));
                 const seen = [...picture.data.subarray(at, at + 3)];

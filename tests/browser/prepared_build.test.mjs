@@ -11,6 +11,7 @@ import {after, test} from 'node:test';
 import {fileURLToPath} from 'node:url';
 import {launch, openPage, press, until} from './support/browser.mjs';
 import {copyFonts} from './support/fonts.mjs';
+import {seeFrame} from './support/frames.mjs';
 import {compare, readPicture, shapes} from './support/golden.mjs';
 import {readProgram} from './support/hand_page.mjs';
 import {standIn} from './support/stand_in.mjs';
@@ -85,7 +86,7 @@ async function watch(program) {
         }).catch(() => false), 'the texts', patience);
         const pictures = [await shapes(page)];
         const texts = [];
-        const readTexts = () => page.locator('#textCanvas').screenshot();
+        const readTexts = () => seeFrame(page, () => page.locator('#textCanvas').screenshot());
         texts.push(await readTexts());
         for (let i = 0; i < 3; i++) await press(page, 713, 468);
         pictures.push(await shapes(page));

@@ -6,7 +6,7 @@ import {dirname, join} from 'node:path';
 import {after, before, describe, test} from 'node:test';
 import {fileURLToPath} from 'node:url';
 import {gzipSync} from 'node:zlib';
-import {desk, launch, openPage, photograph, until} from './support/browser.mjs';
+import {desk, launch, openPage, photographAtRest, until} from './support/browser.mjs';
 import {copyFonts} from './support/fonts.mjs';
 import {nextFrames} from './support/frames.mjs';
 import {compare, readPicture} from './support/golden.mjs';
@@ -64,15 +64,8 @@ async function open(place, prepare = async () => {}) {
     return page;
 }
 
-/** A photograph, when two in a row are equal. */
-async function picture(page, name) {
-    let last = Buffer.alloc(0);
-    return until(async () => {
-        const before = last;
-        last = await photograph(page, name);
-        return last.equals(before) && readPicture(last);
-    }, 'a picture that stands still', patience);
-}
+/** A photograph, when nothing moves any more. */
+const picture = async (page, name) => readPicture(await photographAtRest(page, name));
 
 /** What a visitor of `place` sees at first and after the example's deed, and what went wrong meanwhile. */
 async function visit(place, name, kind) {

@@ -2,7 +2,7 @@
 import {mkdirSync} from 'node:fs';
 import {join} from 'node:path';
 import {chromium} from 'playwright-core';
-import {drawOnDemand, giveFrames, shoot} from './frames.mjs';
+import {drawOnDemand, giveFrames, shoot, shootAtRest} from './frames.mjs';
 import {lossOfDrawing} from './loss.mjs';
 
 const output = process.env.POZHIL_BROWSER_OUTPUT ?? 'browser-output';
@@ -56,10 +56,15 @@ export async function openPage(browser, options = desk, prepare = async () => {}
     return page;
 }
 
-export async function photograph(page, name) {
+function pictureFile(name) {
     mkdirSync(output, {recursive: true});
-    return shoot(page, {path: join(output, `${name}.png`)});
+    return join(output, `${name}.png`);
 }
+
+export const photograph = (page, name) => shoot(page, {path: pictureFile(name)});
+
+/** The same when nothing on the page moves any more. */
+export const photographAtRest = (page, name) => shootAtRest(page, {path: pictureFile(name)}, {seconds: 300});
 
 /** The colours [red, green, blue] of what the user sees in `clip`, row by row, in the screen's pixels. */
 export async function pixels(page, clip) {

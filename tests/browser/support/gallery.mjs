@@ -190,9 +190,10 @@ async function look(page) {
     await page.evaluate(() => document.activeElement.blur());
     await page.mouse.move(...aside);
     await nextFrames(page);
-    await seeFrame(page);
-    await page.evaluate(() => window.hold());
-    const shot = readPicture(await page.screenshot({animations: 'disabled'}));
+    const shot = await seeFrame(page, async () => {
+        await page.evaluate(() => window.hold());
+        return readPicture(await page.screenshot({animations: 'disabled'}));
+    });
     const seen = {shot, drawn: await texts(page), written: await writing(page)};
     await page.evaluate(() => window.goOn());
     return seen;

@@ -5,7 +5,7 @@ import {dirname, join} from 'node:path';
 import {fileURLToPath} from 'node:url';
 import pixelmatch from 'pixelmatch';
 import {PNG} from 'pngjs';
-import {shoot} from './frames.mjs';
+import {shootAtRest} from './frames.mjs';
 
 const committed = join(dirname(fileURLToPath(import.meta.url)), '..', 'golden');
 const output = join(process.env.POZHIL_BROWSER_OUTPUT ?? 'browser-output', 'golden');
@@ -20,18 +20,8 @@ const withoutText = `
     .pozhil-input, .pozhil-input::placeholder { color: transparent !important; }
 `;
 
-/** A photograph of the page but for its texts, when two in a row are equal: nothing moves any more. */
-export async function shapes(page, seconds = 10) {
-    const deadline = Date.now() + seconds * 1000;
-    let last = Buffer.alloc(0);
-    for (;;) {
-        const shot = await shoot(page, {style: withoutText});
-        if (shot.equals(last)) return shot;
-        if (Date.now() > deadline) throw new Error(`still moves after ${seconds} s`);
-        last = shot;
-        await page.waitForTimeout(100);
-    }
-}
+/** A photograph of the page but for its texts, when nothing moves any more. */
+export const shapes = page => shootAtRest(page, {style: withoutText}, {hasTexts: false});
 
 /** The size and the pixels of a PNG. */
 export const readPicture = bytes => PNG.sync.read(bytes);

@@ -12,39 +12,16 @@ const alikeAtRest = 2;
  * alike. `window.goOn(milliseconds)` lets time pass, and frames be drawn until they are alike again.
  */
 function drawUntilAtRest(wanted) {
-    let now = 400, sum = 0, last = null, alike = 0, isFrame = false, drawing = null, held = null;
+    let now = 400, last = null, alike = 0, drawing = null, held = null;
     performance.now = () => now;
-
-    const mix = value => { sum = Math.imul(sum ^ value, 16777619) | 0; };
-    const mixText = text => { for (let i = 0; i < text.length; i++) mix(text.charCodeAt(i)); };
-    function mixBytes(view) {
-        const words = new Uint32Array(view.buffer.slice(view.byteOffset, view.byteOffset + (view.byteLength & ~3)));
-        for (const word of words) mix(word);
-    }
-    function note(owner, name, take) {
-        const original = owner[name];
-        owner[name] = function(...words) {
-            take(...words);
-            return original.apply(this, words);
-        };
-    }
-    const card = WebGLRenderingContext.prototype;
-    note(card, 'bufferData', (target, data) => { if (ArrayBuffer.isView(data)) mixBytes(data); });
-    note(card, 'uniform4fv', (place, data) => { if (ArrayBuffer.isView(data)) mixBytes(data); });
-    const layer = CanvasRenderingContext2D.prototype;
-    note(layer, 'clearRect', () => { isFrame = true; });
-    const {fillText} = layer;
-    layer.fillText = function(text, x, y) {
-        mixText([text, x, y, this.font, this.fillStyle, this.globalAlpha].join('|'));
-        return fillText.call(this, text, x, y);
-    };
 
     const request = window.requestAnimationFrame;
     window.requestAnimationFrame = callback => {
         const frame = time => {
-            [sum, isFrame] = [0, false];
+            window.drawn = {shapes: 0, texts: 0, isFrame: false};
             callback(time);
-            if (!isFrame) return;
+            if (!window.drawn.isFrame) return;
+            const sum = `${window.drawn.shapes} ${window.drawn.texts}`;
             drawing = callback;
             alike = sum === last ? alike + 1 : 0;
             last = sum;

@@ -1,6 +1,7 @@
 // Texts: sizes, colours, weights, lines under them, one line that shrinks, and Tamil that is shaped.
 import assert from 'node:assert/strict';
 import {test} from 'node:test';
+import {shoot} from '../support/frames.mjs';
 import {readPicture} from '../support/golden.mjs';
 import {inkIn, near, resize, standsAsMeasured, texts, widgetScreen, windows} from '../support/widget_screen.mjs';
 
@@ -43,7 +44,7 @@ const onlyElement = `#canvas, #textCanvas { ${hidden} } body { background: white
 /** Photographs of a text of the layer, and of the same string as an element of the document. */
 async function bothWays(page, {text, font, left, y, width, size}) {
     const clip = {x: left, y, width: Math.ceil(width) + 4, height: Math.ceil(1.45 * size)};
-    const layer = await page.screenshot({clip, style: onlyLayer});
+    const layer = await shoot(page, {clip, style: onlyLayer});
     await page.evaluate(({text, font, left, y}) => {
         const element = document.body.appendChild(document.createElement('div'));
         element.id = 'element';
