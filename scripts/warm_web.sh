@@ -49,7 +49,9 @@ holds() {
 }
 # Where they can't be made that isn't tried again for a day, or each start would wait for it.
 was_refused() { [ -n "$(find "$warmed/refused" -mtime -1 2>/dev/null)" ] && holds "$warmed/refused"; }
-is_done() { holds "$warmed/fits" || was_refused; }
+# In a folder that was copied the list names what lies in the one it was copied from.
+is_own() { [ "$(sed -n 2p "$warmed/fits" | cut -d ' ' -f 3-)" = "$warmed/$headers" ]; }
+is_done() { { holds "$warmed/fits" && is_own; } || was_refused; }
 
 # What both depend on: the compiler, the two, and every header that was read.
 name_files() {

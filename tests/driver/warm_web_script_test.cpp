@@ -106,6 +106,21 @@ TEST_F(WarmWebScript, MakesThemAnewOnlyWhenSomethingChanged) {
     EXPECT_TRUE(isMade()) << "another em++";
 }
 
+TEST_F(WarmWebScript, MakesThemAnewInACopyOfTheFolder) {
+    EXPECT_TRUE(isMade());
+    const fs::path original = root / "original";
+    ASSERT_EQ(runCommand({"cp", "-a", warmed.u8string(), original.u8string()}).exitCode, 0);
+    const std::string listed = list();
+    std::string copied = listed;
+    for (std::size_t at = 0; (at = copied.find(warmed.u8string(), at)) != std::string::npos;) {
+        copied.replace(at, warmed.u8string().size(), original.u8string());
+    }
+    ASSERT_NE(copied, listed);
+    writeFileText(warmed / "fits", copied);
+    EXPECT_TRUE(isMade());
+    EXPECT_FALSE(isMade());
+}
+
 TEST_F(WarmWebScript, LeavesNoListWhereTheCompilerRefuses) {
     EXPECT_TRUE(isMade());
     compilerDoes("echo '# anew' >/dev/null; false");
