@@ -45,7 +45,7 @@ check() {
     end "$name" "$start"
 }
 
-# ---- What runs aside: the steps of one function, one behind the other, at low priority ----
+# ---- What runs aside: the steps of one function, one behind the other ----
 
 aside=0 # its process group, while it runs
 aside_folder=
@@ -64,12 +64,14 @@ end_aside() {
 # The steps of a function, from counts that begin at nothing; the file `counted` holds them at the end.
 run_aside() {
     passed=0 failed=0 skipped=0 failures=() durations=()
-    renice -n 19 "$BASHPID" >/dev/null 2>&1 || true
     "$1"
     declare -p passed failed skipped failures durations >"$aside_folder/counted"
     # Its processor time becomes this shell's when it ends: not in the middle of a step.
     until [ -e "$aside_folder/joined" ]; do sleep 0.1; done
 }
+
+# From here on what runs aside takes the time that others leave.
+lower_priority() { renice -n 19 "$BASHPID" >/dev/null 2>&1 || true; }
 
 # start_aside FUNCTION: what it prints is kept until it is joined. In a process group of its own, so
 # that all of it can be ended.

@@ -83,14 +83,19 @@ TEST_F(StepsScript, AllThatPassedIsASuccess) {
 
 TEST_F(StepsScript, AsideBehindTheOthersPrintsWholeWhenItIsJoined) {
     const ProcessResult result =
-        run("beside() { check a sh -c 'nice >&2; touch done'; }\n"
+        run("nice >&2\n"
+            "beside() { check a sh -c 'nice >&2'; lower_priority\n"
+            "    check b sh -c 'nice >&2; touch done'; }\n"
             "start_aside beside\n"
             "until [ -e done ]; do sleep 0.05; done\n"
             "echo before >&2\n"
             "join_aside others");
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_TRUE(shows(result.err, "before\n")) << result.err;
-    EXPECT_TRUE(shows(result.err.substr(result.err.find("before")), "\n19\n")) << result.err;
+    const std::string own = "\n" + result.err.substr(0, result.err.find('\n') + 1);
+    const std::string aside = result.err.substr(result.err.find("before"));
+    EXPECT_TRUE(shows(aside, own)) << result.err;
+    EXPECT_TRUE(shows(aside, "\n19\n")) << result.err;
 }
 
 TEST_F(StepsScript, WhatBreaksOffAsideHasFailed) {

@@ -175,6 +175,10 @@ export async function seeFrame(page, look) {
 /** A screenshot of the page as it is now. */
 export const shoot = (page, options) => seeFrame(page, () => page.screenshot(options));
 
+/** What tells one frame from another: what it draws; on a page that draws on its own its picture. */
+const lookOf = async (page, hasTexts, options) =>
+    await page.evaluate(counted => window.lookOfFrame?.(counted), hasTexts) ?? (await shoot(page, options)).toString('base64');
+
 /**
  * A screenshot of a page on which nothing moves any more: two frames in a row were alike, in their shapes at least
  * if texts don't count.
@@ -182,7 +186,7 @@ export const shoot = (page, options) => seeFrame(page, () => page.screenshot(opt
 export async function shootAtRest(page, options = {}, {seconds = 10, hasTexts = true} = {}) {
     const deadline = Date.now() + seconds * 1000;
     for (let last = ''; ;) {
-        const look = await page.evaluate(counted => window.lookOfFrame(counted), hasTexts);
+        const look = await lookOf(page, hasTexts, options);
         if (look === last) return shoot(page, options);
         if (Date.now() > deadline) throw new Error(`still moves after ${seconds} s`);
         last = look;

@@ -30,7 +30,16 @@ const extension = require(join(root, 'editors/vscode/extension.js'));
 const {programAt, compilerBeside} = require(join(root, 'editors/vscode/places.js'));
 
 const work = mkdtempSync(join(tmpdir(), 'pozhil-extension-'));
-after(() => rmSync(work, {recursive: true, maxRetries: 20}));
+// Stand-ins that are ending still write their notes, behind what has been removed already.
+after(async () => {
+    for (const end = Date.now() + 60_000; ; await pause(100)) {
+        try {
+            return rmSync(work, {recursive: true});
+        } catch (error) {
+            if (Date.now() > end) throw error;
+        }
+    }
+});
 const notesFile = join(work, 'notes');
 process.env.POZHIL_NOTES = notesFile;
 process.env.HOME = join(work, 'home');
