@@ -20,6 +20,8 @@ add_custom_command(
             -P "${CMAKE_SOURCE_DIR}/cmake/embed_programs.cmake"
     DEPENDS ${shown_programs} cmake/embed_programs.cmake
     COMMENT "Embedding the programs of the descriptions" VERBATIM)
+# By this target it is made without the libraries that the companion links.
+add_custom_target(shown_programs_text DEPENDS "${shown_programs_header}")
 add_library(pozhil_companion STATIC ${companion_sources} "${shown_programs_header}")
 target_include_directories(pozhil_companion PRIVATE "${CMAKE_BINARY_DIR}/generated")
 compile_together(pozhil_companion)

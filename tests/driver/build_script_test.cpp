@@ -188,6 +188,24 @@ TEST(Scripts, ConfigureInOnePlace) {
     EXPECT_EQ(places, std::vector<std::string>{"build_directory.sh"});
 }
 
+// A text that waited for the libraries of whom it is for had all of them compiled.
+TEST(Scripts, CompileNothingForLint) {
+    const std::string build = POZHIL_BUILD_DIR "/lint_commands";
+    std::vector<std::string> command = {"cmake", "--build", build, "--target"};
+    for (const Match& match :
+         Pattern("generated/\\w+\\.h").all(readFileText(kScripts / "lint.sh"))) {
+        command.push_back(match[0]);
+    }
+    EXPECT_EQ(command.size(), 7U);
+    fs::remove_all(fs::u8path(build));
+    const ProcessResult configured =
+        runCommand({"cmake", "--preset", "lint", "-B", build}, {POZHIL_ROOT, {}, "", 120});
+    ASSERT_EQ(configured.exitCode, 0) << configured.err;
+    const ProcessResult built = runCommand(command);
+    EXPECT_EQ(built.exitCode, 0) << built.err;
+    EXPECT_NE(built.out.find("[3/3]"), std::string::npos) << built.out;
+}
+
 TEST(Scripts, NamedInTheDocumentsCanBeStarted) {
     const std::string documents = readFileText(fs::u8path(POZHIL_ROOT) / "README.md") +
                                   readFileText(fs::u8path(POZHIL_ROOT) / "CONTRIBUTING.md");
