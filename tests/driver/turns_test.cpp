@@ -38,18 +38,21 @@ protected:
         return std::make_unique<LiveProcess>(command, work, settings, root / notes);
     }
 
+    int openLock() const {
+        fs::create_directories(cache);
+        return open((cache / "தொகுப்பு_பூட்டு").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    }
+
     /// Takes the turn as another run would; the descriptor is to be closed.
     int takeTurn() const {
-        fs::create_directories(cache);
-        const int file =
-            open((cache / "தொகுப்பு_பூட்டு").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+        const int file = openLock();
         EXPECT_EQ(flock(file, LOCK_EX | LOCK_NB), 0);
         return file;
     }
 
     /// Whether the turn is free within seconds: a busy machine lets a run go on late.
     bool isTurnFreeSoon() const {
-        const int file = open((cache / "தொகுப்பு_பூட்டு").c_str(), O_RDWR | O_CLOEXEC);
+        const int file = openLock();
         bool isFree = false;
         for (int tries = 0; tries < 1000 && !isFree; tries++) {
             isFree = flock(file, LOCK_EX | LOCK_NB) == 0;
