@@ -1,5 +1,5 @@
 // Builds the applications that are measured: ours by the compiler, the one by hand by the very command
-// that the compiler gave em++ for ours.
+// that the compiler gave em++ for ours, with its flags.
 import assert from 'node:assert/strict';
 import {execFileSync} from 'node:child_process';
 import {mkdirSync, readFileSync, writeFileSync} from 'node:fs';
@@ -51,7 +51,10 @@ function buildByHand(workplace, words, ours, count) {
         if (word === words[0]) return source;
         return words[i - 1] === '-o' ? join(output, 'index.js') : word;
     });
-    execFileSync('em++', command, {cwd: workplace.work, stdio: ['ignore', 'inherit', 'inherit']});
+    execFileSync('em++', command, {
+        cwd: workplace.work, stdio: ['ignore', 'inherit', 'inherit'],
+        env: {...process.env, EMCC_CFLAGS: workplace.lastFlags()},
+    });
     const program = {'/': ours['/']};
     for (const path of ['/index.js', '/index.wasm', '/index.data']) {
         program[path] = readFileSync(join(output, path));

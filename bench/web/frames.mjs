@@ -1,6 +1,7 @@
 // The time that scripts take for a frame: what runs in the callback of the main loop. What the GPU and
 // the compositor do isn't in it, nor is the wait for them that a look for errors would be.
 import {launch, openPage, until} from '../../tests/browser/support/browser.mjs';
+import {drawWhatIsSeen} from '../../tests/browser/support/frames.mjs';
 import {compare, readPicture, shapes} from '../../tests/browser/support/golden.mjs';
 import {standIn} from '../../tests/browser/support/stand_in.mjs';
 
@@ -28,14 +29,22 @@ function noteTimes() {
         window.times.push(performance.now() - start);
         window.textsDrawn = drawn;
     });
+    window.drawSeenFrame = async () => {
+        const nextFrame = () => new Promise(resolve => request.call(window, resolve));
+        window.isSeen = true;
+        await nextFrame();  // its callbacks may have begun by now
+        await nextFrame();
+        window.isSeen = false;
+    };
 }
 
 /** A clock that isn't coarse is for pages that are isolated from others. */
 const isolated = {'Cross-Origin-Opener-Policy': 'same-origin', 'Cross-Origin-Embedder-Policy': 'require-corp'};
 
-async function open(browser, program) {
+async function open(browser, program, isDrawn) {
     const server = await standIn(program);
     const page = await openPage(browser, view, async page => {
+        if (!isDrawn) await page.addInitScript(drawWhatIsSeen);
         await page.addInitScript(noteTimes);
         await page.route(server.address, async route => {
             const response = await route.fetch();
@@ -66,12 +75,15 @@ async function holdSame(ours, byHand) {
     if (pixels > 0) throw new Error(`the pictures differ in ${pixels} pixels`);
 }
 
-/** Median milliseconds of a frame of ours and of the one by hand, over `frames` frames of each. */
-export async function measureFrames(built, frames) {
+/**
+ * Median milliseconds of a frame of ours and of the one by hand, over `frames` frames of each. Without a GPU most of
+ * the time goes into drawing: frames that aren't drawn lack what scripts take for the orders to draw, and no more.
+ */
+export async function measureFrames(built, frames, {isDrawn = true} = {}) {
     const browser = await launch();
     const pages = [];
     try {
-        for (const program of [built.program, built.byHand()]) pages.push(await open(browser, program));
+        for (const program of [built.program, built.byHand()]) pages.push(await open(browser, program, isDrawn));
         await holdSame(...pages);
         const times = [[], []];
         for (let round = 0; round < rounds; round++) {

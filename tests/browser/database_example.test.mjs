@@ -70,6 +70,11 @@ test('keeps what guests write, and shows it to others, the newest first', async 
     await shows(page, '— கண்ணன்');
     await write(page, 'வேலன் "ஐ"', 'அது \'இனிது\' \\ இது');
     await shows(page, 'அது ’இனிது’ / இது');
+    // A page shows what it wrote before the database has it.
+    await until(async () => {
+        const {எண்ணிக்கை, பதிவு2} = await peer.value('விருந்து') ?? {};
+        return எண்ணிக்கை?.எத்தனை === '2' && பதிவு2;
+    }, 'the second line in the database');
     assert.deepEqual(await peer.value('விருந்து'), {
         எண்ணிக்கை: {எத்தனை: '2'},
         பதிவு1: {பெயர்: 'கண்ணன்', சொல்: 'முதல் வணக்கம்'},

@@ -192,7 +192,7 @@ for (const name of Object.keys(deeds)) {
 /** To look for errors is to wait for what draws, and here that is no graphics card: scripts are measured alone. */
 const lookForNoErrors = page => page.addInitScript(() => { WebGLRenderingContext.prototype.getError = () => 0; });
 
-/** Median milliseconds of the scripts of a frame on each page, looked at in turn. */
+/** Median milliseconds of the scripts of a frame on each page, in turn. The frames aren't drawn. */
 async function frameTimes(pages, rounds = 3, frames = 20) {
     const times = pages.map(() => []);
     for (let round = 0; round < rounds; round++) {
@@ -200,7 +200,6 @@ async function frameTimes(pages, rounds = 3, frames = 20) {
             await page.bringToFront();
             times[i].push(...await page.evaluate(wanted => new Promise(resolve => {
                 const times = [];
-                window.isSeen = true;
                 const request = window.requestAnimationFrame;
                 window.requestAnimationFrame = callback => request.call(window, time => {
                     const start = performance.now();
@@ -208,7 +207,6 @@ async function frameTimes(pages, rounds = 3, frames = 20) {
                     times.push(performance.now() - start);
                     if (times.length < wanted) return;
                     window.requestAnimationFrame = request;
-                    window.isSeen = false;
                     resolve(times);
                 });
             }), frames));

@@ -14,7 +14,7 @@ const pages = new Set();
  * What stands on the screen stays there meanwhile. The text layer, written on by each frame, is no part of the
  * screen but while `window.unseen` is disabled: the browser would put the page together anew each time.
  */
-function drawWhatIsSeen() {
+export function drawWhatIsSeen() {
     window.isSeen = false;
     window.unseen = new CSSStyleSheet();
     window.unseen.replaceSync('#textCanvas { visibility: hidden }');

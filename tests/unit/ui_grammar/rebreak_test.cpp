@@ -7,13 +7,14 @@
 #include <string_view>
 
 #include "support/case_files.h"
+#include "support/repeated.h"
 #include "support/tree_printer.h"
 #include "unit/ui_grammar/rebreaker.h"
 #include "unit/ui_grammar/widget_sources.h"
 
 namespace {
 
-constexpr unsigned kSeeds = 80;
+constexpr unsigned kSeeds = rounds(80);
 
 // The gallery holds every widget, some with groups of properties that the rebreaker doesn't know.
 constexpr const char* kGallery = "காட்சியகம்";
