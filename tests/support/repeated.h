@@ -9,8 +9,9 @@
 #endif
 #endif
 
-/// `count` where the code is as users have it. Under sanitizers, where each round takes ten times as long, an eighth:
-/// they look at what is read and written, the other build at how much there is room for.
+/// `count` where the code is as users have it. Under sanitizers, where each round takes ten times
+/// as long, an eighth: they look at what is read and written, the other build at how much there is
+/// room for.
 constexpr int rounds(int count) {
 #ifdef POZHIL_IS_SANITIZED
     return count / 8;

@@ -1,4 +1,5 @@
-// How the time of parsing grows with a line: told of what is optimised as for users, not under sanitizers.
+// How the time of parsing grows with a line: told of what is optimised as for users, not under
+// sanitizers.
 #include <gtest/gtest.h>
 #include <time.h>
 

@@ -54,7 +54,8 @@ TEST(Size, ThousandElseIfs) {
 }
 
 TEST(Size, HundredThousandElseIfsDoNotCrash) {
-    const std::string source = "எனில் அ:\n    விடு\n" + repeated("இல்லைஎனில் அ:\n    விடு\n", rounds(100000));
+    const std::string source =
+        "எனில் அ:\n    விடு\n" + repeated("இல்லைஎனில் அ:\n    விடு\n", rounds(100000));
     EXPECT_EQ(parsesOrIsTooDeep(source), "");
     runOnStack(kDeepStack, [&] { EXPECT_EQ(parsesOrIsTooDeep(source), ""); });
 }
