@@ -94,7 +94,7 @@ check_aside() {
 
 case "${1:-all}" in
     fast)
-        scripts/install_packages.sh g++ cmake ninja-build libgtest-dev nlohmann-json3-dev
+        scripts/install_packages.sh g++ clang cmake ninja-build libgtest-dev nlohmann-json3-dev
         check "கட்டுதல்" build tests fast_tests
         run_tests "விரைவுச் சோதனைகள்" tests -L fast
         ;;
