@@ -99,11 +99,14 @@ case "${1:-all}" in
         run_tests "விரைவுச் சோதனைகள்" tests -L fast
         ;;
     all)
-        scripts/install_packages.sh g++ cmake ninja-build libgtest-dev clang clang-format \
+        scripts/install_packages.sh g++
+        scripts/prepare_objects.sh & # needs nothing else, and the others are waited for
+        preparing=$!
+        scripts/install_packages.sh cmake ninja-build libgtest-dev clang clang-format \
             clang-tidy libclang-rt-dev lld nlohmann-json3-dev shellcheck util-linux lintian dpkg-dev file \
             curl man-db python3
         start_aside check_aside
-        check "துணைக் கோப்புகள்" scripts/prepare_objects.sh
+        check "துணைக் கோப்புகள்" wait "$preparing"
         check "வலைதளங்களின் துணைக் கோப்புகள்" scripts/setup_web.sh
         check "கட்டுதல்" build tests
         check "உலாவிச் சோதனையின் கருவிகள்" scripts/setup_browser_tests.sh
