@@ -11,6 +11,7 @@
 
 #include "sources.h"
 #include "support/generated_text.h"
+#include "support/repeated.h"
 
 namespace {
 
@@ -93,6 +94,25 @@ TEST(FrontEnd, TimeALineOfMixedStatementsDoesNotGrow) {
     EXPECT_LE(
         growth({mixedLines(10'000), 10'000}, {mixedLines(100'000), 100'000}, 5, kMaxGrowthOfLines),
         kMaxGrowthOfLines);
+}
+
+/// A line of so many times the statement, below what it needs.
+Sized oneLine(const char* head, const char* statement, int times) {
+    return {head + repeated(statement, times) + "\n", times};
+}
+
+TEST(FrontEnd, TimeAStatementOfOneLongLineDoesNotGrow) {
+    constexpr double kMaxGrowthOfStatements = 3;
+    constexpr const char* kStatements[][2] = {{"செயல் அ():\n    விடு\n", "அ()"},
+                                              {"", "அ = 1 "},
+                                              {"", "அச்சிடு(1)"},
+                                              {"அ = [0]\n", "அ[0] = [1]"}};
+    for (const auto& [head, statement] : kStatements) {
+        EXPECT_LE(growth(oneLine(head, statement, 3'000), oneLine(head, statement, 24'000), 8,
+                         kMaxGrowthOfStatements),
+                  kMaxGrowthOfStatements)
+            << statement;
+    }
 }
 
 TEST(FrontEnd, TimeATermOfAChainDoesNotGrow) {
