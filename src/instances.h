@@ -6,35 +6,13 @@
 namespace pozhil {
 using List = std::vector<std::any>;
 using Dictionary = std::map<std::string, std::any>;
-template <class Value>
-using Entry = std::pair<const std::string, Value>;
 }  // namespace pozhil
 
 POZHIL_INSTANCE class std::vector<std::any>;
-POZHIL_INSTANCE class std::vector<std::function<void()>>;
-POZHIL_INSTANCE class std::set<std::string>;
-POZHIL_INSTANCE class std::_Rb_tree<std::string, std::string, std::_Identity<std::string>,
+POZHIL_INSTANCE class std::map<std::string, std::any>;
+POZHIL_INSTANCE class std::_Rb_tree<std::string, std::pair<const std::string, std::any>,
+                                    std::_Select1st<std::pair<const std::string, std::any>>,
                                     std::less<std::string>>;
-
-#define POZHIL_MAP_INSTANCE(VALUE)                                             \
-    POZHIL_INSTANCE class std::map<std::string, VALUE>;                        \
-    POZHIL_INSTANCE class std::_Rb_tree<std::string, pozhil::Entry<VALUE>,     \
-                                        std::_Select1st<pozhil::Entry<VALUE>>, \
-                                        std::less<std::string>>;
-POZHIL_MAP_INSTANCE(std::any)
-POZHIL_MAP_INSTANCE(std::string)
-POZHIL_MAP_INSTANCE(bool)
-POZHIL_MAP_INSTANCE(int)
-POZHIL_MAP_INSTANCE(float)
-POZHIL_MAP_INSTANCE(WidgetPos)
-#undef POZHIL_MAP_INSTANCE
-
-POZHIL_INSTANCE class std::map<unsigned long long, AnimationState>;
-POZHIL_INSTANCE class std::_Rb_tree<
-    unsigned long long, std::pair<const unsigned long long, AnimationState>,
-    std::_Select1st<std::pair<const unsigned long long, AnimationState>>,
-    std::less<unsigned long long>>;
-
 POZHIL_INSTANCE class std::shared_ptr<_StructBase>;
 POZHIL_INSTANCE class std::__shared_ptr<_StructBase>;
 POZHIL_INSTANCE class std::__shared_count<>;

@@ -225,6 +225,7 @@ protected:
 // The header declares instances extern that the object holds: the two must fit in every state.
 TEST_F(PreparedObjects, LinkInEveryState) {
     ASSERT_NO_FATAL_FAILURE(prepare());
+    EXPECT_LT(fs::file_size(object), 700'000U) << "each installation waits for what it holds";
     expectThatProgramsRun();
 
     // Who includes <iostream> once more gets it, and who wants the catalogue alone needs no object.
