@@ -6,7 +6,7 @@ install(TARGETS pozhil companion RUNTIME DESTINATION "${installed}")
 install(DIRECTORY "உள்ளடக்கம்" "திரட்டு" "தொகுப்புகள்" DESTINATION "${installed}"
         PATTERN ".gitkeep" EXCLUDE PATTERN "*.stamp" EXCLUDE
         PATTERN "warmed_web" EXCLUDE)
-install(FILES src/error_handler.cpp src/held_runtime.h src/instances.h src/plain_casts.h
+install(FILES src/error_handler.cpp src/held_bodies.h src/held_runtime.h src/instances.h src/plain_casts.h
         src/warmed_header.h src/warmed_web.h
         DESTINATION "${installed}/src")
 install(FILES ${EMITTED_FILES} DESTINATION "${installed}/src/emitted")

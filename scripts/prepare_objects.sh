@@ -10,7 +10,7 @@ cd "$root"
 object=திரட்டு/error_handler_native_linux.o
 include=உள்ளடக்கம்
 stamp="$object.stamp"
-sources=(src/error_handler.cpp src/held_runtime.h src/instances.h src/emitted/*.cpp
+sources=(src/error_handler.cpp src/held_{bodies,runtime}.h src/instances.h src/emitted/*.cpp
     "$include"/error_handler.h "$include"/error_codes.h scripts/prepare_objects.sh)
 
 identity() {

@@ -162,51 +162,12 @@ int ErrorHandler::visualWidth(std::string text) {
 #endif
 
 #ifdef POZHIL_WITH_INSTANCES
-#include "emitted/includes.cpp"
-
 #define POZHIL_HELD [[gnu::used]] inline
-#define POZHIL_OR_ELSE(VALUE)
-#include "emitted/animation_state.cpp"
-#include "emitted/base_structures.cpp"
-#include "emitted/widget_position.cpp"
-#include "held_runtime.h"
+#include "held_bodies.h"
 
 #define POZHIL_INSTANCE template
 #include "instances.h"
 #undef POZHIL_INSTANCE
-
-// Here the variables are of a kind of their own: src/emitted/variables.cpp is what others define.
-PozhilVariables global_vars;
-
-void PozhilVariables::lookUp(const char* name, Known& place) {
-    place = {name, &(*this)[std::string(name)]};
-}
-
-#include "emitted/animations.cpp"
-#include "emitted/any_to_json.cpp"
-#include "emitted/any_to_string.cpp"
-#include "emitted/arithmetic.cpp"
-#include "emitted/comparison.cpp"
-#include "emitted/element_access.cpp"
-#include "emitted/files.cpp"
-#include "emitted/globals.cpp"
-#include "emitted/indices.cpp"
-#include "emitted/input.cpp"
-#include "emitted/input_state.cpp"
-#include "emitted/length.cpp"
-#include "emitted/module_path.cpp"
-#include "emitted/negation.cpp"
-#include "emitted/number_reading.cpp"
-#include "emitted/number_values.cpp"
-#include "emitted/properties.cpp"
-#include "emitted/removal.cpp"
-#include "emitted/rounding.cpp"
-#include "emitted/runtime_failure.cpp"
-#include "emitted/screen_size.cpp"
-#include "emitted/scroll_state.cpp"
-#include "emitted/text.cpp"
-#include "emitted/time.cpp"
-#include "emitted/type_names.cpp"
 
 /// Tells scripts/warm_header.sh that this object holds them.
 extern "C" int pozhil_instances;

@@ -29,6 +29,23 @@
 #define NANOVG_GLES2_IMPLEMENTATION
 #import "nanovg_gl.h"  // its second part has no guard: once imported it isn't included again
 
+// What every program carries is compiled once, as for console programs: held_bodies.h, in an object
+// of its own.
+#define pozhil_runtime_is_held
+#include "emitted/animation_state.cpp"
+#include "emitted/base_structures.cpp"
+#include "emitted/widget_position.cpp"
+
+#define POZHIL_HELD extern
+#define POZHIL_OR_ELSE(VALUE) = VALUE
+#include "held_runtime.h"
+#undef POZHIL_HELD
+#undef POZHIL_OR_ELSE
+
+#include "emitted/animation.cpp"
+#include "emitted/call_guard.cpp"
+#include "emitted/plain_text.cpp"
+
 namespace pozhil_warmed {
 
 using List = std::vector<std::any>;
@@ -160,6 +177,8 @@ inline void containers(std::string text, List any) {
     dictionary<std::string, float>(text);
     dictionary<std::string, std::function<void()>>(text);
     dictionary<int, std::function<void()>>(0);
+    dictionary<unsigned long long, AnimationState>(0);
+    dictionary<std::string, WidgetPos>(text);
 
     std::set<std::string> names = {text};
     names.insert(text);

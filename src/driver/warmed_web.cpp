@@ -24,6 +24,9 @@ constexpr const char* kSettingsOfUsers[] = {
     "EM_COMPILER_WRAPPER", "CPATH",     "CPLUS_INCLUDE_PATH", "CCC_OVERRIDE_OPTIONS",
 };
 
+/// The headers, and the objects of what they use and of what they declare.
+constexpr const char* kPrepared[] = {"/headers.h.pch", "/instances.o", "/runtime.o"};
+
 /// A line of the list `fits`: "SIZE TIME PATH", the time in seconds.
 struct Dependency {
     long long size = 0;
@@ -59,13 +62,15 @@ std::string placeOf(const std::string& path) {
     return fs::canonical(fs::u8path(path), ignored).u8string();
 }
 
-/// The list begins with the compiler and the two prepared files: where they lie now, not in a
+/// The list begins with the compiler and the prepared files: where they lie now, not in a
 /// folder from which they were moved or copied.
-bool areFit(const std::vector<Dependency>& files, const std::string& headers,
-            const std::string& object) {
-    return files.size() > 3 && files[0].path == placeOf(findProgram(kCompiler)) &&
-           files[1].path == headers && files[2].path == object &&
-           std::all_of(files.begin(), files.end(), isAsItWas);
+bool areFit(const std::vector<Dependency>& files, const std::string& directory) {
+    if (files.size() <= 1 + std::size(kPrepared)) return false;
+    if (files[0].path != placeOf(findProgram(kCompiler))) return false;
+    for (std::size_t i = 0; i < std::size(kPrepared); i++) {
+        if (files[1 + i].path != directory + kPrepared[i]) return false;
+    }
+    return std::all_of(files.begin(), files.end(), isAsItWas);
 }
 
 /// `path` as one word of a list of flags, which em++ reads as a shell would.
@@ -88,8 +93,8 @@ bool g_isWarmedWebRefused = false;
 std::string warmedSetting(const std::string& objectDirectory) {
     if (std::any_of(std::begin(kSettingsOfUsers), std::end(kSettingsOfUsers), isSet)) return "";
     const std::string directory = placeOf(objectDirectory + "/warmed_web");
-    const std::string header = directory + "/headers.h";  // clang adds the ending by itself
-    const std::string object = directory + "/instances.o";
-    if (!areFit(readDependencies(directory + "/fits"), header + ".pch", object)) return "";
-    return "EMCC_CFLAGS=-include " + asFlag(header) + " " + asFlag(object);
+    if (!areFit(readDependencies(directory + "/fits"), directory)) return "";
+    return "EMCC_CFLAGS=-include " +
+           asFlag(directory + "/headers.h") +  // clang adds the ending by itself
+           " " + asFlag(directory + kPrepared[1]) + " " + asFlag(directory + kPrepared[2]);
 }

@@ -1,6 +1,7 @@
 // What scripts/warm_web.sh has prepared for em++: the headers of every application, precompiled,
-// and the object of what they instantiate. They are handed over by the environment: the command
-// stays as it is, and without them a build only takes longer.
+// and the objects of what they instantiate and of the text that every program carries. They are
+// handed over by the environment: the command stays as it is, and without them a build only takes
+// longer.
 #pragma once
 
 #include <string>

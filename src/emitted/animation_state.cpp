@@ -1,4 +1,4 @@
-// What an animation knows of itself. The diagnostics object holds the instances of a map of them.
+// What an animation knows of itself.
 
 struct AnimationState {
     double startTime = 0.0;

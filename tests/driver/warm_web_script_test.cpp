@@ -20,21 +20,27 @@ protected:
         fs::remove(home / "src");
         fs::create_directories(home / "src");
         writeFileText(home / "src" / "warmed_web.h", "// தலைப்புகள்\n");
+        writeFileText(home / "src" / "held_bodies.h", "// வரையறைகள்\n");
         writeFileText(root / "system.h", "// ஒரு தலைப்பு\n");
+        writeFileText(root / "library.h", "// இன்னொன்று\n");
         compilerDoes("true");
     }
 
-    /// An em++ that starts its clang as the real one does, reads the header `system.h` and takes
-    /// what it is given, unless `check` fails.
+    /// An em++ that starts its clang as the real one does, reads the header `system.h`, for the
+    /// bodies `library.h`, and takes what it is given, unless `check` fails.
     void compilerDoes(const std::string& check) const {
         const std::string place = root.u8string();
         script("clang",
                "echo \"$@\" >>'" + place +
                    "/clang.calls'\nwhile [ \"$1\" != -o ]; do shift; done\necho made >\"$2\"");
+        const std::string clang = "'" + place + "/bin/clang' \"$@\"";
+        const auto reads = [&place](const std::string& header) {
+            return " && echo '. " + place + "/" + header + "' >&2 ;;\n";
+        };
         script("em++",
-               check +
-                   " || exit 1\ncase \" $* \" in *' c++-header '*)\n\"$EM_COMPILER_WRAPPER\" '" +
-                   place + "/bin/clang' \"$@\" && echo '. " + place + "/system.h' >&2 ;;\nesac");
+               check + " || exit 1\ncase \" $* \" in\n*' c++-header '*) \"$EM_COMPILER_WRAPPER\" " +
+                   clang + reads("system.h") + "*' -x c++ -c '*) " + clang + reads("library.h") +
+                   "esac");
         fs::last_write_time(root / "bin" / "em++", fs::file_time_type() + std::chrono::hours(1));
     }
 
@@ -60,15 +66,22 @@ protected:
     const fs::path warmed = home / "திரட்டு" / "warmed_web";
 };
 
-TEST_F(WarmWebScript, MakesHeadersAndTheirObjectByTheSameClang) {
+TEST_F(WarmWebScript, MakesHeadersAndTheirObjectsByTheSameClang) {
     ASSERT_TRUE(isMade());
-    EXPECT_EQ(readFileText(warmed / "headers.h.pch"), "made\n");
-    EXPECT_EQ(readFileText(warmed / "instances.o"), "made\n");
-    const std::string calls = readFileText(root / "clang.calls");
-    const std::size_t second = calls.find('\n') + 1;
+    for (const char* name : {"headers.h.pch", "instances.o", "runtime.o"}) {
+        EXPECT_EQ(readFileText(warmed / name), "made\n") << name;
+    }
+    std::string calls = readFileText(root / "clang.calls");
+    const std::size_t second = calls.find('\n') + 1, third = calls.find('\n', second) + 1;
+    const std::string bodies = calls.substr(third);
+    for (const char* flag :
+         {"/src/held_bodies.h ", "-std=c++17", "_LIBCPP_ABI_OPTIMIZED_FUNCTION", "-fwrapv"}) {
+        EXPECT_NE(bodies.find(flag), std::string::npos) << bodies;
+    }
+    calls.resize(third);
     EXPECT_NE(calls.substr(0, second).find("-x c++-header " + home.u8string()), std::string::npos);
     EXPECT_NE(calls.substr(second).find("-x none -c "), std::string::npos) << calls;
-    for (const char* flag : {"-std=c++17", "-fpch-codegen"}) {
+    for (const char* flag : {"-std=c++17", "_LIBCPP_ABI_OPTIMIZED_FUNCTION", "-fpch-codegen"}) {
         EXPECT_LT(calls.find(flag), second) << calls;
         EXPECT_NE(calls.find(flag, second), std::string::npos) << calls;
     }
@@ -81,10 +94,14 @@ TEST_F(WarmWebScript, ListsWhatBothDependOn) {
     for (std::string line; std::getline(lines, line);) {
         paths.push_back(line.substr(line.find(' ', line.find(' ') + 1) + 1));
     }
-    const std::vector<std::string> expected = {
-        (root / "bin" / "em++").u8string(), (warmed / "headers.h.pch").u8string(),
-        (warmed / "instances.o").u8string(), (home / "src" / "warmed_web.h").u8string(),
-        (root / "system.h").u8string()};
+    const std::vector<std::string> expected = {(root / "bin" / "em++").u8string(),
+                                               (warmed / "headers.h.pch").u8string(),
+                                               (warmed / "instances.o").u8string(),
+                                               (warmed / "runtime.o").u8string(),
+                                               (home / "src" / "warmed_web.h").u8string(),
+                                               (home / "src" / "held_bodies.h").u8string(),
+                                               (root / "library.h").u8string(),
+                                               (root / "system.h").u8string()};
     EXPECT_EQ(paths, expected);
 }
 
@@ -92,8 +109,9 @@ TEST_F(WarmWebScript, MakesThemAnewOnlyWhenSomethingChanged) {
     EXPECT_TRUE(isMade());
     EXPECT_FALSE(isMade());
     for (const fs::path& file :
-         {root / "system.h", home / "src" / "warmed_web.h", root / "bin" / "em++",
-          home / "scripts" / "warm_web.sh", warmed / "headers.h.pch", warmed / "instances.o"}) {
+         {root / "system.h", root / "library.h", home / "src" / "warmed_web.h",
+          home / "src" / "held_bodies.h", root / "bin" / "em++", home / "scripts" / "warm_web.sh",
+          warmed / "headers.h.pch", warmed / "instances.o", warmed / "runtime.o"}) {
         SCOPED_TRACE(file);
         std::ofstream(file, std::ios::app) << "\n";
         EXPECT_TRUE(isMade());
@@ -166,7 +184,7 @@ TEST_F(WarmWebScript, TwoRunsMakeThemOnce) {
                                           {work.u8string(), environment(), "", 120});
     EXPECT_EQ(both.exitCode, 0) << both.err;
     const std::string calls = readFileText(root / "clang.calls");
-    EXPECT_EQ(std::count(calls.begin(), calls.end(), '\n'), 2) << calls;
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), '\n'), 3) << calls;
     EXPECT_FALSE(isMade());
 }
 
