@@ -29,7 +29,7 @@ screen() { "${terminal[@]}" capture-pane -e -p; }
 wait_for() {
     local _
     for _ in $(seq 150); do
-        ! screen | grep -qF -- "$1" || return 0
+        ! screen | grep -F -- "$1" >/dev/null || return 0
         sleep 0.2
     done
     screen >&2

@@ -15,7 +15,7 @@ sources=(src/error_handler.cpp src/held_{bodies,runtime}.h src/instances.h src/e
 
 identity() {
     stat -Lc '%n %s %Y' "$(command -v g++)" &&
-        g++ --version | head -n 1 &&
+        g++ --version | sed -n 1p &&
         cksum "${sources[@]}" &&
         stat -c '%s %Y' "$object"
 }

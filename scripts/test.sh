@@ -68,7 +68,7 @@ run_tests() {
 
 # Another version of the tools formats and warns differently: that would say nothing of the code.
 check_looks() {
-    if clang-tidy --version | grep -q 'version 14\.' && clang-format --version | grep -q ' 14\.'; then
+    if clang-tidy --version | grep 'version 14\.' >/dev/null && clang-format --version | grep ' 14\.' >/dev/null; then
         check "வடிவம் (clang-format)" scripts/format.sh --check
         check "குறை தேடல் (clang-tidy)" scripts/lint.sh
     else

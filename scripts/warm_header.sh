@@ -16,8 +16,9 @@ plain="${warmed%.gch}"  # what g++ opens when a file asks for <iostream> once mo
 held="$root/$include/nanovg/held_instances.h"
 stamp="$warmed.stamp"  # line 1: g++ and the list; then every file that was read, one a line
 
-# A program that is compiled with the declarations must be linked with the instances.
-if nm "$object" 2>/dev/null | grep -q pozhil_instances; then
+# A program that is compiled with the declarations must be linked with the instances. With -q grep would leave
+# before nm has said all, and nm would fail by that.
+if nm "$object" 2>/dev/null | grep pozhil_instances >/dev/null; then
     headers=src/warmed_header.h
     notes=("$held")
     own=("$headers" src/{held_runtime,instances,plain_casts}.h src/emitted/*.cpp "$include"/error_{codes,handler}.h)
@@ -28,7 +29,7 @@ else
 fi
 
 compiler=$(command -v g++)
-identity="$(stat -Lc '%n %s %Y' "$compiler") $(g++ --version | head -n 1) $headers"
+identity="$(stat -Lc '%n %s %Y' "$compiler") $(g++ --version | sed -n 1p) $headers"
 identity+=" $(cat "${own[@]}" | cksum)"
 identity+=" $(stat -c '%s %Y' "$object" 2>/dev/null || true)"
 

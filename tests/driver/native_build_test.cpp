@@ -222,6 +222,16 @@ protected:
     }
 };
 
+// One who stops listening to nm makes it fail, and would take the object for one without instances.
+TEST_F(PreparedObjects, AreKnownWhereNmHasMoreToSay) {
+    ASSERT_NO_FATAL_FAILURE(prepare());
+    script("nm", "/usr/bin/nm \"$@\" && seq 100000");
+    const auto made = fs::last_write_time(header);
+    EXPECT_EQ(runScript("warm_header.sh"), 0);
+    EXPECT_EQ(fs::last_write_time(header), made);
+    EXPECT_TRUE(fs::exists(included / "nanovg" / "held_instances.h"));
+}
+
 // The header declares instances extern that the object holds: the two must fit in every state.
 TEST_F(PreparedObjects, LinkInEveryState) {
     ASSERT_NO_FATAL_FAILURE(prepare());

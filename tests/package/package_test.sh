@@ -23,7 +23,7 @@ lintian --fail-on error "$package"
 
 # The package's number is the one that the compiler tells.
 version=$(dpkg-deb -f "$package" Version)
-"$build/bin/பொழில்" --பதிப்பு | grep -qF "மு-பதிப்பு - $version" ||
+"$build/bin/பொழில்" --பதிப்பு | grep -F "மு-பதிப்பு - $version" >/dev/null ||
     { echo "version $version isn't the compiler's" >&2; exit 1; }
 
 mount --bind /proc "$root/proc"
