@@ -1,6 +1,8 @@
 // The steps of the tests' script: what they count and tell, also of those that run aside.
 #include <sys/wait.h>
 
+#include <map>
+
 #include "driver/live_process.h"
 #include "driver/workplace.h"
 #include "support/pattern.h"
@@ -79,6 +81,18 @@ TEST_F(StepsScript, AllThatPassedIsASuccess) {
             "summary");
     EXPECT_EQ(result.exitCode, 0) << result.err;
     EXPECT_TRUE(shows(result.out, "\n1 passed, 0 failed\n")) << result.out;
+}
+
+TEST_F(StepsScript, TellWhetherAllTookNoLongerThanItShould) {
+    const std::map<std::string, std::string> cases = {
+        {"''", "^⏱ 5\\d வினாடிகள், "},
+        {"100", "^⏱ 5\\d வினாடிகள் \\(இலக்கு 100 ✔\\), "},
+        {"49", "^⏱ 5\\d வினாடிகள் \\(இலக்கு 49 ✗\\), "}};
+    for (const auto& [aim, told] : cases) {
+        const ProcessResult result = run("check a true\nSECONDS=50\nsummary " + aim);
+        EXPECT_EQ(result.exitCode, 0) << result.err;
+        EXPECT_TRUE(Pattern(told).isIn(result.out)) << result.out;
+    }
 }
 
 TEST_F(StepsScript, AsideBehindTheOthersPrintsWholeWhenItIsJoined) {
