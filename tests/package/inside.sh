@@ -17,6 +17,7 @@ has() { grep -q -- "$2" <<<"$1" || fail "$3: $1"; }
 rm -f /var/lib/man-db/auto-update
 dpkg -i /tmp/package/*.deb
 [ -f /usr/lib/pozhil/உள்ளடக்கம்/nanovg/iostream.gch ] || fail "no header was warmed"
+[ -f /usr/lib/pozhil/திரட்டு/warmed_web/fits ] || fail "nothing was prepared for em++"
 useradd --create-home learner
 
 cat >/tmp/package/use.sh <<'USE'
