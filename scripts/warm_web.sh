@@ -3,8 +3,9 @@
 # so that em++ builds an application in a third of the time. FOLDER holds the compiler with its
 # companions; without one, this checkout. What is made lies in FOLDER/திரட்டு/warmed_web: the headers
 # (src/warmed_web.h), the object of all that they instantiate, that of what they declare
-# (src/held_bodies.h), and `fits`, a list of the files that these depend on, em++ first. The compiler hands them to em++ while each of these is as it was, and
-# builds without them otherwise. Remade when one of them changes; else it costs milliseconds.
+# (src/held_bodies.h), and `fits`, a list of the files that these depend on, em++ first. The compiler
+# hands them to em++ while each of these is as it was, and builds without them otherwise. Remade when
+# one of them changes; else it costs milliseconds.
 set -euo pipefail
 
 headers=headers.h.pch
