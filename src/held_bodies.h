@@ -1,6 +1,5 @@
-// What held_runtime.h declares, compiled into the object of console programs, and for applications
-// into an object of its own (scripts/warm_web.sh). In the former POZHIL_HELD says what keeps
-// functions there.
+// What held_runtime.h declares, compiled: src/error_handler.cpp includes it for console programs,
+// scripts/warm_web.sh makes an object of it for applications.
 #include "emitted/includes.cpp"
 #include "error_codes.h"
 #include "error_handler.h"
@@ -8,10 +7,6 @@
 #ifndef POZHIL_HELD
 #define POZHIL_HELD
 #endif
-#define POZHIL_OR_ELSE(VALUE)
-#include "emitted/animation_state.cpp"
-#include "emitted/base_structures.cpp"
-#include "emitted/widget_position.cpp"
 #include "held_runtime.h"
 
 // Here the variables are of a kind of their own: src/emitted/variables.cpp is what others define.

@@ -1,10 +1,23 @@
-// What the diagnostics object holds of the text that every program carries. The warmed header
-// declares it, and g++ passes over that text; POZHIL_HELD is `extern` there. In the object it makes
-// each function inline and kept: a program that is built without the warmed header brings its own,
-// and the two must not clash. Variables have labels of the object's own for the same reason.
+// What an object holds of the text that every program carries: the diagnostics object for console
+// programs, one of its own for applications. A warmed header declares it, and the compiler passes
+// over that text. Where the bodies follow (held_bodies.h) POZHIL_HELD stands before each function:
+// in the diagnostics object it makes them inline and kept, for a program that is built without the
+// warmed header brings its own, and the two must not clash. Variables have labels of the object's
+// own for the same reason.
 //
 // Each stands here as in src/emitted, in the order of the generated file. The value of a parameter
-// that may be left out is POZHIL_OR_ELSE(VALUE): the object finds it in the text.
+// that may be left out is POZHIL_OR_ELSE(VALUE): bodies find it in the text.
+#include "emitted/animation_state.cpp"
+#include "emitted/base_structures.cpp"
+#include "emitted/widget_position.cpp"
+
+#ifdef POZHIL_HELD
+#define POZHIL_OR_ELSE(VALUE)
+#else
+#define pozhil_runtime_is_held
+#define POZHIL_HELD extern
+#define POZHIL_OR_ELSE(VALUE) = VALUE
+#endif
 
 /// All variables of a program. A name that stands in its text is known by its address, and nothing
 /// ever takes a variable away: so an entry is looked up by its name once, and then found here.
@@ -127,3 +140,12 @@ POZHIL_HELD long long fn_மேல்எண்(long double val);
 POZHIL_HELD long long fn_கீழ்எண்(long double val);
 POZHIL_HELD std::any fn_நீக்கு(std::any& lst_any, const std::any& item, std::string file, int line);
 POZHIL_HELD std::any fn_நீக்கு(std::any&& lst_any, const std::any& item, std::string file, int line);
+#undef POZHIL_HELD
+#undef POZHIL_OR_ELSE
+
+// What is small stands in the header itself.
+#ifdef pozhil_runtime_is_held
+#include "emitted/animation.cpp"
+#include "emitted/call_guard.cpp"
+#include "emitted/plain_text.cpp"
+#endif

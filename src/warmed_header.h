@@ -10,21 +10,7 @@
 #endif
 
 #include "emitted/includes.cpp"
-
-#define pozhil_runtime_is_held
-#include "emitted/animation_state.cpp"
-#include "emitted/base_structures.cpp"
-#include "emitted/widget_position.cpp"
-
-#define POZHIL_HELD extern
-#define POZHIL_OR_ELSE(VALUE) = VALUE
 #include "held_runtime.h"
-#undef POZHIL_HELD
-#undef POZHIL_OR_ELSE
-
-#include "emitted/animation.cpp"
-#include "emitted/call_guard.cpp"
-#include "emitted/plain_text.cpp"
 #include "plain_casts.h"
 
 #define POZHIL_INSTANCE extern template

@@ -1,7 +1,8 @@
 // What scripts/warm_web.sh precompiles for em++: the headers of a web application's text, and what
 // such texts do with them, time and again. Nothing of it runs: what is used here is instantiated in
 // the precompiled header and compiled once, in the object beside it, and no more in each program.
-// A use that is missing here only costs a program its time.
+// A use that is missing here only costs a program its time. Of the text that every program carries
+// it has what held_runtime.h declares.
 #include <emscripten.h>
 #include <emscripten/bind.h>
 #include <emscripten/html5.h>
@@ -12,6 +13,7 @@
 #include "emitted/includes.cpp"
 #include "error_codes.h"
 #include "error_handler.h"
+#include "held_runtime.h"
 #include "nanovg.h"
 
 // The tables of these headers are made in every program that sees them, and so in the object too.
@@ -28,23 +30,6 @@
 // clang-format on
 #define NANOVG_GLES2_IMPLEMENTATION
 #import "nanovg_gl.h"  // its second part has no guard: once imported it isn't included again
-
-// What every program carries is compiled once, as for console programs: held_bodies.h, in an object
-// of its own.
-#define pozhil_runtime_is_held
-#include "emitted/animation_state.cpp"
-#include "emitted/base_structures.cpp"
-#include "emitted/widget_position.cpp"
-
-#define POZHIL_HELD extern
-#define POZHIL_OR_ELSE(VALUE) = VALUE
-#include "held_runtime.h"
-#undef POZHIL_HELD
-#undef POZHIL_OR_ELSE
-
-#include "emitted/animation.cpp"
-#include "emitted/call_guard.cpp"
-#include "emitted/plain_text.cpp"
 
 namespace pozhil_warmed {
 

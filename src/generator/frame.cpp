@@ -16,8 +16,9 @@ bool g_isGlobalScope = false;
 
 }  // namespace
 
-/// Marks text that every program carries to the letter: the diagnostics object holds it compiled,
-/// and the warmed header says so. g++ then passes over it; without that header it compiles it.
+/// Marks text that every program carries to the letter: an object holds it compiled, and the warmed
+/// header says so. The compiler of programs then passes over it; without that header it compiles
+/// it.
 constexpr bool kHeld = true;
 
 // Each section needs only what stands before it. An empty one keeps the place of text to come.

@@ -164,7 +164,7 @@ private:
         const char* title;
         std::string_view text;
         void (Generator::*write)();
-        bool isHeld = false;  ///< the diagnostics object may hold it
+        bool isHeld = false;  ///< an object may hold it compiled
     };
     static const Section kSections[];
 

@@ -1,5 +1,5 @@
-// The text that the diagnostics object holds compiled: what the warmed header declares of it stands
-// in every program to the letter.
+// The text that is held compiled, for console programs and for applications: what the warmed
+// headers declare of it stands in every program to the letter.
 #include <gtest/gtest.h>
 
 #include "support/case_files.h"
@@ -52,7 +52,8 @@ TEST(HeldText, HasEachVariableAsItIsDeclared) {
     }
 }
 
-// The browser's build has no such object: its blocks stand between the others.
+// The blocks for the browser stand between those that are held, and are compiled in each
+// application.
 TEST(HeldText, HoldsNothingOfTheBrowserAlone) {
     EXPECT_EQ(heldText().find("#include <emscripten"), std::string::npos);
 }
